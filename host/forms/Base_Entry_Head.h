@@ -1,0 +1,60 @@
+// A document list: heads above, lines of the selected head below, and the entry form behind it.
+#pragma once
+
+#include <memory>
+
+#include "host/forms/Base_Panel.h"
+
+namespace host {
+
+class TFrm_Sys_Filter;
+class Tfrm_Base_Entry_Body;
+
+// What a list tells its base in InitForm.
+struct EntryHeadSettings {
+    std::string table;            // "D6601"
+    std::string key_field;        // "NOID"
+    std::string lookup_field;     // "KM_ID"
+    std::string amount_fields;    // "J,D", fields of the lines with sums
+    std::string head_query;       // the filter's condition is appended as " WHERE " + condition
+    std::string head_order;       // " ORDER BY …", ours
+    std::string line_query;       // "%s" stands for the quoted key
+    std::string delete_statement; // "%S" stands for the quoted key
+    std::string period_field;     // field naming the document's period; empty when it has none
+};
+
+class TFrm_Base_Entry_Head : public TFrm_Base_Panel {
+public:
+    explicit TFrm_Base_Entry_Head(TForm* parent);
+
+    virtual void InitForm(const Trecord& record);
+    virtual void GetData(); // heads by Condition, then the lines of the selected one
+
+    TClientDataSet AdoQry_Line;
+    TDBGridEh DBGridEhLine{this, "DBGridEhLine", &AdoQry_Line};
+    TLabel ConditionLabel{this, "ConditionLabel"};
+    std::string Condition; // of the filter
+    EntryHeadSettings Settings;
+
+protected:
+    virtual TFrm_Sys_Filter* Filter() { return nullptr; }
+    virtual Tfrm_Base_Entry_Body* EntryForm() { return nullptr; }
+
+    void Act_AddExecute() override;
+    void Act_CopyAddExecute() override;
+    void Act_ModifyExecute() override; // read-only when audited, posted or of another period
+    // Asks, naming what goes; audited, posted, or of a closed period: refused with the reason.
+    void Act_DeleteExecute() override;
+    void Act_LocateExecute() override;
+    void Act_RefreshExecute() override;
+    // The marked rows: T, sk, sdate are written; the maker may not audit his own document when
+    // the books demand two persons; a posted document is not un-audited.
+    void Act_AuditExecute() override;
+    void Act_UnAuditExecute() override;
+    void DBGridEhDblClick() override;
+    // Why the selected document cannot be changed; "" when it can.
+    virtual std::string WhyLocked();
+    void LoadLines();
+};
+
+} // namespace host

@@ -1,0 +1,50 @@
+// The door to the database. The host hands texts through; the program puts an engine behind it.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/values/value.h"
+
+namespace host {
+
+struct ColumnDescription {
+    std::string name;
+    FieldType type = FieldType::Text;
+    int size = 0;     // characters of a text column, 0 unknown
+    int decimals = 2; // of an Amount column
+};
+
+// Receives a result row by row. `text` of a cell is only valid during the call.
+struct CellView {
+    bool null = true;
+    std::int64_t integer = 0; // Integer; Boolean 0/1; Amount in ten-thousandths; DateTime in ms since 1970-01-01
+    std::string_view text;    // Text
+};
+class RowReceiver {
+public:
+    virtual ~RowReceiver() = default;
+    virtual void columns(const std::vector<ColumnDescription>& columns) = 0;
+    virtual void row(const std::vector<CellView>& cells) = 0;
+};
+
+// Who did what, for the operation log.
+struct LogEntry {
+    std::string function;  // "661"
+    std::string key;       // "2024-03记005"
+    std::string operation; // "Add"
+};
+
+class DataPort {
+public:
+    virtual ~DataPort() = default;
+    // Runs a batch and hands the first result set to `receiver`. Throws DataError.
+    virtual void query(std::string_view sql, RowReceiver& receiver) = 0;
+    // Runs a batch in one transaction, all of it or nothing, and writes its row of the operation
+    // log in the same transaction. Returns when it is durable. Throws DataError.
+    virtual void execute(std::string_view batch, const LogEntry& entry) = 0;
+};
+
+} // namespace host
