@@ -1,6 +1,7 @@
 // The parser's front door: a batch text in, its syntax tree out.
 #pragma once
 
+#include "tsql/lexer/token.h"
 #include "tsql/syntax/statement.h"
 
 #include <string_view>
@@ -15,7 +16,10 @@ namespace tsql {
 //     const auto& update = as<Update>(*batch.statements.front());
 Batch parse(std::string_view text);
 
-// Parses a text that is one expression and nothing else, such as the default of a column.
+// The same for tokens already cut from this text, as one has them after making its normal form.
+Batch parse(std::string_view text, const std::vector<Token>& tokens);
+
+// Parses a text that is one value or condition and nothing else, such as the default of a column.
 ExpressionPtr parse_expression(std::string_view text);
 
 } // namespace tsql

@@ -64,6 +64,10 @@ using StatementPtr = std::unique_ptr<Statement>;
 // tree keeps no reference to the text it came from.
 struct Batch {
     std::vector<StatementPtr> statements;
+    // Ordinals of the literals that are no Literal node but part of the tree's shape: the 18 and 2
+    // of decimal(18,2), an alias in quotes, the seed of an identity. Texts that differ in one of
+    // them are different statements, however alike they look.
+    std::vector<int> shaping_literals;
 };
 
 } // namespace tsql
