@@ -45,6 +45,7 @@ public:
     int GroupIndex = 0; // buttons of one form with the same index release each other; 0 none
     std::function<void()> OnClick;
     void Click();
+    void changed() override; // pressing one releases the others
 };
 
 class TCheckBox : public TWinControl {
@@ -68,6 +69,7 @@ public:
     std::string value_text() const override { return Checked ? "true" : "false"; }
     void set_checked(bool on);
     bool key_down(Key key) override;
+    void changed() override; // also when a program checks it, the others are unchecked
 };
 
 class TProgressBar : public TControl {
@@ -89,6 +91,8 @@ public:
     std::string Right; // action of the rights table ("add", "audit"); empty: always allowed
     bool IsMenuItem = false;
     std::function<void()> OnExecute;
+    // May it run now? Asked before Execute; a form may add a condition of its own.
+    std::function<bool()> OnUpdate;
     bool Execute(); // false when not usable; refuses with a message when the right is missing
 };
 

@@ -46,7 +46,7 @@ public:
     using Listener = std::function<void()>;
     int listen(Listener listener);
     void forget(int handle);
-    void changed(); // tells the listeners
+    virtual void changed(); // tells the listeners
 
 private:
     TForm* form_;

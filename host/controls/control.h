@@ -28,6 +28,8 @@ public:
     bool usable() const { return Visible.get() && Enabled.get(); }
     // The plain text of what the control holds, "true"/"false" for a check mark.
     virtual std::string value_text() const { return Caption; }
+    // What messages call it: its caption without colons and blanks, else its name.
+    std::string label() const;
 };
 
 class TWinControl : public TControl {
@@ -48,6 +50,9 @@ public:
     virtual bool key_down(Key key);
     // A character typed into it.
     virtual void type(char32_t character);
+    // The focus is about to go elsewhere: takes over what was typed, in its proper form, or refuses by
+    // Abort(). Runs before OnExit.
+    virtual void leave() {}
     // Everything it holds replaced by `text`, as if typed; runs the change events.
     virtual void enter_text(const std::string& text);
 };

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "host/controls/control.h"
+#include "host/controls/suggestion.h"
 #include "host/values/amount.h"
 #include "host/values/date.h"
 
@@ -23,6 +24,21 @@ public:
     void type(char32_t character) override;
     bool key_down(Key key) override;
     void enter_text(const std::string& text) override;
+    void changed() override;
+    // All of it is marked, so that the next character replaces it; set when the focus arrives.
+    void SelectAll();
+    bool all_selected() const { return all_selected_; }
+
+protected:
+    virtual bool several_lines() const { return false; }
+    void check_text(const std::string& text) const; // MaxLength, characters; refuses by Abort()
+    bool leaving_by_cancel() const;
+
+private:
+    void put(const std::u32string& characters, std::size_t caret);
+    std::string last_text_;
+    std::size_t caret_ = 0; // in characters
+    bool all_selected_ = false;
 };
 
 // Several lines of text.
@@ -30,6 +46,10 @@ class TMemo : public TEdit {
 public:
     using TEdit::TEdit;
     const char* ClassName() const override { return "TMemo"; }
+    bool key_down(Key key) override; // Enter begins a line
+
+protected:
+    bool several_lines() const override { return true; }
 };
 
 // A number with `Decimals` places between `Min` and `Max`; up and down keys step by one.
@@ -47,9 +67,11 @@ public:
     void enter_text(const std::string& text) override;
     void type(char32_t character) override;
     bool key_down(Key key) override;
+    void leave() override; // "007" becomes "7"; outside the range is refused
 };
 
-// A day, shown YYYY-MM-DD.
+// A day, shown YYYY-MM-DD. "20240305", "2024/3/5", "3-5" and "5" (of this year, of this month) are
+// understood.
 class TDateEdit : public TEdit {
 public:
     TDateEdit(TForm* form, std::string name, std::string caption = "");
@@ -60,6 +82,7 @@ public:
     void clear();
     void enter_text(const std::string& text) override; // refuses what is no day, with a message
     bool key_down(Key key) override;                   // up and down change the day
+    void leave() override;
 };
 
 // A choice. `DropDownList` true: only an item can be chosen.
@@ -76,6 +99,11 @@ public:
     std::string value_text() const override { return Text; }
     void enter_text(const std::string& text) override; // an item's text
     bool key_down(Key key) override;
+    void type(char32_t character) override; // the next item that begins with it
+    void changed() override;
+
+private:
+    std::string last_text_;
 };
 
 // A code field with a lookup button; `Name` shows what the code means.
@@ -85,6 +113,8 @@ public:
     const char* ClassName() const override { return "TLinkEdit"; }
     Property<std::string> DisplayName;
     std::function<void()> OnButtonClick;
+    // Type-ahead: what matches the text typed so far.
+    std::function<std::vector<Suggestion>(const std::string& typed)> OnSuggest;
     bool key_down(Key key) override; // F4 presses the button
 };
 

@@ -1,7 +1,12 @@
 // A grid over a dataset: columns, footers, cell colours, editing in place.
 #pragma once
 
+#include <memory>
+#include <optional>
+
+#include "host/controls/buttons.h"
 #include "host/controls/control.h"
+#include "host/controls/suggestion.h"
 #include "host/dataset/client_dataset.h"
 
 namespace host {
@@ -40,6 +45,7 @@ struct CellParams {
 class TDBGridEh : public TWinControl {
 public:
     TDBGridEh(TForm* form, std::string name, TClientDataSet* dataset = nullptr);
+    ~TDBGridEh() override;
     const char* ClassName() const override { return "TDBGridEh"; }
 
     TClientDataSet* DataSet = nullptr;
@@ -87,17 +93,43 @@ public:
     std::function<void(GridColumn&)> OnButtonClick;
     std::function<void(int column)> OnTitleClick;
     // Type-ahead: the accounts (or summaries) that match what is typed so far in a lookup column.
-    struct Suggestion {
-        std::string value;              // goes into the cell when chosen
-        std::vector<std::string> cells; // code, name, pinyin, side, balance
-        std::string key;
-    };
+    using Suggestion = host::Suggestion;
     std::function<std::vector<Suggestion>(const GridColumn&, const std::string& typed)> OnSuggest;
     TPopupMenu* PopupMenu = nullptr;
 
+    // Editing in place, key by key. A renderer with an editor of its own asks filter_key() for
+    // every character and hands the result to commit_text() when the person goes on.
+    bool editing() const { return edit_text_.has_value(); }
+    std::string edit_text() const { return edit_text_.value_or(""); }
+    void start_edit();                     // with the cell's text; nothing where it may not be edited
+    void set_edit_text(const std::string& text);
+    bool filter_key(char32_t& character);  // OnKeyPress; false when the key was swallowed
+    bool commit_edit();                    // false when the field refused the text
+    void cancel_edit();
+    std::vector<Suggestion> suggestions(); // for what is typed so far
+    void choose(const Suggestion& suggestion);
+
+    // The marked rows, or all, as lines of cells parted by tabs, the titles first.
+    std::string copy_text(bool all = false) const;
+    // Goes to the next row whose current column begins with `typed` (text or pinyin initials).
+    bool find(const std::string& typed);
+    bool marked(int row) const;
+    void leave() override { commit_edit_or_abort(); }
+
 private:
+    struct Watch;
+    void attach() const;
+    void commit_edit_or_abort();
+    void post_typed(const std::string& text);
+    bool move_row(int by);
+    bool to_first_editable();
+    bool row_is_untouched() const;
+
     int column_ = 0;
-    std::vector<int> marked_;
+    std::optional<std::string> edit_text_;
+    std::string find_text_;
+    mutable std::vector<int> marked_; // in order; forgotten when the rows change places
+    mutable std::unique_ptr<Watch> watch_;
 };
 
 } // namespace host

@@ -34,6 +34,10 @@ public:
     // Long work: called with what is done and of how much; answers false when the person asked to
     // stop. `total` 0 hides the bar.
     virtual bool progress(const std::string& what, std::int64_t done, std::int64_t total) = 0;
+    // Can forms be printed and previewed? Their actions are hidden otherwise.
+    virtual bool offers_printing() const { return false; }
+    // For Ctrl+C; an interface without a clipboard forgets it.
+    virtual void set_clipboard(const std::string&) {}
     // The frame repaints before a modal dialog covers it.
     virtual void repaint_frame() = 0;
 };

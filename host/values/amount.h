@@ -19,7 +19,7 @@ public:
     static constexpr std::int64_t scale = 10'000;
 
     constexpr Amount() = default;
-    static constexpr Amount from_units(std::int64_t ten_thousandths) { return Amount(ten_thousandths); }
+    static constexpr Amount from_units(std::int64_t units) { return Amount(units); }
     static Amount from_cents(std::int64_t cents);
     static Amount from_whole(std::int64_t yuan);
 

@@ -1,0 +1,102 @@
+// Pinyin initials by ICU, corrected for the words of accounting.
+#include "host/contract/Zpy.h"
+
+#include <unicode/translit.h>
+
+#include <array>
+#include <memory>
+#include <string_view>
+#include <unordered_map>
+
+#include "host/values/text.h"
+
+namespace host {
+
+namespace {
+
+// Words in which a character is not read as it mostly is. The longest word that fits wins.
+struct Reading {
+    std::u32string_view word;
+    std::string_view initials;
+};
+constexpr std::array readings = {
+    Reading{U"银行", "YH"},   Reading{U"行", "H"},      Reading{U"行政", "XZ"},
+    Reading{U"发行", "FX"},   Reading{U"执行", "ZX"},   Reading{U"进行", "JX"},
+    Reading{U"行业", "HY"},   Reading{U"行为", "XW"},   Reading{U"行驶", "XS"},
+    Reading{U"运行", "YX"},   Reading{U"履行", "LX"},   Reading{U"自行", "ZX"},
+    Reading{U"重", "Z"},      Reading{U"重分类", "CFL"}, Reading{U"重新", "CX"},
+    Reading{U"重估", "CG"},   Reading{U"重组", "CZ"},   Reading{U"重置", "CZ"},
+    Reading{U"重复", "CF"},   Reading{U"长", "C"},      Reading{U"增长", "ZZ"},
+    Reading{U"调", "T"},      Reading{U"调拨", "DB"},   Reading{U"调出", "DC"},
+    Reading{U"调入", "DR"},   Reading{U"调动", "DD"},   Reading{U"调查", "DC"},
+    Reading{U"处", "C"},      Reading{U"差", "C"},      Reading{U"出差", "CC"},
+    Reading{U"差旅", "CL"},   Reading{U"应", "Y"},      Reading{U"还", "H"},
+    Reading{U"率", "L"},      Reading{U"盘", "P"},      Reading{U"乘", "C"},
+    Reading{U"会计", "KJ"},   Reading{U"会", "H"},      Reading{U"折", "Z"},
+    Reading{U"单", "D"},      Reading{U"给", "G"},      Reading{U"供给", "GJ"},
+    Reading{U"给付", "JF"},   Reading{U"传", "C"},      Reading{U"缴", "J"},
+    Reading{U"舍", "S"},      Reading{U"期", "Q"},      Reading{U"识", "S"},
+    Reading{U"模", "M"},      Reading{U"藏", "C"},      Reading{U"厂", "C"},
+    Reading{U"车", "C"},      Reading{U"仓", "C"},      Reading{U"校", "X"},
+    Reading{U"降", "J"},      Reading{U"系", "X"},      Reading{U"系数", "XS"},
+    Reading{U"薄", "B"},      Reading{U"参", "C"},      Reading{U"曾", "C"},
+    Reading{U"朝", "C"},      Reading{U"盛", "S"},      Reading{U"石", "S"},
+    Reading{U"都", "D"},      Reading{U"解", "J"},      Reading{U"契", "Q"},
+    Reading{U"宿", "S"},      Reading{U"宿舍", "SS"},   Reading{U"食", "S"},
+    Reading{U"合", "H"},      Reading{U"弹", "D"},      Reading{U"数", "S"},
+    Reading{U"便", "B"},      Reading{U"卡", "K"},      Reading{U"溢", "Y"},
+    Reading{U"扎", "Z"},      Reading{U"提", "T"},      Reading{U"垫", "D"},
+    Reading{U"贾", "J"},      Reading{U"虚", "X"},      Reading{U"奇", "Q"},
+};
+
+// Reading of one character by the transliterator; 0 for what has none.
+char initial_of(char32_t character) {
+    static const std::unique_ptr<icu::Transliterator> han_latin = [] {
+        UErrorCode status = U_ZERO_ERROR;
+        return std::unique_ptr<icu::Transliterator>(icu::Transliterator::createInstance(
+            "Han-Latin; NFD; [:Nonspacing Mark:] Remove; NFC; Latin-ASCII; Upper",
+            UTRANS_FORWARD, status));
+    }();
+    static std::unordered_map<char32_t, char> known;
+    if (const auto at = known.find(character); at != known.end()) return at->second;
+    icu::UnicodeString text(static_cast<UChar32>(character));
+    if (han_latin) han_latin->transliterate(text);
+    const char16_t first = text.isEmpty() ? u'\0' : text.charAt(0);
+    const bool letter = (first >= u'A' && first <= u'Z') || (first >= u'0' && first <= u'9');
+    return known[character] = letter ? static_cast<char>(first) : '\0';
+}
+
+const Reading* reading_at(std::u32string_view text) {
+    const Reading* best = nullptr;
+    for (const Reading& reading : readings) {
+        if (best != nullptr && reading.word.size() <= best->word.size()) continue;
+        if (text.substr(0, reading.word.size()) == reading.word) best = &reading;
+    }
+    return best;
+}
+
+} // namespace
+
+std::string GetPY(const std::string& text) {
+    const std::u32string characters = to_characters(text);
+    const std::u32string_view all(characters);
+    std::string initials;
+    for (std::size_t at = 0; at < all.size();) {
+        const char32_t character = all[at];
+        if (character < 0x80) {
+            const std::string letter = upper_case(to_utf8(character));
+            if ((letter[0] >= 'A' && letter[0] <= 'Z') || (letter[0] >= '0' && letter[0] <= '9'))
+                initials += letter;
+            ++at;
+        } else if (const Reading* reading = reading_at(all.substr(at))) {
+            initials += reading->initials;
+            at += reading->word.size();
+        } else {
+            if (const char initial = initial_of(character)) initials += initial;
+            ++at;
+        }
+    }
+    return initials;
+}
+
+} // namespace host
