@@ -3,7 +3,7 @@
 
 #include <deque>
 #include <memory>
-#include <nlohmann/json_fwd.hpp>
+#include <nlohmann/json.hpp>
 
 #include "automation/drive/open_forms.h"
 #include "automation/drive/ports.h"
@@ -51,12 +51,11 @@ private:
     void serve(host::TForm* modal);
     void take(const std::string& line);
     void answer_now();
-    void end_modal_forms();
 
     DriverPorts ports_;
     OpenForms forms_;
     std::unique_ptr<Unanswered> unanswered_; // the request not yet answered
-    std::unique_ptr<nlohmann::json> messages_;
+    nlohmann::json messages_ = nlohmann::json::array();
     std::deque<bool> answers_;
     std::deque<std::string> files_;
     std::int64_t requests_taken_ = 0;

@@ -62,7 +62,9 @@ host::TForm* OpenForms::active() const {
     return shown_.empty() ? nullptr : shown_.back().form;
 }
 
-bool OpenForms::is_open(const host::TForm& form) const { return where(form) != shown_.end(); }
+bool OpenForms::is_open(const host::TForm& form) const {
+    return where(form) != shown_.end();
+}
 
 bool OpenForms::is_modal(const host::TForm& form) const {
     const auto at = where(form);
@@ -110,7 +112,8 @@ std::vector<host::TForm*> OpenForms::in_order() const {
 
 std::string OpenForms::listed() const {
     std::string names;
-    for (const host::TForm* form : in_order()) names += (names.empty() ? "" : ", ") + name_of(*form);
+    for (const host::TForm* form : in_order())
+        names += (names.empty() ? "" : ", ") + name_of(*form);
     return names.empty() ? "none" : names;
 }
 

@@ -12,7 +12,7 @@ namespace tests {
 
 struct BooksOptions {
     std::string start = "2024-01"; // first period; "" leaves the books not set up
-    std::string scheme = "1";      // voucher words: 1 记; 2 收付转; 3 现收现付银收银付转
+    std::string scheme = "1"; // voucher words: 1 记; 2 收付转; 3 现收现付银收银付转
     std::string company = "测试公司";
     std::string today = "2024-03-15"; // what forms and GETDATE() take as today
 };

@@ -1,0 +1,126 @@
+// The person without a display: requests in, the same forms as on the desktop, answers out.
+#include "automation/drive/driver.h"
+
+#include "automation/drive/request.h"
+#include "automation/drive/requests/table.h"
+#include "host/forms/form.h"
+#include "host/ports/host.h"
+
+namespace automation {
+
+using nlohmann::json;
+
+struct Driver::Unanswered {
+    std::int64_t number = 0;
+    json body;
+};
+
+Driver::Driver(DriverPorts ports) : ports_(std::move(ports)) {}
+
+Driver::~Driver() = default;
+
+void Driver::run() {
+    host::the_host().record_statements = true;
+    serve(nullptr);
+}
+
+// ---- the loop
+
+// Serves requests until they end or, inside a modal form, until that form has ended. The request
+// that ended it stays unanswered: the caller of the modal form goes on first.
+void Driver::serve(host::TForm* modal) {
+    const auto ended = [&] {
+        return modal != nullptr && (modal->ModalResult.get() != host::mrNone || modal->Closed());
+    };
+    while (!ended()) {
+        if (stopped_) return;
+        const auto line = ports_.requests.next();
+        if (!line) {
+            stopped_ = true;
+            return;
+        }
+        if (line->find_first_not_of(" \t") == std::string::npos) continue;
+        take(*line);
+        if (ended()) return;
+        answer_now();
+    }
+}
+
+void Driver::take(const std::string& line) {
+    const std::int64_t number = ++requests_taken_;
+    unanswered_ = std::make_unique<Unanswered>(Unanswered{number, json{{"ok", true}}});
+    json body;
+    try {
+        body = carry_out(*this, Request::parse(line));
+        body["ok"] = true;
+    } catch (const Refusal& refusal) {
+        body = json{{"ok", false}, {"error", refusal.what()}};
+    } catch (const std::exception& failure) {
+        body = json{{"ok", false}, {"error", std::string("the request failed: ") + failure.what()}};
+    }
+    // Answered long ago when it opened a modal form; another request may wait in its place.
+    if (unanswered_ && unanswered_->number == number) unanswered_->body = std::move(body);
+}
+
+void Driver::answer_now() {
+    if (!unanswered_) return;
+    const std::unique_ptr<Unanswered> request = std::move(unanswered_);
+    const host::TForm* active = forms_.active();
+    request->body["messages"] = std::exchange(messages_, json::array());
+    request->body["active"] = active == nullptr ? json() : json(forms_.name_of(*active));
+    ports_.answers.write(request->body.dump(-1, ' ', false, json::error_handler_t::replace));
+}
+
+// ---- forms
+
+void Driver::show(host::TForm& form) {
+    forms_.add(form, false);
+}
+
+void Driver::show_modal(host::TForm& form) {
+    forms_.add(form, true);
+    answer_now();
+    serve(&form);
+    if (form.ModalResult.get() == host::mrNone) form.ModalResult = host::mrCancel;
+    forms_.remove(form);
+}
+
+void Driver::forget(host::TForm& form) {
+    forms_.remove(form);
+}
+
+void Driver::repaint_frame() {}
+
+// A context menu needs no drawing: its items are clicked by their names.
+void Driver::popup(host::TPopupMenu&, host::TControl&) {}
+
+// ---- what is shown and asked
+
+void Driver::inform(const std::string& text) {
+    messages_.push_back({{"text", text}, {"kind", 5}});
+}
+
+bool Driver::ask(const std::string& text) {
+    messages_.push_back({{"text", text}, {"kind", 2}});
+    if (answers_.empty()) return false;
+    const bool yes = answers_.front();
+    answers_.pop_front();
+    return yes;
+}
+
+std::optional<std::string> Driver::choose_file_to_save(const std::string&, const std::string&) {
+    if (files_.empty()) return std::nullopt;
+    std::string file = std::move(files_.front());
+    files_.pop_front();
+    return file;
+}
+
+bool Driver::progress(const std::string&, std::int64_t, std::int64_t) {
+    return true;
+}
+
+std::string Driver::last_message() const {
+    return messages_.empty() ? std::string() : messages_.back().at("text").get<std::string>();
+}
+
+} // namespace automation

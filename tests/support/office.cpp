@@ -1,0 +1,65 @@
+// The room a person works in: a host with a driver, on a thread of its own.
+#include "tests/support/office.h"
+
+#include <cstdio>
+
+#include "host/forms/form.h"
+#include "tests/support/module_library.h"
+
+namespace tests {
+
+namespace {
+
+// Stands where the desktop's main window stands: the owner of the forms that are opened.
+class Frame final : public host::TForm {
+public:
+    Frame() : TForm(nullptr) {}
+    const char* ClassName() const override { return "TFrame"; }
+};
+
+} // namespace
+
+Office::Office(host::DataPort& data, PersonOptions options, Menu menu, automation::QueryPort* query)
+    : data_(data), options_(std::move(options)), menu_(std::move(menu)), query_(query),
+      clock_(options_.today), thread_([this] { work(); }) {}
+
+Office::~Office() {
+    hand_off_.finish();
+    thread_.join();
+}
+
+void Office::furnish(automation::Driver& driver) {
+    host::Host& host = host::the_host();
+    host.data = &data_;
+    host.ui = &driver;
+    host.clock = &clock_;
+    host.settings = &settings_;
+    host.random = &random_;
+    host.may = options_.may;
+    host::G_UserId = options_.user_id;
+    host::G_UserName = options_.user_name;
+    host::G_CoName = options_.company;
+    host::G_AmountFormat = "0.00";
+}
+
+void Office::work() {
+    host::TForm* owner = nullptr;
+    const auto menu = [&](const host::Trecord& record) {
+        if (menu_)
+            menu_(record, *owner);
+        else
+            module_entry()(record, owner);
+    };
+    {
+        automation::Driver driver({hand_off_, hand_off_, menu, query_});
+        furnish(driver);
+        Frame frame;
+        owner = &frame;
+        driver.run();
+        host::release_closed_forms();
+    }
+    host::the_host() = host::Host{};
+    hand_off_.ended();
+}
+
+} // namespace tests

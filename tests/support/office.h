@@ -1,0 +1,42 @@
+// The room a person works in: a host with a driver, on a thread of its own.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <thread>
+
+#include "automation/drive/driver.h"
+#include "tests/support/hand_off.h"
+#include "tests/support/person.h"
+#include "tests/support/surroundings.h"
+
+namespace tests {
+
+// Fills the host with ports, serves requests until finish(), then destroys the forms and empties
+// the host again. One at a time in a process. `menu` opens a function; the module's entry when
+// it is left out.
+class Office {
+public:
+    using Menu = std::function<void(const host::Trecord&, host::TForm& frame)>;
+
+    Office(host::DataPort& data, PersonOptions options, Menu menu = {},
+           automation::QueryPort* query = nullptr);
+    ~Office();
+    HandOff& hand_off() { return hand_off_; }
+
+private:
+    void work();
+    void furnish(automation::Driver& driver);
+
+    host::DataPort& data_;
+    PersonOptions options_;
+    Menu menu_;
+    automation::QueryPort* query_;
+    FixedClock clock_;
+    MemorySettings settings_;
+    CountedBytes random_;
+    HandOff hand_off_;
+    std::thread thread_;
+};
+
+} // namespace tests
