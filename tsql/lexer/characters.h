@@ -15,11 +15,16 @@ constexpr std::array<CharacterClass, 256> character_classes = [] {
     for (int c = 0; c < 256; ++c) {
         const bool letter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
                             c == '#' || c == '@' || c == '$';
-        if (letter) classes[c] = CharacterClass::Letter;
-        else if (c >= '0' && c <= '9') classes[c] = CharacterClass::Digit;
-        else if (c == ' ' || (c >= '\t' && c <= '\r')) classes[c] = CharacterClass::Blank;
-        else if (c >= 0x80) classes[c] = CharacterClass::Wide;
-        else if (c > ' ' && c < 0x7F) classes[c] = CharacterClass::Sign;
+        if (letter)
+            classes[c] = CharacterClass::Letter;
+        else if (c >= '0' && c <= '9')
+            classes[c] = CharacterClass::Digit;
+        else if (c == ' ' || (c >= '\t' && c <= '\r'))
+            classes[c] = CharacterClass::Blank;
+        else if (c >= 0x80)
+            classes[c] = CharacterClass::Wide;
+        else if (c > ' ' && c < 0x7F)
+            classes[c] = CharacterClass::Sign;
     }
     return classes;
 }();
@@ -52,6 +57,20 @@ inline int utf8_length(std::string_view text) {
 inline bool is_wide_blank(std::string_view character) {
     return character == "\u3000" || character == "\u00A0" || character == "\uFEFF" ||
            (character >= std::string_view("\u2000") && character <= std::string_view("\u200B"));
+}
+
+// Punctuation outside ASCII, which is part of no name: a full-width comma between two columns is a
+// slip of the keyboard and not one long name.
+inline bool is_wide_sign(std::string_view character) {
+    const auto between = [&](std::string_view first, std::string_view last) {
+        return character.size() == first.size() && character >= first && character <= last;
+    };
+    return between("\u00A1", "\u00A9") || between("\u00AB", "\u00B4") ||
+           between("\u00B6", "\u00B9") || between("\u00BB", "\u00BF") || character == "\u00D7" ||
+           character == "\u00F7" || between("\u2010", "\u203E") || between("\u2190", "\u2BFF") ||
+           between("\u3001", "\u3004") || between("\u3008", "\u3020") ||
+           between("\uFF01", "\uFF0F") || between("\uFF1A", "\uFF20") ||
+           between("\uFF3B", "\uFF3E") || character == "\uFF40" || between("\uFF5B", "\uFF65");
 }
 
 } // namespace tsql

@@ -25,7 +25,9 @@ constexpr std::size_t longest_word = 17; // CURRENT_TIMESTAMP
 constexpr std::size_t slot_count = 1024;
 static_assert(slot_count > 3 * entry_count, "a sparse table keeps the probes short");
 
-constexpr char to_upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; }
+constexpr char to_upper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
+}
 
 constexpr std::size_t slot_of(std::string_view word) {
     std::uint32_t hash = 2166136261U;
@@ -62,7 +64,9 @@ Keyword keyword_of(std::string_view word) {
     return Keyword::None;
 }
 
-bool is_reserved(Keyword keyword) { return entries[static_cast<std::size_t>(keyword)].reserved; }
+bool is_reserved(Keyword keyword) {
+    return entries[static_cast<std::size_t>(keyword)].reserved;
+}
 
 std::string_view spelling(Keyword keyword) {
     return entries[static_cast<std::size_t>(keyword)].word;

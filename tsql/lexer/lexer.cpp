@@ -20,6 +20,7 @@ private:
     void skip_blanks_and_comments();
     void skip_block_comment();
     bool skip_wide_blank();
+    bool at_wide_letter() const; // broken ones too: they are refused where they stand
 
     void read_token();
     void read_word();
@@ -79,9 +80,9 @@ void Lexer::skip_block_comment() {
     std::size_t depth = 0; // comments nest
     do {
         if (done())
-            throw Refusal(113, {static_cast<std::uint32_t>(begin),
-                                static_cast<std::uint32_t>(begin + 2)},
-                          "Missing end comment mark '*/'.");
+            throw Refusal(
+                113, {static_cast<std::uint32_t>(begin), static_cast<std::uint32_t>(begin + 2)},
+                "Missing end comment mark '*/'.");
         if (peek() == '/' && peek(1) == '*') {
             ++depth;
             at_ += 2;
@@ -102,6 +103,12 @@ bool Lexer::skip_wide_blank() {
     return true;
 }
 
+bool Lexer::at_wide_letter() const {
+    const auto length = static_cast<std::size_t>(utf8_length(text_.substr(at_)));
+    const std::string_view character = text_.substr(at_, length);
+    return !is_wide_blank(character) && !is_wide_sign(character);
+}
+
 void Lexer::pass_wide() {
     const int length = utf8_length(text_.substr(at_));
     if (length == 0) refuse_character();
@@ -109,12 +116,14 @@ void Lexer::pass_wide() {
 }
 
 void Lexer::refuse_character() const {
-    const SourceRange here{static_cast<std::uint32_t>(at_), static_cast<std::uint32_t>(at_ + 1)};
     const auto byte = static_cast<unsigned char>(text_[at_]);
-    if (byte >= 0x80) throw Refusal(102, here, "The text is not valid UTF-8.");
+    const int length = utf8_length(text_.substr(at_));
+    const auto end = at_ + static_cast<std::size_t>(std::max(length, 1));
+    const SourceRange here{static_cast<std::uint32_t>(at_), static_cast<std::uint32_t>(end)};
+    if (length == 0) throw Refusal(102, here, "The text is not valid UTF-8.");
     if (byte < 0x20 || byte == 0x7F)
         throw Refusal(102, here, "Incorrect syntax near a control character.");
-    throw Refusal(102, here, "Incorrect syntax near '" + std::string(1, text_[at_]) + "'.");
+    throw Refusal(102, here, "Incorrect syntax near '" + std::string(here.text(text_)) + "'.");
 }
 
 void Lexer::read_token() {
@@ -132,8 +141,7 @@ void Lexer::read_token() {
     case CharacterClass::Wide:
         if (!try_currency()) read_word();
         return;
-    case CharacterClass::Digit:
-        return read_number();
+    case CharacterClass::Digit: return read_number();
     case CharacterClass::Sign:
         if (c == '\'') return read_quoted(TokenKind::Text, '\'');
         if (c == '[') return read_quoted(TokenKind::QuotedName, ']');
@@ -141,8 +149,7 @@ void Lexer::read_token() {
         if (c == '.' && class_of(peek(1)) == CharacterClass::Digit) return read_number();
         return read_sign();
     case CharacterClass::Blank:
-    case CharacterClass::Other:
-        refuse_character();
+    case CharacterClass::Other: refuse_character();
     }
 }
 
@@ -151,11 +158,7 @@ void Lexer::read_word() {
     while (!done()) {
         const CharacterClass next = class_of(text_[at_]);
         if (next == CharacterClass::Wide) {
-            const std::size_t before = at_;
-            if (skip_wide_blank()) {
-                at_ = before; // a wide blank ends the word
-                break;
-            }
+            if (!at_wide_letter()) break;
             pass_wide();
         } else if (next == CharacterClass::Letter || next == CharacterClass::Digit) {
             ++at_;
@@ -165,6 +168,7 @@ void Lexer::read_word() {
     }
     const std::string_view word = text_.substr(begin, at_ - begin);
     check_name_length(word, since(begin));
+    if (word.empty()) refuse_character();
     if (word.starts_with("@@")) return add(TokenKind::SystemVariable, begin);
     if (word.starts_with('@')) return add(TokenKind::Variable, begin);
     add(TokenKind::Word, begin);
@@ -179,8 +183,9 @@ void Lexer::read_quoted(TokenKind kind, char close) {
     while (true) {
         if (done()) {
             const std::string_view open = text_.substr(inside, text_.find('\n', inside) - inside);
-            throw Refusal(105, since(begin), "Unclosed quotation mark after the character string '" +
-                                                 std::string(open) + "'.");
+            throw Refusal(105, since(begin),
+                          "Unclosed quotation mark after the character string '" +
+                              std::string(open) + "'.");
         }
         if (text_[at_] == close) {
             if (peek(1) != close) break;
@@ -208,8 +213,9 @@ void Lexer::check_name_length(std::string_view name, SourceRange at) const {
     std::size_t characters = 0;
     for (const char c : name) characters += (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
     if (characters > longest_name)
-        throw Refusal(103, at, "The identifier that starts with '" + std::string(name.substr(0, 30)) +
-                                   "' is too long. Maximum length is 128.");
+        throw Refusal(103, at,
+                      "The identifier that starts with '" + std::string(name.substr(0, 30)) +
+                          "' is too long. Maximum length is 128.");
 }
 
 void Lexer::read_digits() {
@@ -331,6 +337,8 @@ void Lexer::read_sign() {
 
 } // namespace
 
-std::vector<Token> tokenize(std::string_view batch) { return Lexer(batch).run(); }
+std::vector<Token> tokenize(std::string_view batch) {
+    return Lexer(batch).run();
+}
 
 } // namespace tsql

@@ -18,7 +18,9 @@ std::vector<std::string> values(std::string_view batch) {
     return result;
 }
 
-TokenKind kind_of(std::string_view batch) { return tokenize(batch).front().kind; }
+TokenKind kind_of(std::string_view batch) {
+    return tokenize(batch).front().kind;
+}
 
 int refusal_of(std::string_view batch) {
     try {
@@ -65,6 +67,13 @@ TEST(Lexer, names_may_be_chinese_and_hold_hash_dollar_and_at) {
 TEST(Lexer, an_ideographic_space_is_a_blank) {
     EXPECT_THAT(values("SELECT\u3000ID\u3000FROM\u00A0A"),
                 ElementsAre("SELECT", "ID", "FROM", "A"));
+}
+
+TEST(Lexer, full_width_punctuation_is_part_of_no_name) {
+    EXPECT_EQ(refusal_of("SELECT ID，K FROM A"), 102);
+    EXPECT_EQ(refusal_of("SELECT ID FROM A；"), 102);
+    EXPECT_THAT(values("SELECT ＩＤ１"), ElementsAre("SELECT", "ＩＤ１"));
+    EXPECT_THAT(values("'，'"), ElementsAre("，"));
 }
 
 TEST(Lexer, signs_of_two_characters_are_one_token) {

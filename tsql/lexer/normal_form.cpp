@@ -23,9 +23,7 @@ std::size_t whole_digits(std::string_view whole) {
 
 void append_class(std::string& key, TokenKind kind, std::string_view written) {
     switch (kind) {
-    case TokenKind::Integer:
-        key += "?i";
-        return append_number(key, whole_digits(written));
+    case TokenKind::Integer: key += "?i"; return append_number(key, whole_digits(written));
     case TokenKind::Decimal: {
         const std::size_t point = written.find('.');
         const std::size_t scale = written.size() - point - 1;
@@ -44,7 +42,9 @@ void append_class(std::string& key, TokenKind kind, std::string_view written) {
 
 } // namespace
 
-NormalForm normal_form(std::string_view batch) { return normal_form(batch, tokenize(batch)); }
+NormalForm normal_form(std::string_view batch) {
+    return normal_form(batch, tokenize(batch));
+}
 
 NormalForm normal_form(std::string_view batch, const std::vector<Token>& tokens) {
     NormalForm form;

@@ -10,10 +10,10 @@
 namespace tsql {
 
 enum class TokenKind : std::uint8_t {
-    End,        // after the last token; `at` is the empty stretch at the end of the text
-    Word,       // a name or keyword: K, SELECT, 科目, #t
-    QuotedName, // [x] or "x"
-    Variable,   // @x
+    End,            // after the last token; `at` is the empty stretch at the end of the text
+    Word,           // a name or keyword: K, SELECT, 科目, #t
+    QuotedName,     // [x] or "x"
+    Variable,       // @x
     SystemVariable, // @@ROWCOUNT
     // Literals; keep them together.
     Integer,
@@ -40,9 +40,9 @@ enum class TokenKind : std::uint8_t {
     Caret,
     Tilde,
     Equal,
-    NotEqual,     // <> !=
+    NotEqual, // <> !=
     Less,
-    LessEqual,    // <= !>
+    LessEqual, // <= !>
     Greater,
     GreaterEqual, // >= !<
     PlusEqual,

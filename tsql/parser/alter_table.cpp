@@ -49,8 +49,9 @@ void parse_action(TokenCursor& cursor, AlterTable& alter) {
     } else if (cursor.accept(Keyword::Drop)) {
         parse_drop_part(cursor, alter);
     } else if (cursor.at(Keyword::Check) || cursor.at(Keyword::Nocheck)) {
-        alter.action = cursor.take().keyword == Keyword::Check ? AlterTableAction::CheckConstraint
-                                                               : AlterTableAction::NoCheckConstraint;
+        alter.action = cursor.take().keyword == Keyword::Check
+                           ? AlterTableAction::CheckConstraint
+                           : AlterTableAction::NoCheckConstraint;
         cursor.expect(Keyword::Constraint);
         parse_names_or_all(cursor, alter);
     } else if (cursor.at(Keyword::Enable) || cursor.at(Keyword::Disable)) {

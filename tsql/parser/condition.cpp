@@ -13,7 +13,8 @@ void require_condition(const TokenCursor& cursor, const Expression& expression) 
         cursor.at_end() ? expression.at.text(cursor.batch()) : next.at.text(cursor.batch());
     throw Refusal(4145, expression.at,
                   "An expression of non-boolean type specified in a context where a condition is "
-                  "expected, near '" + std::string(near) + "'.");
+                  "expected, near '" +
+                      std::string(near) + "'.");
 }
 
 std::optional<ComparisonOperator> comparison_of(TokenKind kind) {

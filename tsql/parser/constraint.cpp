@@ -20,8 +20,10 @@ ForeignKey parse_references(TokenCursor& cursor) {
     key.table = parse_object_name(cursor);
     if (cursor.at(TokenKind::LeftParenthesis)) key.columns = parse_name_list(cursor);
     while (true) {
-        if (cursor.accept(Keyword::On, Keyword::Delete)) key.on_delete = parse_action(cursor);
-        else if (cursor.accept(Keyword::On, Keyword::Update)) key.on_update = parse_action(cursor);
+        if (cursor.accept(Keyword::On, Keyword::Delete))
+            key.on_delete = parse_action(cursor);
+        else if (cursor.accept(Keyword::On, Keyword::Update))
+            key.on_update = parse_action(cursor);
         else if (cursor.at(Keyword::Not, Keyword::For)) { // NOT FOR REPLICATION
             cursor.take();
             cursor.take();
@@ -137,8 +139,8 @@ void skip_storage_options(TokenCursor& cursor) {
     while (true) {
         const Token& next = cursor.peek(1);
         const bool names_filegroup =
-            cursor.at(Keyword::On) && (next.kind == TokenKind::QuotedName ||
-                                       next.keyword == Keyword::Primary);
+            cursor.at(Keyword::On) &&
+            (next.kind == TokenKind::QuotedName || next.keyword == Keyword::Primary);
         if (cursor.at(Keyword::With) && cursor.peek(1).kind == TokenKind::LeftParenthesis) {
             cursor.take();
             skip_parenthesised(cursor);

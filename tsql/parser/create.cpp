@@ -42,9 +42,7 @@ StatementPtr parse_create(TokenCursor& cursor) {
     const DefinitionMode mode = parse_mode(cursor);
     const Token& object = cursor.peek();
     switch (object.keyword) {
-    case Keyword::View:
-        require_first(cursor, first, begin);
-        return parse_create_view(cursor, mode);
+    case Keyword::View: require_first(cursor, first, begin); return parse_create_view(cursor, mode);
     case Keyword::Function:
         require_first(cursor, first, begin);
         return parse_create_function(cursor, mode);

@@ -45,16 +45,21 @@ void parse_computed(TokenCursor& cursor, ColumnDefinition& column) {
 ColumnDefinition parse_column(TokenCursor& cursor) {
     ColumnDefinition column;
     column.name = parse_name(cursor);
-    if (cursor.accept(Keyword::As)) parse_computed(cursor, column);
-    else column.type = parse_type(cursor);
-    while (accept_attribute(cursor, column)) {}
+    if (cursor.accept(Keyword::As))
+        parse_computed(cursor, column);
+    else
+        column.type = parse_type(cursor);
+    while (accept_attribute(cursor, column)) {
+    }
     column.at = cursor.since(column.name.at);
     return column;
 }
 
 void parse_table_element(TokenCursor& cursor, TableDefinition& definition) {
-    if (at_constraint(cursor)) definition.constraints.push_back(parse_constraint(cursor, false));
-    else definition.columns.push_back(parse_column(cursor));
+    if (at_constraint(cursor))
+        definition.constraints.push_back(parse_constraint(cursor, false));
+    else
+        definition.columns.push_back(parse_column(cursor));
 }
 
 TableDefinition parse_table_definition(TokenCursor& cursor) {

@@ -54,7 +54,9 @@ StatementPtr parse_declare_cursor(TokenCursor& cursor, Name name, SourceRange be
     return declaration;
 }
 
-StatementPtr parse_open_cursor(TokenCursor& cursor) { return parse_on_cursor<OpenCursor>(cursor); }
+StatementPtr parse_open_cursor(TokenCursor& cursor) {
+    return parse_on_cursor<OpenCursor>(cursor);
+}
 
 StatementPtr parse_fetch(TokenCursor& cursor) {
     cursor.expect(Keyword::Fetch);

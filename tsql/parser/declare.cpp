@@ -54,8 +54,9 @@ StatementPtr parse_declare(TokenCursor& cursor) {
     if (at_name(cursor)) return parse_declare_cursor(cursor, parse_name(cursor), begin);
     // Plain variables and table variables may be mixed: then they become a block of statements.
     std::vector<StatementPtr> parts;
-    do parts.push_back(at_table_variable(cursor) ? parse_table_variable(cursor)
-                                                 : parse_plain_variables(cursor));
+    do
+        parts.push_back(at_table_variable(cursor) ? parse_table_variable(cursor)
+                                                  : parse_plain_variables(cursor));
     while (cursor.accept(TokenKind::Comma));
     if (parts.size() == 1) return std::move(parts.front());
     auto block = std::make_unique<Block>();

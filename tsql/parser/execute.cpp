@@ -81,6 +81,8 @@ StatementPtr parse_execute(TokenCursor& cursor) {
     return parse_call(cursor, std::move(return_variable));
 }
 
-StatementPtr parse_call_without_execute(TokenCursor& cursor) { return parse_call(cursor, ""); }
+StatementPtr parse_call_without_execute(TokenCursor& cursor) {
+    return parse_call(cursor, "");
+}
 
 } // namespace tsql

@@ -42,11 +42,11 @@ StatementPtr parse_return(TokenCursor& cursor) {
     auto statement = std::make_unique<Return>();
     // A value follows unless the statement ends here; a reserved word begins another statement.
     const Token& next = cursor.peek();
-    const bool value = next.kind == TokenKind::LeftParenthesis || next.kind == TokenKind::Variable ||
-                       next.kind == TokenKind::SystemVariable || next.is_literal() ||
-                       next.kind == TokenKind::Minus || next.kind == TokenKind::Plus ||
-                       next.kind == TokenKind::Tilde || at_name(cursor) ||
-                       at_function_call(cursor) || cursor.at(Keyword::Case) ||
+    const bool value = next.kind == TokenKind::LeftParenthesis ||
+                       next.kind == TokenKind::Variable || next.kind == TokenKind::SystemVariable ||
+                       next.is_literal() || next.kind == TokenKind::Minus ||
+                       next.kind == TokenKind::Plus || next.kind == TokenKind::Tilde ||
+                       at_name(cursor) || at_function_call(cursor) || cursor.at(Keyword::Case) ||
                        cursor.at(Keyword::Null) || cursor.at(Keyword::Convert) ||
                        cursor.at(Keyword::TryConvert) || cursor.at(Keyword::CurrentTimestamp);
     if (value) statement->value = parse_value(cursor);

@@ -51,8 +51,10 @@ StatementPtr parse_create_function(TokenCursor& cursor, DefinitionMode mode) {
         function->return_type = parse_type(cursor);
     }
     skip_routine_options(cursor);
-    if (function->type == FunctionKind::InlineTable) parse_inline_body(cursor, *function);
-    else parse_block_body(cursor, *function);
+    if (function->type == FunctionKind::InlineTable)
+        parse_inline_body(cursor, *function);
+    else
+        parse_block_body(cursor, *function);
     require_end_of_batch(cursor);
     return function;
 }

@@ -10,11 +10,11 @@ namespace tsql {
 // not fit is refused. Those that accept may take nothing and then say so by null or false.
 
 // ---- names.cpp
-bool at_name(const TokenCursor& cursor);      // a bracketed name or a word not reserved
+bool at_name(const TokenCursor& cursor); // a bracketed name or a word not reserved
 Name parse_name(TokenCursor& cursor);
 ObjectName parse_object_name(TokenCursor& cursor);
 std::vector<Name> parse_name_list(TokenCursor& cursor); // ( a, b )
-Name accept_alias(TokenCursor& cursor);       // [AS] name of a table; empty when none follows
+Name accept_alias(TokenCursor& cursor); // [AS] name of a table; empty when none follows
 std::string parse_variable_name(TokenCursor& cursor);
 TypeName parse_type(TokenCursor& cursor);
 

@@ -41,8 +41,7 @@ std::int64_t parse_signed_integer(TokenCursor& cursor) {
     const Token& token = cursor.expect(TokenKind::Integer);
     const std::string_view digits = token.at.text(cursor.batch());
     std::int64_t figure = 0;
-    const auto error =
-        std::from_chars(digits.data(), digits.data() + digits.size(), figure).ec;
+    const auto error = std::from_chars(digits.data(), digits.data() + digits.size(), figure).ec;
     if (error != std::errc{}) cursor.refuse(token);
     return negative ? -figure : figure;
 }

@@ -6,7 +6,9 @@
 
 namespace tsql {
 
-Batch parse(std::string_view text) { return parse(text, tokenize(text)); }
+Batch parse(std::string_view text) {
+    return parse(text, tokenize(text));
+}
 
 Batch parse(std::string_view text, const std::vector<Token>& tokens) {
     TokenCursor cursor(text, tokens);

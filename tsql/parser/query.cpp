@@ -108,7 +108,7 @@ CommonTable parse_common_table(TokenCursor& cursor) {
 
 bool at_query(const TokenCursor& cursor) {
     std::size_t ahead = 0;
-    while (ahead < deepest_nesting && cursor.peek(ahead).kind == TokenKind::LeftParenthesis) ++ahead;
+    while (cursor.peek(ahead).kind == TokenKind::LeftParenthesis) ++ahead;
     return cursor.peek(ahead).keyword == Keyword::Select;
 }
 

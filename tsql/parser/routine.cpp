@@ -11,7 +11,8 @@ Parameter parse_parameter(TokenCursor& cursor) {
     parameter.name = parse_variable_name(cursor);
     cursor.accept(Keyword::As);
     parameter.type = parse_type(cursor);
-    if (cursor.accept(Keyword::Null)) {} // the only nullability a parameter can have
+    if (cursor.accept(Keyword::Null)) {
+    } // the only nullability a parameter can have
     if (cursor.accept(TokenKind::Equal)) parameter.default_value = parse_constant(cursor);
     parameter.output = cursor.accept(Keyword::Output) || cursor.accept(Keyword::Out);
     if (cursor.at(Keyword::Readonly))
@@ -26,8 +27,8 @@ ExpressionPtr parse_constant(TokenCursor& cursor) {
     const SourceRange begin = cursor.peek().at;
     if (cursor.at(TokenKind::Minus) || cursor.at(TokenKind::Plus)) {
         auto sign = std::make_unique<Unary>();
-        sign->op = cursor.take().kind == TokenKind::Minus ? UnaryOperator::Minus
-                                                          : UnaryOperator::Plus;
+        sign->op =
+            cursor.take().kind == TokenKind::Minus ? UnaryOperator::Minus : UnaryOperator::Plus;
         sign->operand = parse_literal(cursor);
         sign->at = cursor.since(begin);
         return sign;
@@ -54,8 +55,10 @@ void skip_routine_options(TokenCursor& cursor) {
     do {
         if (cursor.accept(Keyword::Execute) || cursor.accept(Keyword::Exec)) { // EXECUTE AS OWNER
             cursor.expect(Keyword::As);
-            if (!cursor.at(TokenKind::Text)) parse_name(cursor);
-            else cursor.take();
+            if (!cursor.at(TokenKind::Text))
+                parse_name(cursor);
+            else
+                cursor.take();
         } else if (cursor.accept(Keyword::Schemabinding) || cursor.accept(Keyword::Encryption) ||
                    cursor.accept(Keyword::Recompile)) {
             continue;
@@ -72,7 +75,8 @@ void skip_routine_options(TokenCursor& cursor) {
 }
 
 void require_end_of_batch(TokenCursor& cursor) {
-    while (cursor.accept(TokenKind::Semicolon)) {}
+    while (cursor.accept(TokenKind::Semicolon)) {
+    }
     if (!cursor.at_end()) cursor.refuse_here();
 }
 

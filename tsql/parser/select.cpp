@@ -60,8 +60,8 @@ void parse_grouping(TokenCursor& cursor, Select& select) {
         cursor.refuse_unsupported("GROUPING SETS", cursor.peek().at);
     const bool listed = cursor.peek(1).kind == TokenKind::LeftParenthesis;
     if (listed && (cursor.at(Keyword::Rollup) || cursor.at(Keyword::Cube))) {
-        select.grouping = cursor.take().keyword == Keyword::Rollup ? GroupingKind::Rollup
-                                                                   : GroupingKind::Cube;
+        select.grouping =
+            cursor.take().keyword == Keyword::Rollup ? GroupingKind::Rollup : GroupingKind::Cube;
         cursor.take();
         select.group_by = parse_values(cursor);
         cursor.expect(TokenKind::RightParenthesis);
@@ -70,8 +70,10 @@ void parse_grouping(TokenCursor& cursor, Select& select) {
         return;
     }
     select.group_by = parse_values(cursor);
-    if (cursor.accept(Keyword::With, Keyword::Rollup)) select.grouping = GroupingKind::Rollup;
-    else if (cursor.accept(Keyword::With, Keyword::Cube)) select.grouping = GroupingKind::Cube;
+    if (cursor.accept(Keyword::With, Keyword::Rollup))
+        select.grouping = GroupingKind::Rollup;
+    else if (cursor.accept(Keyword::With, Keyword::Cube))
+        select.grouping = GroupingKind::Cube;
 }
 
 } // namespace

@@ -6,17 +6,32 @@ namespace tsql {
 
 namespace {
 
-constexpr std::string_view switches[] = {
-    "ANSI_DEFAULTS",     "ANSI_NULLS",          "ANSI_NULL_DFLT_OFF", "ANSI_NULL_DFLT_ON",
-    "ANSI_PADDING",      "ANSI_WARNINGS",       "ARITHABORT",         "ARITHIGNORE",
-    "CONCAT_NULL_YIELDS_NULL", "CURSOR_CLOSE_ON_COMMIT", "FMTONLY",   "FORCEPLAN",
-    "IMPLICIT_TRANSACTIONS", "NOCOUNT",         "NOEXEC",             "NUMERIC_ROUNDABORT",
-    "PARSEONLY",         "QUOTED_IDENTIFIER",   "REMOTE_PROC_TRANSACTIONS", "SHOWPLAN_ALL",
-    "SHOWPLAN_TEXT",     "XACT_ABORT"};
+constexpr std::string_view switches[] = {"ANSI_DEFAULTS",
+                                         "ANSI_NULLS",
+                                         "ANSI_NULL_DFLT_OFF",
+                                         "ANSI_NULL_DFLT_ON",
+                                         "ANSI_PADDING",
+                                         "ANSI_WARNINGS",
+                                         "ARITHABORT",
+                                         "ARITHIGNORE",
+                                         "CONCAT_NULL_YIELDS_NULL",
+                                         "CURSOR_CLOSE_ON_COMMIT",
+                                         "FMTONLY",
+                                         "FORCEPLAN",
+                                         "IMPLICIT_TRANSACTIONS",
+                                         "NOCOUNT",
+                                         "NOEXEC",
+                                         "NUMERIC_ROUNDABORT",
+                                         "PARSEONLY",
+                                         "QUOTED_IDENTIFIER",
+                                         "REMOTE_PROC_TRANSACTIONS",
+                                         "SHOWPLAN_ALL",
+                                         "SHOWPLAN_TEXT",
+                                         "XACT_ABORT"};
 
-constexpr std::string_view valued[] = {"DATEFIRST",    "DATEFORMAT", "DEADLOCK_PRIORITY",
-                                       "LANGUAGE",     "LOCK_TIMEOUT", "QUERY_GOVERNOR_COST_LIMIT",
-                                       "ROWCOUNT",     "TEXTSIZE",   "CONTEXT_INFO"};
+constexpr std::string_view valued[] = {"DATEFIRST", "DATEFORMAT",   "DEADLOCK_PRIORITY",
+                                       "LANGUAGE",  "LOCK_TIMEOUT", "QUERY_GOVERNOR_COST_LIMIT",
+                                       "ROWCOUNT",  "TEXTSIZE",     "CONTEXT_INFO"};
 
 template <std::size_t Size>
 bool is_one_of(const std::string_view (&words)[Size], std::string_view word) {
@@ -93,7 +108,8 @@ StatementPtr parse_set(TokenCursor& cursor) {
         while (cursor.accept(TokenKind::Comma)) set->options.push_back(take_option_word(cursor));
         for (const Name& option : set->options)
             if (!is_one_of(switches, option.text))
-                throw Refusal(195, option.at, "'" + option.text + "' is not a recognized SET option.");
+                throw Refusal(195, option.at,
+                              "'" + option.text + "' is not a recognized SET option.");
         set->on = parse_on_off(cursor);
     }
     return set;

@@ -8,11 +8,11 @@ namespace {
 
 // Statements of T-SQL that this front end knows and does not take.
 constexpr Keyword refused[] = {
-    Keyword::Merge,     Keyword::Use,      Keyword::Goto,      Keyword::Waitfor,
-    Keyword::Grant,     Keyword::Revoke,   Keyword::Deny,      Keyword::Backup,
-    Keyword::Restore,   Keyword::Dbcc,     Keyword::Kill,      Keyword::Shutdown,
-    Keyword::Checkpoint, Keyword::Bulk,    Keyword::Readtext,  Keyword::Writetext,
-    Keyword::Updatetext, Keyword::Reconfigure, Keyword::Setuser, Keyword::Revert,
+    Keyword::Merge,      Keyword::Use,         Keyword::Goto,     Keyword::Waitfor,
+    Keyword::Grant,      Keyword::Revoke,      Keyword::Deny,     Keyword::Backup,
+    Keyword::Restore,    Keyword::Dbcc,        Keyword::Kill,     Keyword::Shutdown,
+    Keyword::Checkpoint, Keyword::Bulk,        Keyword::Readtext, Keyword::Writetext,
+    Keyword::Updatetext, Keyword::Reconfigure, Keyword::Setuser,  Keyword::Revert,
 };
 
 StatementPtr parse_after_with(TokenCursor& cursor) {
@@ -112,14 +112,17 @@ StatementPtr parse_statement(TokenCursor& cursor) {
                                  ? parse_query_statement(cursor, {})
                                  : parse_by_first_word(cursor);
     statement->at = cursor.since(begin);
-    while (cursor.accept(TokenKind::Semicolon)) {}
+    while (cursor.accept(TokenKind::Semicolon)) {
+    }
     return statement;
 }
 
 std::vector<StatementPtr> parse_statements(TokenCursor& cursor) {
     std::vector<StatementPtr> statements;
-    while (cursor.accept(TokenKind::Semicolon)) {}
-    while (!cursor.at_end() && !cursor.at(Keyword::End)) statements.push_back(parse_statement(cursor));
+    while (cursor.accept(TokenKind::Semicolon)) {
+    }
+    while (!cursor.at_end() && !cursor.at(Keyword::End))
+        statements.push_back(parse_statement(cursor));
     return statements;
 }
 

@@ -8,10 +8,10 @@ namespace {
 TableSourcePtr parse_joined(TokenCursor& cursor);
 
 constexpr std::string_view hint_words[] = {
-    "NOLOCK",      "HOLDLOCK",        "UPDLOCK",       "ROWLOCK",        "TABLOCK",
-    "TABLOCKX",    "PAGLOCK",         "XLOCK",         "READUNCOMMITTED", "READCOMMITTED",
-    "READPAST",    "REPEATABLEREAD",  "SERIALIZABLE",  "NOWAIT",         "NOEXPAND",
-    "FORCESEEK",   "FORCESCAN",       "SNAPSHOT",      "KEEPIDENTITY",   "IGNORE_TRIGGERS"};
+    "NOLOCK",    "HOLDLOCK",       "UPDLOCK",      "ROWLOCK",         "TABLOCK",
+    "TABLOCKX",  "PAGLOCK",        "XLOCK",        "READUNCOMMITTED", "READCOMMITTED",
+    "READPAST",  "REPEATABLEREAD", "SERIALIZABLE", "NOWAIT",          "NOEXPAND",
+    "FORCESEEK", "FORCESCAN",      "SNAPSHOT",     "KEEPIDENTITY",    "IGNORE_TRIGGERS"};
 
 bool at_hint(const TokenCursor& cursor, std::size_t ahead) {
     const Token& token = cursor.peek(ahead);
@@ -32,8 +32,10 @@ std::vector<Name> parse_hint_list(TokenCursor& cursor) {
         const Token& token = cursor.take();
         hints.push_back({cursor.value(token), token.at, false});
         if (token.keyword == Keyword::Index) { // INDEX(name, …), INDEX = name
-            if (cursor.accept(TokenKind::Equal)) parse_name(cursor);
-            else parse_name_list(cursor);
+            if (cursor.accept(TokenKind::Equal))
+                parse_name(cursor);
+            else
+                parse_name_list(cursor);
         }
         cursor.accept(TokenKind::Comma);
     } while (!cursor.at(TokenKind::RightParenthesis));
@@ -83,10 +85,9 @@ ObjectName parse_table_variable(TokenCursor& cursor) {
 }
 
 TableSourcePtr parse_named_table(TokenCursor& cursor) {
-    ObjectName name = cursor.at(TokenKind::Variable) ? parse_table_variable(cursor)
-                                                     : parse_object_name(cursor);
-    if (cursor.at(TokenKind::LeftParenthesis) &&
-        !(name.parts.size() == 1 && at_hint(cursor, 1)))
+    ObjectName name =
+        cursor.at(TokenKind::Variable) ? parse_table_variable(cursor) : parse_object_name(cursor);
+    if (cursor.at(TokenKind::LeftParenthesis) && !(name.parts.size() == 1 && at_hint(cursor, 1)))
         return parse_function_table(cursor, std::move(name));
     auto table = std::make_unique<NamedTable>();
     table->name = std::move(name);
@@ -116,8 +117,7 @@ TableSourcePtr parse_table(TokenCursor& cursor) {
             cursor.expect(TokenKind::RightParenthesis);
         }
     }
-    if (cursor.at(Keyword::Pivot) || cursor.at(Keyword::Unpivot) ||
-        cursor.at(Keyword::Tablesample))
+    if (cursor.at(Keyword::Pivot) || cursor.at(Keyword::Unpivot) || cursor.at(Keyword::Tablesample))
         cursor.refuse_unsupported(spelling(cursor.peek().keyword), cursor.peek().at);
     table->at = cursor.since(begin);
     return table;
@@ -133,10 +133,14 @@ std::optional<JoinKind> accept_join_words(TokenCursor& cursor) {
     if (cursor.accept(Keyword::Inner)) {
         kind = JoinKind::Inner;
     } else {
-        if (cursor.accept(Keyword::Left)) kind = JoinKind::Left;
-        else if (cursor.accept(Keyword::Right)) kind = JoinKind::Right;
-        else if (cursor.accept(Keyword::Full)) kind = JoinKind::Full;
-        else return std::nullopt;
+        if (cursor.accept(Keyword::Left))
+            kind = JoinKind::Left;
+        else if (cursor.accept(Keyword::Right))
+            kind = JoinKind::Right;
+        else if (cursor.accept(Keyword::Full))
+            kind = JoinKind::Full;
+        else
+            return std::nullopt;
         cursor.accept(Keyword::Outer);
     }
     if (cursor.at_word("LOOP") || cursor.at_word("HASH") || cursor.at(Keyword::Merge) ||

@@ -31,14 +31,17 @@ bool TokenCursor::at_word(std::string_view upper) const {
     return word.size() == upper.size() && in_capitals(word) == upper;
 }
 
-std::string TokenCursor::upper_word() const { return in_capitals(peek().at.text(batch_)); }
+std::string TokenCursor::upper_word() const {
+    return in_capitals(peek().at.text(batch_));
+}
 
 void TokenCursor::refuse(const Token& token) const {
     const bool end = token.kind == TokenKind::End;
     const Token& shown = end && tokens_.size() > 1 ? tokens_[tokens_.size() - 2] : token;
     if (is_reserved(token.keyword))
-        throw Refusal(156, token.at, "Incorrect syntax near the keyword '" +
-                                         std::string(spelling(token.keyword)) + "'.");
+        throw Refusal(156, token.at,
+                      "Incorrect syntax near the keyword '" + std::string(spelling(token.keyword)) +
+                          "'.");
     throw Refusal(102, token.at,
                   "Incorrect syntax near '" + shortened(shown.at.text(batch_)) + "'.");
 }

@@ -24,9 +24,7 @@ public:
     }
     bool at(TokenKind kind) const { return peek().kind == kind; }
     bool at(Keyword keyword) const { return peek().keyword == keyword; }
-    bool at(Keyword first, Keyword second) const {
-        return at(first) && peek(1).keyword == second;
-    }
+    bool at(Keyword first, Keyword second) const { return at(first) && peek(1).keyword == second; }
     bool at_end() const { return at(TokenKind::End); }
 
     const Token& take() {
@@ -71,9 +69,7 @@ public:
     [[noreturn]] void refuse_unsupported(std::string_view what, SourceRange at) const;
 
     // Literals that became nodes; the others shape the tree.
-    void note_literal_node(const Token& token) {
-        literal_nodes_.push_back(token.literal_ordinal);
-    }
+    void note_literal_node(const Token& token) { literal_nodes_.push_back(token.literal_ordinal); }
     std::vector<int> shaping_literals() const;
 
     // Bounds the recursion of the parser and the height of the tree under construction.

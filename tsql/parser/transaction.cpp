@@ -21,8 +21,10 @@ Name accept_transaction_name(TokenCursor& cursor) {
 template <typename Class> StatementPtr parse_end(TokenCursor& cursor) {
     cursor.take();
     auto statement = std::make_unique<Class>();
-    if (accept_transaction_word(cursor)) statement->name = accept_transaction_name(cursor);
-    else cursor.accept(Keyword::Work);
+    if (accept_transaction_word(cursor))
+        statement->name = accept_transaction_name(cursor);
+    else
+        cursor.accept(Keyword::Work);
     return statement;
 }
 
@@ -33,14 +35,19 @@ StatementPtr parse_begin_transaction(TokenCursor& cursor) {
     cursor.take();
     auto statement = std::make_unique<BeginTransaction>();
     statement->name = accept_transaction_name(cursor);
-    if (!statement->name.empty() && cursor.at(Keyword::With) && cursor.peek(1).keyword == Keyword::None)
+    if (!statement->name.empty() && cursor.at(Keyword::With) &&
+        cursor.peek(1).keyword == Keyword::None)
         cursor.refuse_unsupported("A marked transaction", cursor.peek().at);
     return statement;
 }
 
-StatementPtr parse_commit(TokenCursor& cursor) { return parse_end<Commit>(cursor); }
+StatementPtr parse_commit(TokenCursor& cursor) {
+    return parse_end<Commit>(cursor);
+}
 
-StatementPtr parse_rollback(TokenCursor& cursor) { return parse_end<Rollback>(cursor); }
+StatementPtr parse_rollback(TokenCursor& cursor) {
+    return parse_end<Rollback>(cursor);
+}
 
 StatementPtr parse_save(TokenCursor& cursor) {
     cursor.expect(Keyword::Save);

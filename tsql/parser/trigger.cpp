@@ -7,10 +7,14 @@ namespace {
 
 void parse_events(TokenCursor& cursor, CreateTrigger& trigger) {
     do {
-        if (cursor.accept(Keyword::Insert)) trigger.on_insert = true;
-        else if (cursor.accept(Keyword::Update)) trigger.on_update = true;
-        else if (cursor.accept(Keyword::Delete)) trigger.on_delete = true;
-        else cursor.refuse_here();
+        if (cursor.accept(Keyword::Insert))
+            trigger.on_insert = true;
+        else if (cursor.accept(Keyword::Update))
+            trigger.on_update = true;
+        else if (cursor.accept(Keyword::Delete))
+            trigger.on_delete = true;
+        else
+            cursor.refuse_here();
     } while (cursor.accept(TokenKind::Comma));
 }
 

@@ -46,8 +46,8 @@ Diagnostic diagnose(std::string_view batch, const Refusal& refusal) {
     const std::string_view whole_line = line_around(batch, begin);
     const auto line_begin = static_cast<std::size_t>(whole_line.data() - batch.data());
     const std::size_t inside = std::min(begin - line_begin, whole_line.size());
-    const std::size_t end =
-        std::clamp<std::size_t>(std::min(refusal.at.end, size), begin, line_begin + whole_line.size());
+    const std::size_t end = std::clamp<std::size_t>(std::min(refusal.at.end, size), begin,
+                                                    line_begin + whole_line.size());
 
     const LineColumn place = locate(batch, begin);
     Diagnostic result;

@@ -1,4 +1,5 @@
-// A refusal of a T-SQL text: the server's error number, the place, a sentence, and a caret below it.
+// A refusal of a T-SQL text: the server's error number, the place, a sentence, and a caret below
+// it.
 #pragma once
 
 #include "tsql/source/position.h"

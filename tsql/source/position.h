@@ -12,9 +12,7 @@ struct SourceRange {
     std::uint32_t begin = 0;
     std::uint32_t end = 0;
 
-    std::string_view text(std::string_view batch) const {
-        return batch.substr(begin, end - begin);
-    }
+    std::string_view text(std::string_view batch) const { return batch.substr(begin, end - begin); }
     // From the start of this stretch to the end of another that does not lie before it.
     SourceRange up_to(SourceRange last) const { return {begin, last.end}; }
 };

@@ -26,9 +26,9 @@ struct Constraint {
     ConstraintKind kind = ConstraintKind::Check;
     Name name; // empty when the server is to choose one
     std::vector<IndexColumn> columns;
-    bool clustered = false;      // CLUSTERED was written
-    ExpressionPtr expression;    // of Check (a condition) and Default
-    Name default_for;            // ALTER TABLE … ADD CONSTRAINT … DEFAULT x FOR column
+    bool clustered = false;   // CLUSTERED was written
+    ExpressionPtr expression; // of Check (a condition) and Default
+    Name default_for;         // ALTER TABLE … ADD CONSTRAINT … DEFAULT x FOR column
     ForeignKey references;
     SourceRange at;
 };
@@ -40,8 +40,8 @@ struct Identity { // IDENTITY(seed, increment)
 
 struct ColumnDefinition {
     Name name;
-    TypeName type;            // name without parts for a computed column
-    ExpressionPtr computed;   // name AS expression, else null
+    TypeName type;          // name without parts for a computed column
+    ExpressionPtr computed; // name AS expression, else null
     bool persisted = false;
     std::optional<bool> nullable; // not set when neither NULL nor NOT NULL was written
     std::optional<Identity> identity;

@@ -31,9 +31,9 @@ struct Insert : Statement {
     std::vector<Name> columns; // empty when not listed
     std::optional<OutputClause> output;
     InsertSource source = InsertSource::Values;
-    std::vector<ValueRow> rows;            // of Values
-    std::unique_ptr<Query> query;          // of Query
-    StatementPtr execute;                  // of Execute: Execute or ExecuteText
+    std::vector<ValueRow> rows;   // of Values
+    std::unique_ptr<Query> query; // of Query
+    StatementPtr execute;         // of Execute: Execute or ExecuteText
 };
 
 // One element of SET: column = value, column += value, @v = value, @v = column = value.

@@ -5,8 +5,8 @@
 
 namespace tsql {
 
-struct Argument { // 5, @o OUTPUT, @p = 'x', @p = DEFAULT
-    std::string name; // parameter it is for, with its mark; empty when given by place
+struct Argument {        // 5, @o OUTPUT, @p = 'x', @p = DEFAULT
+    std::string name;    // parameter it is for, with its mark; empty when given by place
     ExpressionPtr value; // a Literal (with its sign as Unary), Variable or DefaultMark; a bare word
                          // comes as a text literal
     bool output = false;

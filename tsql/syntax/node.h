@@ -40,7 +40,7 @@ template <typename Class, typename Base> Class& as(Base& node) {
 // The node as that class, or null when it is of another kind.
 template <typename Class, typename Base> const Class* as_if(const Base* node) {
     return node != nullptr && node->kind == Class::own_kind ? static_cast<const Class*>(node)
-                                                             : nullptr;
+                                                            : nullptr;
 }
 
 } // namespace tsql

@@ -21,8 +21,8 @@ struct Query {
     QueryBodyPtr body;
     std::vector<OrderItem> order;
     SourceRange order_at;
-    ExpressionPtr offset; // OFFSET n ROWS, null when none
-    ExpressionPtr fetch;  // FETCH NEXT n ROWS ONLY, null when none
+    ExpressionPtr offset;             // OFFSET n ROWS, null when none
+    ExpressionPtr fetch;              // FETCH NEXT n ROWS ONLY, null when none
     std::optional<int> max_recursion; // OPTION (MAXRECURSION n)
     SourceRange at;
 };

@@ -16,7 +16,7 @@ struct CreateView : Statement {
     std::unique_ptr<Query> query;
 };
 
-struct Parameter { // @a decimal(18,2) = 0 OUTPUT
+struct Parameter {    // @a decimal(18,2) = 0 OUTPUT
     std::string name; // with its mark
     TypeName type;
     ExpressionPtr default_value; // null when the caller must give it
