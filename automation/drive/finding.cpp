@@ -1,6 +1,7 @@
 // Finds the form, control and column a request names, and says what exists when there is none.
 #include "automation/drive/finding.h"
 
+#include "automation/drive/acting.h"
 #include "automation/drive/driver.h"
 #include "automation/drive/same_name.h"
 #include "host/forms/form.h"
@@ -64,6 +65,9 @@ host::TForm& form_to_act_on(Driver& driver, const Request& request) {
                       driver.forms().name_of(*modal) + " has been closed");
     }
     driver.forms().activate(form);
+    // A form behind another comes to the front first, as the click on it would bring it.
+    act(driver, [&] { form.Activate(); });
+    if (!driver.forms().is_open(form)) throw Refusal("the form was closed");
     return form;
 }
 

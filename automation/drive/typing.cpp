@@ -31,7 +31,10 @@ void type_into_cell(Driver& driver, host::TForm& form, host::TDBGridEh& grid, st
     if (row < 0 && row_count(grid) == 0) throw Refusal(grid.Name() + " has no current row");
     go_to_cell(driver, form, grid, row, field, true);
     if (!grid.can_edit(column)) throw Refusal("the column " + field + " is read-only here");
-    act_fully(driver, [&] { grid.enter_cell(text); });
+    act_fully(driver, [&] {
+        grid.enter_cell(text);
+        if (grid.OnColExit) grid.OnColExit();
+    });
 }
 
 } // namespace automation
