@@ -40,16 +40,10 @@ host::CellView cell_of(host::FieldType type, const std::string& text) {
     if (text == "<null>") return cell;
     cell.null = false;
     switch (type) {
-    case host::FieldType::Text:
-        cell.text = text;
-        break;
+    case host::FieldType::Text: cell.text = text; break;
     case host::FieldType::Integer:
-    case host::FieldType::Boolean:
-        cell.integer = std::stoll(text);
-        break;
-    case host::FieldType::Amount:
-        cell.integer = host::Amount::parse(text).value().units();
-        break;
+    case host::FieldType::Boolean: cell.integer = std::stoll(text); break;
+    case host::FieldType::Amount: cell.integer = host::Amount::parse(text).value().units(); break;
     case host::FieldType::DateTime: {
         const host::DateTime moment = host::DateTime::parse(text).value();
         cell.integer = moment.date.days() * milliseconds_a_day + moment.milliseconds;

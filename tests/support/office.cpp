@@ -19,9 +19,9 @@ public:
 
 } // namespace
 
-Office::Office(host::DataPort& data, PersonOptions options, Menu menu, automation::QueryPort* query)
-    : data_(data), options_(std::move(options)), menu_(std::move(menu)), query_(query),
-      clock_(options_.today), thread_([this] { work(); }) {}
+Office::Office(host::DataPort& data, PersonOptions options)
+    : data_(data), options_(std::move(options)), clock_(options_.today),
+      thread_([this] { work(); }) {}
 
 Office::~Office() {
     hand_off_.finish();
@@ -45,13 +45,13 @@ void Office::furnish(automation::Driver& driver) {
 void Office::work() {
     host::TForm* owner = nullptr;
     const auto menu = [&](const host::Trecord& record) {
-        if (menu_)
-            menu_(record, *owner);
+        if (options_.menu)
+            options_.menu(record, *owner);
         else
             module_entry()(record, owner);
     };
     {
-        automation::Driver driver({hand_off_, hand_off_, menu, query_});
+        automation::Driver driver({hand_off_, hand_off_, menu, options_.query});
         furnish(driver);
         Frame frame;
         owner = &frame;

@@ -13,14 +13,10 @@
 namespace tests {
 
 // Fills the host with ports, serves requests until finish(), then destroys the forms and empties
-// the host again. One at a time in a process. `menu` opens a function; the module's entry when
-// it is left out.
+// the host again. One at a time in a process.
 class Office {
 public:
-    using Menu = std::function<void(const host::Trecord&, host::TForm& frame)>;
-
-    Office(host::DataPort& data, PersonOptions options, Menu menu = {},
-           automation::QueryPort* query = nullptr);
+    Office(host::DataPort& data, PersonOptions options);
     ~Office();
     HandOff& hand_off() { return hand_off_; }
 
@@ -30,8 +26,6 @@ private:
 
     host::DataPort& data_;
     PersonOptions options_;
-    Menu menu_;
-    automation::QueryPort* query_;
     FixedClock clock_;
     MemorySettings settings_;
     CountedBytes random_;

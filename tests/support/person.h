@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "automation/drive/ports.h"
 #include "host/contract/U_glo.h"
 #include "host/ports/host.h"
 
@@ -28,6 +29,9 @@ struct PersonOptions {
     std::string company = "测试公司";
     // Rights the person lacks; the rest is allowed.
     std::function<bool(const host::Right&)> may = [](const host::Right&) { return true; };
+    // Opens a function; left out, the module does.
+    std::function<void(const host::Trecord&, host::TForm& frame)> menu;
+    automation::QueryPort* query = nullptr; // the administrator's window; none when left out
 };
 
 // Drives the module's real forms through the automation interface, on a thread of its own. Each
