@@ -6,6 +6,7 @@
 #include "host/contract/U_glo.h"
 #include "host/contract/U_dataop.h"
 #include "host/contract/U_function.h"
+#include "host/dataset/client_dataset.h"
 #include "host/forms/form.h"
 
 namespace host {
@@ -20,7 +21,8 @@ public:
                               const std::string& p4, const std::string& p5, const std::string& p6);
     virtual void SetBodyParam(const std::array<std::string, 17>& params);
 
-    // The system parameter of that name: function code, user, company, period, today.
+    // The system parameter of that name: "function", "user", "user name", "company", "today",
+    // "period" and "first period" of the books; "" for any other.
     std::string Getsysinfo(const std::string& name) const;
 
     // Function code as text; the first argument of the data operations.
@@ -40,9 +42,23 @@ public:
     // Leaving through 取消 must not be held up by a field's checks.
     bool leaving_by_cancel() const; // FocusTarget is btn_Cancel
 
+    std::string RightsFunction() const override;
+
 protected:
+    // Takes the menu pick over: function code and parameters. Refuses with a message and Abort() when
+    // the user may not open the function.
+    void OpenFunction(const Trecord& record);
+
+    // Every field is checked as if it had been left, in the order of the layout; refuses by Abort().
+    void LeaveAllFields();
+
+    Trecord record_; // of the menu pick
     std::array<std::string, 6> user_params_, form_params_;
     std::array<std::string, 17> body_params_;
+
+private:
+    std::string read_period(int id) const;
+    void set_dates(const std::string& range_name);
 };
 
 } // namespace host

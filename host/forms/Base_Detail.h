@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/forms/Base_Dialog.h"
+#include "host/forms/parts/field_snapshot.h"
 
 namespace host {
 
@@ -26,7 +27,12 @@ public:
 
 protected:
     void btn_okClick() override; // CheckAll, SaveData; closes only when saved
-    bool saved_ = false;         // set by SaveData when ExecSql answered "Y"
+    bool has_unsaved_work() const override;
+    void FormShow() override;
+    bool saved_ = false; // set by SaveData when ExecSql answered "Y"
+
+private:
+    FieldSnapshot as_prepared_;
 };
 
 } // namespace host

@@ -19,7 +19,8 @@ public:
     virtual void btn_CancelClick(); // ModalResult 2
 
 protected:
-    void FormKeyDown(Key& key) override;
+    void FormKeyDown(Key& key) override; // F2 goes to OK and presses it
+    void press(TButton& button);
 };
 
 } // namespace host

@@ -1,13 +1,18 @@
 // Document entry: a header above, lines in a grid below, saved together.
 #pragma once
 
+#include <functional>
+#include <memory>
+
 #include "host/forms/Base_Panel.h"
+#include "host/forms/parts/field_snapshot.h"
 
 namespace host {
 
 class Tfrm_Base_Entry_Body : public TFrm_Base_Panel {
 public:
     explicit Tfrm_Base_Entry_Body(TForm* parent);
+    ~Tfrm_Base_Entry_Body() override;
 
     // Opens the form for `mode` on the document with `key` ("" when adding) and shows it.
     // `list` is the opener's head dataset: its current row follows what is saved.
@@ -33,6 +38,10 @@ public:
     TClientDataSet AdoQry_Head;
     TClientDataSet* List = nullptr;
 
+    TLabel LockReason{this, "LockReason"}; // why the document is only shown
+    // Told the key of every document saved; the list behind shows it.
+    std::function<void(const std::string& key)> OnSaved;
+
     TAction Act_AddLine{this, "Act_AddLine", "加行", "Insert", "plus"};
     TAction Act_DeleteLine{this, "Act_DeleteLine", "删行", "Ctrl+Delete", "trash-2"};
 
@@ -40,13 +49,27 @@ protected:
     // F2: posts the line being edited, SaveHeadData, AllCheck, SaveData. After adding the form stays,
     // ready for the next document; after a change it closes.
     void Act_SaveExecute() override;
-    void Act_AddExecute() override; // a line
-    void FormKeyDown(Key& key) override;
+    void Act_AddExecute() override;         // a line before the current one
+    virtual void Act_DeleteLineExecute();   // the current line
+    void FormShow() override;
+    void FormKeyDown(host::Key& key) override;
     bool has_unsaved_work() const override;
     void Touch(); // something changed: saving is possible
     void Saved(const std::string& key);
     bool read_only() const { return Mode == "ReadOnly"; }
     bool touched_ = false;
+
+private:
+    struct LineWatch;
+    void prepare(const std::string& key);
+    void watch_fields();
+    void lock_fields();
+    bool preparing_ = false;
+    bool saved_ = false;
+    std::vector<TWinControl*> watched_;
+    std::vector<TWinControl*> locked_; // made read-only because the document is only shown
+    FieldSnapshot as_prepared_;
+    std::unique_ptr<LineWatch> line_watch_;
 };
 
 } // namespace host

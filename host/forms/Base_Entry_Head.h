@@ -21,12 +21,16 @@ struct EntryHeadSettings {
     std::string line_query;       // "%s" stands for the quoted key
     std::string delete_statement; // "%S" stands for the quoted key
     std::string period_field;     // field naming the document's period; empty when it has none
+    std::string audited_field = "T";
+    std::string posted_field = "D"; // empty when the documents are not posted
 };
 
 class TFrm_Base_Entry_Head : public TFrm_Base_Panel {
 public:
     explicit TFrm_Base_Entry_Head(TForm* parent);
 
+    // The form's own InitForm sets Settings and creates its filter and entry form first. Documents
+    // of the filter's default conditions are shown at once.
     virtual void InitForm(const Trecord& record);
     virtual void GetData(); // heads by Condition, then the lines of the selected one
 
@@ -54,7 +58,20 @@ protected:
     void DBGridEhDblClick() override;
     // Why the selected document cannot be changed; "" when it can.
     virtual std::string WhyLocked();
+    // What messages call the selected document; its key unless the form knows better.
+    virtual std::string DocumentName();
     void LoadLines();
+    bool auditing() const { return Act_Audit.Visible; } // the list audits and does not change
+
+private:
+    void open_document(bool read_only, bool copy);
+    // Reads the head with that key again and shows it in the row; false when the document is gone.
+    bool refresh_row(const std::string& key);
+    bool read_head(const std::string& key, TClientDataSet& head);
+    void document_saved(const std::string& key); // adds or renews its row
+    bool current_document_still_there();
+    void write_audit(bool audit);
+    std::string lines_of_; // key of the document whose lines are shown
 };
 
 } // namespace host

@@ -15,6 +15,8 @@ public:
     std::string SqlText, TableName, KeyField, SumFields;
 
 protected:
+    void Act_AddExecute() override; // a row
+    void Act_DeleteExecute() override;
     void Act_SaveExecute() override;
     bool has_unsaved_work() const override;
 };

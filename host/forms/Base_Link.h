@@ -12,6 +12,12 @@ public:
     TEdit wl_id{this, "wl_id"};
     TClientDataSet AdoQry_Main;
     TDBGridEh DBGridEh{this, "DBGridEh", &AdoQry_Main};
+
+    void btn_okClick() override; // does nothing while no row is found
+
+protected:
+    void FormKeyDown(Key& key) override; // up and down choose while the search box has the focus
+    void FormShow() override;
 };
 
 } // namespace host

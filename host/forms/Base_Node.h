@@ -3,6 +3,7 @@
 
 #include "host/controls/tree_view.h"
 #include "host/dataset/client_dataset.h"
+#include "host/forms/parts/delete_guard.h"
 #include "host/forms/Base_Common.h"
 
 namespace host {
@@ -17,10 +18,7 @@ public:
     virtual void InitForm(const Trecord& record);
 
     std::string ListQuery, KeyField, NameField, ParentField, RootParent, DeleteStatement;
-    struct Use {
-        std::string count_query; // "%S" stands for the quoted code
-        std::string reason;
-    };
+    using Use = UseRule; // its count query takes the quoted key for "%S"
     std::vector<Use> Uses; // an account in use is not deleted
 
     TClientDataSet AdoQry_Main;
@@ -41,6 +39,10 @@ protected:
     virtual void Act_CopyAddExecute();
     virtual void Act_ModifyExecute();
     virtual void Act_DeleteExecute(); // asks first; children or uses refuse with the reason
+    virtual void Act_ExportExecute();
+    void open_dialog(const char* mode);
+    void select_code(const std::string& code);
+    void search(bool next); // selects the first node that matches the search box, or the next one
     void FormKeyDown(Key& key) override;
 };
 

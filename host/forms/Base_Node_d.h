@@ -3,6 +3,7 @@
 
 #include "host/controls/tree_view.h"
 #include "host/forms/Base_Dialog.h"
+#include "host/forms/parts/field_snapshot.h"
 
 namespace host {
 
@@ -25,7 +26,12 @@ public:
 
 protected:
     void btn_okClick() override;
-    bool saved_ = false;
+    bool has_unsaved_work() const override;
+    void FormShow() override;
+    bool saved_ = false; // set by SaveData when ExecSql answered "Y"
+
+private:
+    FieldSnapshot as_prepared_;
 };
 
 } // namespace host

@@ -1,6 +1,7 @@
 // A list with a separate edit dialog, such as voucher words.
 #pragma once
 
+#include "host/forms/parts/delete_guard.h"
 #include "host/forms/Base_Panel.h"
 
 namespace host {
@@ -18,10 +19,7 @@ public:
     std::string KeyField;        // "pzz"
     std::string NameField;       // shown in the question before a delete
     // Statements that count uses of the selected key; any above 0 refuses the delete with its reason.
-    struct Use {
-        std::string count_query; // "%S" stands for the quoted key
-        std::string reason;
-    };
+    using Use = UseRule; // its count query takes the quoted key for "%S"
     std::vector<Use> Uses;
     TEdit SearchBox{this, "SearchBox", "查找"}; // narrows the rows by any text column or pinyin
 
@@ -33,6 +31,10 @@ protected:
     void Act_DeleteExecute() override;
     void Act_RefreshExecute() override;
     void DBGridEhDblClick() override;
+
+private:
+    void open_dialog(const char* mode);
+    void narrow(); // by the search box
 };
 
 } // namespace host

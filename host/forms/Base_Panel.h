@@ -13,7 +13,8 @@ public:
     TClientDataSet AdoQry_Main;
     TDBGridEh DBGridEh{this, "DBGridEh", &AdoQry_Main};
 
-    // Actions every such form has; a form that has no use for one hides it.
+    // Actions every such form has; a form that has no use for one hides it. Hidden from the start:
+    // audit and un-audit, and printing where the user interface offers none.
     TAction Act_Add{this, "Act_Add", "新增", "Insert", "plus"};
     TAction Act_CopyAdd{this, "Act_CopyAdd", "复制", "Ctrl+Insert", "copy-plus"};
     TAction Act_Modify{this, "Act_Modify", "修改", "", "pencil"};
@@ -22,11 +23,11 @@ public:
     TAction Act_Refresh{this, "Act_Refresh", "刷新", "F5", "refresh-cw"};
     TAction Act_Locate{this, "Act_Locate", "查询", "F3", "list-filter"};
     TAction Act_Print{this, "Act_Print", "打印", "Ctrl+P", "printer"};
-    TAction Act_Preview{this, "Act_Preview", "预览", "", "eye"};
+    TAction Act_Preview{this, "Act_Preview", "预览", "Ctrl+Shift+P", "eye"};
     TAction Act_Export{this, "Act_Export", "导出", "Ctrl+E", "file-down"};
     TAction Act_Other{this, "Act_Other", "其他", "F7", "layout-template"};
-    TAction Act_Audit{this, "Act_Audit", "审核", "", "stamp"};
-    TAction Act_UnAudit{this, "Act_UnAudit", "反审核", "", "undo-2"};
+    TAction Act_Audit{this, "Act_Audit", "审核", "F9", "stamp"};
+    TAction Act_UnAudit{this, "Act_UnAudit", "反审核", "Shift+F9", "undo-2"};
     TAction Act_Quit{this, "Act_Quit", "退出", "Esc", "log-out"};
 
     // Set-text handler of amount fields; the voucher's differs.
@@ -56,6 +57,13 @@ protected:
     // Negative values of columns with the tag 9 are red; forms extend it.
     virtual void DBGridEhGetCellParams(TField& field, CellParams& params);
     void FormKeyDown(Key& key) override;
+    void FormShow() override;  // columns as the person left them last time
+    void FormClose() override; // and kept for the next
+    static void hide(std::initializer_list<TAction*> actions);
+    std::vector<TDBGridEh*> grids() const;
+
+private:
+    bool columns_restored_ = false;
 };
 
 } // namespace host

@@ -27,6 +27,7 @@ protected:
     // Shows the condition dialog; on OK takes its statement, clears the order, runs it.
     void Act_LocateExecute() override;
     virtual TFrm_Sys_Filter* Filter() { return nullptr; } // created in InitForm by the form
+    void FormKeyDown(Key& key) override; // the space key asks for conditions, as F3
 };
 
 } // namespace host

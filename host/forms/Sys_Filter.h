@@ -1,10 +1,15 @@
 // The condition dialog of a list: dates, periods, ranges and options, remembered per company.
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include "host/forms/Base_Condition.h"
 
 namespace host {
 
+// A form of the family overrides btn_okClick: its own checks, then ResultText and Description, the
+// inherited operation last. Abort() keeps the dialog open with its inputs.
 class TFrm_Sys_Filter : public TFrm_Base_Condition {
 public:
     explicit TFrm_Sys_Filter(TForm* parent);
@@ -20,7 +25,8 @@ public:
     void ReadPeriods();
 
 protected:
-    void btn_okClick() override;
+    void btn_okClick() override; // checks the fields, keeps what is remembered, closes with OK
+    void FormShow() override;
     // Shared pieces of the family.
     // "(" table ".BDATE>='" start "') AND (" table ".BDATE<'" day after the end "')"
     static std::string DateCondition(const std::string& table, Date start, Date end);
@@ -35,6 +41,10 @@ protected:
     void SaveRemembered();
     std::vector<TWinControl*> remembered_;
     std::unique_ptr<TPopupMenu> date_menu_;
+
+private:
+    std::string setting_of(const TWinControl& control) const;
+    std::vector<std::unique_ptr<TMenuItem>> date_items_;
 };
 
 } // namespace host

@@ -127,6 +127,12 @@ void TForm::Close() {
 }
 
 bool TForm::CloseQuery() {
+    // What was opened from here goes with it, so it is asked first.
+    for (TForm* child : std::vector(children_)) {
+        if (!child->Shown() || child->CloseQuery()) continue;
+        child->Activate();
+        return false;
+    }
     if (!has_unsaved_work()) return true;
     return DISPINFO("“" + Caption.get() + "”中有尚未保存的内容，确定不保存就离开吗？", 2) == 'y';
 }

@@ -36,6 +36,7 @@ public:
     virtual bool progress(const std::string& what, std::int64_t done, std::int64_t total) = 0;
     // Can forms be printed and previewed? Their actions are hidden otherwise.
     virtual bool offers_printing() const { return false; }
+    virtual void print(TForm&, bool /*preview*/) {}
     // For Ctrl+C; an interface without a clipboard forgets it.
     virtual void set_clipboard(const std::string&) {}
     // The frame repaints before a modal dialog covers it.

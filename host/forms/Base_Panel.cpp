@@ -1,0 +1,111 @@
+// Forms with a main grid: actions, columns, colours.
+#include "host/forms/Base_Panel.h"
+
+#include "host/forms/parts/column_memory.h"
+#include "host/forms/parts/grid_export.h"
+#include "host/ports/host.h"
+
+namespace host {
+
+namespace {
+
+constexpr Color red = 255;
+constexpr int amount_tag = 9;
+
+} // namespace
+
+TFrm_Base_Panel::TFrm_Base_Panel(TForm* parent) : TFrm_Base_Common(parent) {
+    Act_Add.OnExecute = [this] { Act_AddExecute(); };
+    Act_CopyAdd.OnExecute = [this] { Act_CopyAddExecute(); };
+    Act_Modify.OnExecute = [this] { Act_ModifyExecute(); };
+    Act_Delete.OnExecute = [this] { Act_DeleteExecute(); };
+    Act_Save.OnExecute = [this] { Act_SaveExecute(); };
+    Act_Refresh.OnExecute = [this] { Act_RefreshExecute(); };
+    Act_Locate.OnExecute = [this] { Act_LocateExecute(); };
+    Act_Print.OnExecute = [this] { Act_PrintExecute(); };
+    Act_Preview.OnExecute = [this] { Act_PreviewExecute(); };
+    Act_Export.OnExecute = [this] { Act_ExportExecute(); };
+    Act_Other.OnExecute = [this] { Act_OtherExecute(); };
+    Act_Audit.OnExecute = [this] { Act_AuditExecute(); };
+    Act_UnAudit.OnExecute = [this] { Act_UnAuditExecute(); };
+    Act_Quit.OnExecute = [this] { Act_QuitExecute(); };
+    Act_Add.Right = Act_CopyAdd.Right = "add";
+    Act_Modify.Right = "change";
+    Act_Delete.Right = "delete";
+    Act_Audit.Right = Act_UnAudit.Right = "audit";
+    Act_Print.Right = Act_Preview.Right = "print";
+    Act_Export.Right = "export";
+    hide({&Act_Audit, &Act_UnAudit});
+    const UserInterface* ui = the_host().ui;
+    if (ui == nullptr || !ui->offers_printing()) hide({&Act_Print, &Act_Preview});
+    DBGridEh.OnKeyPress = [this](char32_t& character) { DBGridEhKeyPress(character); };
+    DBGridEh.OnDblClick = [this] { DBGridEhDblClick(); };
+    DBGridEh.OnGetCellParams = [this](TField& field, CellParams& params) {
+        DBGridEhGetCellParams(field, params);
+    };
+}
+
+void TFrm_Base_Panel::hide(std::initializer_list<TAction*> actions) {
+    for (TAction* action : actions) action->Visible = false;
+}
+
+std::vector<TDBGridEh*> TFrm_Base_Panel::grids() const {
+    std::vector<TDBGridEh*> found;
+    for (TComponent* part : components())
+        if (auto* grid = dynamic_cast<TDBGridEh*>(part)) found.push_back(grid);
+    return found;
+}
+
+void TFrm_Base_Panel::FormShow() {
+    TFrm_Base_Common::FormShow();
+    if (columns_restored_) return;
+    columns_restored_ = true;
+    for (TDBGridEh* grid : grids()) restore_columns(*grid);
+}
+
+void TFrm_Base_Panel::FormClose() {
+    for (const TDBGridEh* grid : grids()) keep_columns(*grid);
+    TFrm_Base_Common::FormClose();
+}
+
+void TFrm_Base_Panel::SetFloatText(TField& field, const std::string& typed) {
+    field.SetConverted(typed);
+}
+
+GridColumn& TFrm_Base_Panel::AddColumn(const std::string& field, const std::string& title,
+                                       int width) {
+    GridColumn column;
+    column.FieldName = field;
+    column.Title = title;
+    column.Width = width;
+    DBGridEh.Columns.push_back(std::move(column));
+    return DBGridEh.Columns.back();
+}
+
+GridColumn& TFrm_Base_Panel::AddAmountColumn(const std::string& field, const std::string& title,
+                                             int width) {
+    TField& amount = AdoQry_Main.DefineField(field, FieldType::Amount);
+    if (amount.DisplayFormat.empty()) amount.DisplayFormat = "0.00";
+    GridColumn& column = AddColumn(field, title, width);
+    column.Align = Alignment::Right;
+    column.Tag = amount_tag;
+    return column;
+}
+
+void TFrm_Base_Panel::Act_QuitExecute() { Close(); }
+void TFrm_Base_Panel::Act_PrintExecute() { the_host().ui->print(*this, false); }
+void TFrm_Base_Panel::Act_PreviewExecute() { the_host().ui->print(*this, true); }
+void TFrm_Base_Panel::Act_ExportExecute() { export_grid(DBGridEh, Caption); }
+
+void TFrm_Base_Panel::DBGridEhKeyPress(char32_t&) {}
+void TFrm_Base_Panel::DBGridEhDblClick() {}
+
+void TFrm_Base_Panel::DBGridEhGetCellParams(TField& field, CellParams& params) {
+    const int index = DBGridEh.column_index(field.FieldName);
+    if (index < 0 || DBGridEh.Columns[static_cast<std::size_t>(index)].Tag != amount_tag) return;
+    if (field.AsAmount().is_negative()) params.Font = red;
+}
+
+void TFrm_Base_Panel::FormKeyDown(Key& key) { TFrm_Base_Common::FormKeyDown(key); }
+
+} // namespace host

@@ -1,0 +1,62 @@
+// A query or report: conditions, statement, rows.
+#include "host/forms/Base_Qry.h"
+
+#include "host/forms/Sys_Filter.h"
+#include "host/forms/parts/list_search.h"
+#include "host/forms/parts/sum_footers.h"
+
+namespace host {
+
+TFrm_Base_Qry::TFrm_Base_Qry(TForm* parent) : TFrm_Base_Panel(parent) {
+    hide({&Act_Add, &Act_CopyAdd, &Act_Modify, &Act_Delete, &Act_Save, &Act_Other});
+    DBGridEh.ReadOnly = true;
+    layout = Rows({ToolBar({&Act_Locate, &Act_Refresh, nullptr, &Act_Print, &Act_Preview,
+                            &Act_Export, nullptr, &Act_Quit}),
+                   Control(ConditionLabel), Rest(DBGridEh)});
+}
+
+void TFrm_Base_Qry::InitForm(const Trecord& record) {
+    OpenFunction(record);
+    add_sum_footers(DBGridEh, SumFields);
+    Show();
+}
+
+void TFrm_Base_Qry::GetData() {
+    const std::string key = current_key(AdoQry_Main, KeyField);
+    opensql(AdoQry_Main, FunctionCode, SqlText + OrderText);
+    return_to_key(AdoQry_Main, KeyField, key);
+}
+
+void TFrm_Base_Qry::Act_RefreshExecute() {
+    if (SqlText.empty()) {
+        DISPINFO("您还没选择任何查询参数,请按【F3】呼出查询选项!", 5);
+        return;
+    }
+    GetData();
+}
+
+void TFrm_Base_Qry::Act_LocateExecute() {
+    TFrm_Sys_Filter* filter = Filter();
+    if (filter == nullptr || filter->ShowModal() != mrOk) return;
+    const std::string sql = SqlText, order = OrderText;
+    SqlText = filter->ResultText;
+    OrderText.clear();
+    try {
+        GetData();
+    } catch (...) {
+        SqlText = sql; // the rows shown still belong to the statement before
+        OrderText = order;
+        throw;
+    }
+    ConditionLabel.Caption = filter->Description;
+}
+
+void TFrm_Base_Qry::FormKeyDown(Key& key) {
+    TFrm_Base_Panel::FormKeyDown(key);
+    const bool plain = !key.ctrl && !key.alt && !key.shift;
+    if (!plain || key.code != KeyCode::Space || !DBGridEh.focused()) return;
+    key = {};
+    Act_Locate.Execute();
+}
+
+} // namespace host

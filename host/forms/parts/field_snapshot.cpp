@@ -1,0 +1,31 @@
+// Comparing what the fields of a form hold with what they held.
+#include "host/forms/parts/field_snapshot.h"
+
+#include <algorithm>
+
+#include "host/forms/form.h"
+
+namespace host {
+
+std::vector<TWinControl*> FieldSnapshot::fields(const TForm& form) {
+    std::vector<TWinControl*> fields;
+    for (TComponent* part : form.components()) {
+        const bool field = dynamic_cast<TEdit*>(part) || dynamic_cast<TComboBox*>(part) ||
+                           dynamic_cast<TCheckBox*>(part) || dynamic_cast<TRadioButton*>(part);
+        if (field) fields.push_back(static_cast<TWinControl*>(part));
+    }
+    return fields;
+}
+
+void FieldSnapshot::take(const TForm& form) {
+    held_.clear();
+    for (TWinControl* field : fields(form)) held_.emplace_back(field, field->value_text());
+}
+
+bool FieldSnapshot::differs() const {
+    return std::any_of(held_.begin(), held_.end(), [](const auto& held) {
+        return held.first->value_text() != held.second;
+    });
+}
+
+} // namespace host

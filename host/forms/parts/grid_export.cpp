@@ -1,0 +1,57 @@
+// Writing a grid as comma-separated values.
+#include "host/forms/parts/grid_export.h"
+
+#include "host/controls/grid.h"
+#include "host/forms/parts/text_file.h"
+#include "host/values/text.h"
+
+namespace host {
+
+namespace {
+
+// Numbers are written without separators, so that a spreadsheet reads them as numbers.
+std::string cell(const TDBGridEh& grid, int row, int column) {
+    const TField* field =
+        grid.DataSet->FindField(grid.Columns[static_cast<std::size_t>(column)].FieldName);
+    if (field == nullptr) return {};
+    const bool amount = field->Type == FieldType::Amount && !field->OnGetText;
+    if (!amount) return grid.cell_text(row, column);
+    return formatted(grid.DataSet->value_at(row, field->index()),
+                     replaced(field->DisplayFormat, "#,##", ""));
+}
+
+template <class Text> void add_line(std::string& lines, const TDBGridEh& grid, Text text) {
+    bool first = true;
+    for (int i = 0; i < static_cast<int>(grid.Columns.size()); ++i) {
+        if (!grid.Columns[static_cast<std::size_t>(i)].Visible) continue;
+        if (!first) lines += ',';
+        lines += csv_field(text(i));
+        first = false;
+    }
+    lines += "\r\n";
+}
+
+} // namespace
+
+std::string grid_as_csv(const TDBGridEh& grid) {
+    std::string lines = "\xEF\xBB\xBF";
+    add_line(lines, grid, [&](int i) {
+        return replaced(grid.Columns[static_cast<std::size_t>(i)].Title, "|", " ");
+    });
+    for (int row = 0; row < grid.DataSet->RecordCount(); ++row)
+        add_line(lines, grid, [&](int i) { return cell(grid, row, i); });
+    bool footers = false;
+    for (const GridColumn& column : grid.Columns)
+        footers = footers || (column.Visible && column.Footer != FooterKind::None);
+    if (footers)
+        add_line(lines, grid, [&](int i) { return replaced(grid.footer_text(i), ",", ""); });
+    return lines;
+}
+
+void export_grid(const TDBGridEh& grid, const std::string& title) {
+    if (grid.DataSet == nullptr) return;
+    save_text_as(title, grid_as_csv(grid),
+                 "已导出 " + std::to_string(grid.DataSet->RecordCount()) + " 行到 ");
+}
+
+} // namespace host
