@@ -1,6 +1,6 @@
--- Balances of accounts. One row an account, period and kind: INX 0 movements of the period (SY_J and
--- SY_D the part made by the carry-forward, sides swapped), INX 1 closing balance on the account's
--- own side. The opening of a year is kept as its month 00.
+-- Balances of accounts. One row an account, period and kind: INX 0 movements of the period (SY_J
+-- and SY_D the part made by the carry-forward, sides swapped), INX 1 closing balance on the
+-- account's own side. The opening of a year is kept as its month 00.
 -- A trial balance reads one period and kind (the key); a ledger reads one account (the index).
 -- Written by: posting and unposting, initial posting, closing.
 CREATE TABLE D6602 (

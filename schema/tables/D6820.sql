@@ -1,5 +1,5 @@
--- Cash-flow items. One row an item; OID is the parent's code, 'ZZZ' at the top. Amounts are allocated
--- to items whose parent is itself below the top.
+-- Cash-flow items. One row an item; OID is the parent's code, 'ZZZ' at the top. Amounts are
+-- allocated to items whose parent is itself below the top.
 -- Written by: cash-flow items; creating the books (template).
 CREATE TABLE D6820 (
     ID nvarchar(20) NOT NULL CONSTRAINT PK_D6820 PRIMARY KEY,

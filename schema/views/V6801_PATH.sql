@@ -1,5 +1,5 @@
--- The way from an account up to the top: the codes of the accounts above it (UP1 its parent) and its
--- full name, the names from the top joined by "-". Says what the stored KM_NAME2 must be.
+-- The way from an account up to the top: the codes of the accounts above it (UP1 its parent) and
+-- its full name, the names from the top joined by "-". Says what the stored KM_NAME2 must be.
 CREATE VIEW V6801_PATH AS
 SELECT A.KM_ID, P1.KM_ID AS UP1, P2.KM_ID AS UP2, P3.KM_ID AS UP3, P4.KM_ID AS UP4,
        P5.KM_ID AS UP5,
