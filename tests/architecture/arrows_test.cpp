@@ -27,7 +27,7 @@ const std::vector<Arrow>& arrows() {
         {"module/", {"module/", "host/"}, {}},
         {"automation/drive/", {"automation/drive/", "host/"}, {"nlohmann/"}},
         {"automation/sql/", {"automation/sql/", "engines/"}, {"nlohmann/", "fmt/"}},
-        {"automation/check/", {"automation/check/", "engines/", "schema/"}, {"nlohmann/", "fmt/"}},
+        {"automation/check/", {"automation/check/", "automation/sql/", "engines/", "schema/"}, {}},
         {"desktop/", {"desktop/", "host/"}, {"*"}},
         {"app/", {"*"}, {"*"}},
         {"tests/", {"*"}, {"*"}},

@@ -1,0 +1,43 @@
+// Rows whose other half is missing: lines without a head, codes that no table holds.
+#include "automation/check/findings.h"
+
+namespace automation {
+
+namespace {
+
+// Table, its column, the table it refers to, that one's key, and what to say.
+struct Reference {
+    const char* table;
+    const char* column;
+    const char* target;
+    const char* key;
+    const char* says;
+};
+
+constexpr Reference references[] = {
+    {"D6601A", "NOID", "D6601", "NOID", "分录没有凭证头"},
+    {"D6601A", "KM_ID", "D6801", "KM_ID", "分录的科目不存在"},
+    {"D6601B", "NOID", "D6601", "NOID", "现金流量分配没有凭证"},
+    {"D6601B", "D6820ID", "D6820", "ID", "现金流量分配的项目不存在"},
+    {"D6601M", "KM_ID", "D6801", "KM_ID", "凭证模板的科目不存在"},
+    {"D6602", "KM_ID", "D6801", "KM_ID", "余额的科目不存在"},
+    {"D6601", "USER_ID", "SYS_USER", "USER_ID", "凭证的制单人不存在"},
+    {"D6804", "KM_ID", "D6801", "KM_ID", "收支类别的科目不存在"},
+};
+
+std::string query_of(const Reference& reference) {
+    const std::string column = std::string("A.") + reference.column;
+    return "SELECT DISTINCT '" + std::string(reference.says) + ":', " + column + " FROM " +
+           reference.table + " A WHERE NOT EXISTS (SELECT * FROM " + reference.target +
+           " B WHERE B." + reference.key + " = " + column + ") ORDER BY " + column;
+}
+
+} // namespace
+
+void check_orphans(engines::Session& session, Findings& findings) {
+    for (const Reference& reference : references)
+        add_rows(session, query_of(reference), findings);
+    add_rows(session, "SELECT '未完成的删除:', NOID FROM SYS_6601_GONE", findings);
+}
+
+} // namespace automation
