@@ -1,0 +1,92 @@
+// Copies of books, and the way back.
+#include "app/books/backup.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+
+#include "app/books/open.h"
+#include "app/refusal.h"
+#include "automation/sql/collected_result.h"
+#include "tests/support/new_books.h"
+
+namespace app {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Backup : public ::testing::Test {
+protected:
+    void write(const std::string& books, const std::string& summary) {
+        automation::rows_of(*open_books(books), "INSERT INTO D6803 (GUID, ZY) VALUES ('" +
+                                                    summary + "','" + summary + "')");
+    }
+    bool has(const std::string& books, const std::string& summary) {
+        return !automation::rows_of(*open_books(books),
+                                    "SELECT ZY FROM D6803 WHERE GUID = '" + summary + "'")
+                    .empty();
+    }
+
+    tests::TemporaryFolder folder_;
+    std::string books_ = tests::new_books(folder_, "a.zf");
+    std::string copy_ = folder_.file("copy.zf");
+};
+
+} // namespace
+
+TEST_F(Backup, a_copy_holds_what_was_saved_while_others_have_the_books_open) {
+    const auto other = open_books(books_);
+    automation::rows_of(*other, "INSERT INTO D6803 (GUID, ZY) VALUES ('kept','kept')");
+    backup_books(books_, copy_);
+    EXPECT_TRUE(has(copy_, "kept"));
+}
+
+TEST_F(Backup, restoring_brings_the_books_back_and_keeps_the_old_ones_aside) {
+    write(books_, "before");
+    backup_books(books_, copy_);
+    write(books_, "after");
+    const std::string aside = restore_books(copy_, books_, "20240305-140506");
+    EXPECT_TRUE(has(books_, "before"));
+    EXPECT_FALSE(has(books_, "after"));
+    ASSERT_FALSE(aside.empty());
+    EXPECT_TRUE(has(aside, "after"));
+}
+
+TEST_F(Backup, restoring_where_no_books_are_makes_them) {
+    write(books_, "before");
+    backup_books(books_, copy_);
+    EXPECT_EQ(restore_books(copy_, folder_.file("new.zf"), "m"), "");
+    EXPECT_TRUE(has(folder_.file("new.zf"), "before"));
+}
+
+TEST_F(Backup, damaged_books_are_replaced_too) {
+    write(books_, "before");
+    backup_books(books_, copy_);
+    std::ofstream(books_, std::ios::binary | std::ios::trunc) << std::string(50'000, '\xA5');
+    EXPECT_FALSE(restore_books(copy_, books_, "m").empty());
+    EXPECT_TRUE(has(books_, "before"));
+}
+
+TEST_F(Backup, restoring_is_refused_while_somebody_works_in_the_books) {
+    backup_books(books_, copy_);
+    const auto other = open_books(books_);
+    automation::rows_of(*other, "INSERT INTO D6803 (GUID, ZY) VALUES ('open','open')");
+    EXPECT_THROW(restore_books(copy_, books_, "m"), Refusal);
+    EXPECT_TRUE(has(books_, "open"));
+}
+
+TEST_F(Backup, an_existing_file_is_never_replaced_by_a_copy) {
+    std::ofstream(copy_) << "of somebody";
+    EXPECT_THROW(backup_books(books_, copy_), Refusal);
+    EXPECT_EQ(fs::file_size(copy_), 11u);
+}
+
+TEST_F(Backup, what_is_no_backup_is_refused_and_the_books_stay) {
+    write(books_, "before");
+    std::ofstream(copy_) << std::string(10'000, 'x');
+    EXPECT_THROW(restore_books(copy_, books_, "m"), Refusal);
+    EXPECT_TRUE(has(books_, "before"));
+    EXPECT_THROW(restore_books(books_, books_, "m"), Refusal);
+}
+
+} // namespace app

@@ -1,0 +1,25 @@
+// Opens a set of books for work.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "engines/session.h"
+
+namespace app {
+
+enum class Access { ReadAndWrite, ReadOnly };
+
+// Throws Refusal that names the books: missing, no permission, foreign, damaged, written by a newer
+// program, or a database without the tables of a set of books.
+std::unique_ptr<engines::Session> open_books(const std::string& books,
+                                             Access access = Access::ReadAndWrite);
+
+// As above, but takes any database of an engine, also an empty one: `zhangfang sql :memory:`.
+std::unique_ptr<engines::Session> open_database(const std::string& books,
+                                                Access access = Access::ReadAndWrite);
+
+// The sentence for a failed opening, with the name of the books in it.
+std::string opening_sentence(const std::string& books, const engines::Error& error);
+
+} // namespace app

@@ -1,0 +1,56 @@
+// zhangfang backup BOOKS FILE, zhangfang restore FILE BOOKS
+#include <algorithm>
+#include <memory>
+
+#include "app/books/backup.h"
+#include "app/command_line/commands.h"
+#include "app/settings/surroundings.h"
+
+namespace app {
+
+namespace {
+
+struct Names {
+    std::string books, file;
+};
+
+// "20240305-140506", fit for a file name.
+std::string moment() {
+    std::string text = SystemClock().now().to_text().substr(0, 19);
+    std::erase_if(text, [](char c) { return c == '-' || c == ':'; });
+    std::replace(text.begin(), text.end(), ' ', '-');
+    return text;
+}
+
+} // namespace
+
+void add_backup(CLI::App& program, Chosen& chosen) {
+    auto names = std::make_shared<Names>();
+    CLI::App* command = program.add_subcommand("backup", "备份帐套");
+    command->add_option("BOOKS", names->books, "帐套文件")->required();
+    command->add_option("FILE", names->file, "备份文件")->required();
+    command->callback([names, &chosen] {
+        chosen = [names] {
+            backup_books(names->books, names->file);
+            tell("已备份到 " + names->file + "。");
+            return 0;
+        };
+    });
+}
+
+void add_restore(CLI::App& program, Chosen& chosen) {
+    auto names = std::make_shared<Names>();
+    CLI::App* command = program.add_subcommand("restore", "从备份恢复帐套");
+    command->add_option("FILE", names->file, "备份文件")->required();
+    command->add_option("BOOKS", names->books, "帐套文件")->required();
+    command->callback([names, &chosen] {
+        chosen = [names] {
+            const std::string aside = restore_books(names->file, names->books, moment());
+            if (!aside.empty()) tell("原帐套已改名为 " + aside + "。");
+            tell("已恢复帐套 " + names->books + "。");
+            return 0;
+        };
+    });
+}
+
+} // namespace app

@@ -1,0 +1,46 @@
+// zhangfang new BOOKS --company NAME [--template T] [--start YYYY-MM] [--scheme 1|2|3]
+#include <memory>
+
+#include "app/books/create.h"
+#include "app/command_line/commands.h"
+#include "app/login/password.h"
+#include "app/login/password_source.h"
+#include "app/settings/surroundings.h"
+#include "schema/schema.h"
+
+namespace app {
+
+namespace {
+
+host::Period period_of(const std::string& text) {
+    const auto period = host::Period::parse(text);
+    if (!period || period->month() == 0 || period->to_text() != text)
+        throw CLI::ValidationError("--start", "请写成 YYYY-MM: " + text);
+    return *period;
+}
+
+} // namespace
+
+void add_new(CLI::App& program, Chosen& chosen) {
+    auto wanted = std::make_shared<NewBooks>();
+    wanted->template_name = schema::default_template;
+    CLI::App* command = program.add_subcommand("new", "建立新帐套");
+    command->add_option("BOOKS", wanted->books, "帐套文件")->required();
+    command->add_option("--company", wanted->company, "公司名称")->required();
+    command->add_option("--template", wanted->template_name, "模板")->capture_default_str();
+    command->add_option_function<std::string>(
+        "--start", [wanted](const std::string& text) { wanted->start = period_of(text); },
+        "启用期间 YYYY-MM,期初余额为零");
+    command->add_option("--scheme", wanted->scheme, "凭证字: 1 记, 2 收付转, 3 现收现付银收银付转")
+        ->check(CLI::IsMember({1, 2, 3}));
+    command->callback([wanted, &chosen] {
+        chosen = [wanted] {
+            wanted->password_hash = hash_of(new_password("管理员 admin 的密码: ").value_or(""));
+            create_books(*wanted, SystemClock());
+            tell("已建立帐套 " + wanted->books + "。");
+            return 0;
+        };
+    });
+}
+
+} // namespace app

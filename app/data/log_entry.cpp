@@ -1,0 +1,65 @@
+// Reads the last row's hash and chains the new row to it.
+#include "app/data/log_entry.h"
+
+#include "host/values/sql_text.h"
+#include "schema/log_chain.h"
+
+namespace app {
+
+namespace {
+
+class LastRow : public engines::ResultReceiver {
+public:
+    std::int64_t id = 0;
+    std::string hash;
+    bool row(std::span<const engines::Value> cells) override {
+        id = cells[0].as_integer();
+        hash = cells[1].as_text();
+        return false;
+    }
+};
+
+// The log is kept to the second; the clock's milliseconds are dropped.
+std::string to_the_second(host::DateTime moment) {
+    moment.milliseconds -= moment.milliseconds % 1000;
+    std::string text = moment.to_text();
+    return text.size() == 10 ? text + " 00:00:00" : text;
+}
+
+// At most `most` characters, never cut inside one.
+std::string cut(std::string_view text, std::size_t most) {
+    std::size_t characters = 0, i = 0;
+    for (; i < text.size(); ++i)
+        if ((static_cast<unsigned char>(text[i]) & 0xC0) != 0x80 && ++characters > most) break;
+    std::string kept(text.substr(0, i));
+    while (kept.ends_with(' ')) kept.pop_back();
+    return kept;
+}
+
+} // namespace
+
+engines::Outcome append_log_row(engines::Session& session, host::DateTime now,
+                                const std::string& user, const host::LogEntry& entry,
+                                std::string_view batch) {
+    LastRow last;
+    if (engines::Outcome read =
+            session.execute("SELECT TOP 1 ID, HASH FROM SYS_LOG ORDER BY ID DESC", last);
+        !read.ok())
+        return read;
+    // Half of what the columns take, since a character outside the basic plane counts two there.
+    const schema::LogRow row{last.id + 1,           to_the_second(now),
+                             cut(user, 20),         cut(entry.function, 5),
+                             cut(entry.key, 100),   cut(entry.operation, 20),
+                             schema::digest_of(batch)};
+    std::string insert = "INSERT INTO SYS_LOG (ID, LOG_TIME, USER_ID, FUNCTION_CODE, DOC_KEY, "
+                         "OPERATION, DIGEST, HASH) VALUES (" +
+                         std::to_string(row.id);
+    const std::string hash = schema::chained_hash(last.hash, row);
+    for (const std::string* cell :
+         {&row.time, &row.user, &row.function, &row.key, &row.operation, &row.digest, &hash})
+        insert += "," + host::quoted(*cell);
+    engines::ResultReceiver nobody;
+    return session.execute(insert + ")", nobody);
+}
+
+} // namespace app

@@ -1,0 +1,120 @@
+// Finds the books, opens them, and hands the desktop what it needs.
+#include "app/work/desktop_session.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <unistd.h>
+
+#include "app/demo/demo_books.h"
+#include "app/refusal.h"
+#include "app/work/module.h"
+#include "app/work/workplace.h"
+#include "desktop/desktop.h"
+
+namespace app {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* settings_section = "program";
+constexpr const char* last_books = "last_books";
+constexpr const char* last_user = "last_user";
+
+char program_name[] = "zhangfang";
+
+bool is_set(const char* variable) {
+    const char* value = std::getenv(variable);
+    return value != nullptr && value[0] != '\0';
+}
+
+bool has_display() {
+    return is_set("DISPLAY") || is_set("WAYLAND_DISPLAY") || is_set("QT_QPA_PLATFORM");
+}
+
+// The demonstration books are made the first time they are wanted.
+std::string demonstration_books() {
+    const std::string books = data_folder() + "/demo.zf";
+    std::error_code ignored;
+    if (!fs::exists(books, ignored)) create_demo_books(books, "");
+    return books;
+}
+
+std::string books_to_open(const std::string& given) {
+    if (!given.empty()) return fs::absolute(given).string();
+    const std::string last = SettingsFile(settings_path()).read(settings_section, last_books, "");
+    std::error_code ignored;
+    return !last.empty() && fs::exists(last, ignored) ? last : demonstration_books();
+}
+
+// Another set of books begins with a fresh program: nothing of the old one can stay behind.
+void start_over(const std::string& books) {
+    std::string name = books;
+    char* arguments[] = {program_name, name.data(), nullptr};
+    ::execv("/proc/self/exe", arguments);
+}
+
+host::Trecord menu_pick(int code) {
+    host::Trecord record;
+    record.set_code(code);
+    return record;
+}
+
+desktop::DesktopServices services_for(const DesktopWanted& wanted, const std::string& books,
+                                      Workplace& work, const Module& module) {
+    desktop::DesktopServices services;
+    services.books = [&work, books] {
+        return desktop::BooksLabel{work.company(), work.user().name,
+                                   fs::path(books).filename().string(), "本机"};
+    };
+    services.open_function = [&module](int code) { module.open(menu_pick(code), nullptr); };
+    services.log_in = [&work](const std::string& user, const std::string& password) {
+        try {
+            work.log_in(user, [&password] { return password; });
+            work.settings().write(settings_section, last_user, user);
+            return std::string();
+        } catch (const Refusal& refusal) {
+            return std::string(refusal.what());
+        }
+    };
+    services.last_user = work.settings().read(settings_section, last_user, "admin");
+    services.recent_books = {books};
+    services.open_books = start_over;
+    if (!wanted.screenshot.empty())
+        services.screenshot = desktop::Screenshot{wanted.function, wanted.screenshot, wanted.keys};
+    return services;
+}
+
+// Whoever has no password is let in without being asked.
+bool let_in_without_asking(Workplace& work, const std::string& user) {
+    try {
+        work.log_in(user, [] { return std::optional<std::string>(); });
+        return true;
+    } catch (const Refusal&) {
+        return false;
+    }
+}
+
+int run_on(const DesktopWanted& wanted, const std::string& books, int argc, char** argv) {
+    const Module& module = Module::loaded();
+    Workplace work(books, std::nullopt);
+    work.settings().write(settings_section, last_books, books);
+    desktop::DesktopServices services = services_for(wanted, books, work, module);
+    if (let_in_without_asking(work, services.last_user)) services.log_in = nullptr;
+    return desktop::run(argc, argv, services);
+}
+
+} // namespace
+
+int run_desktop(const DesktopWanted& wanted) {
+    if (!has_display())
+        throw Refusal("这里没有图形显示,不能打开桌面;请用 zhangfang drive、sql 或 check!");
+    char* argv[] = {program_name, nullptr};
+    try {
+        return run_on(wanted, books_to_open(wanted.books), 1, argv);
+    } catch (const Refusal& refusal) {
+        return desktop::show_failure(1, argv, refusal.what());
+    }
+}
+
+} // namespace app

@@ -1,0 +1,21 @@
+// The desktop on a set of books.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace app {
+
+// What the command line asks of the desktop.
+struct DesktopWanted {
+    std::string books;       // "" for the books used last, else the demonstration books
+    std::string screenshot;  // a file: draw one picture instead of working
+    int function = 0;        // what the picture shows; 0 the overview
+    std::vector<std::string> keys;
+};
+
+// Runs until the window is closed; answers the exit status. Throws Refusal where there is no
+// display; every other trouble is shown in a window.
+int run_desktop(const DesktopWanted& wanted);
+
+} // namespace app

@@ -1,0 +1,11 @@
+// The desktop of a program that was built without one.
+#include "app/refusal.h"
+#include "app/work/desktop_session.h"
+
+namespace app {
+
+int run_desktop(const DesktopWanted&) {
+    throw Refusal("这个程序没有带桌面;请用 zhangfang drive、sql 或 check!");
+}
+
+} // namespace app

@@ -1,0 +1,69 @@
+// Puts engine, settings and clock behind the host's ports.
+#include "app/work/workplace.h"
+
+#include "app/books/open.h"
+#include "automation/sql/collected_result.h"
+#include "host/contract/U_glo.h"
+#include "host/ports/host.h"
+#include "host/values/sql_text.h"
+
+namespace app {
+
+namespace {
+
+// Engines count days from 1900-01-01.
+constexpr int days_from_1900_to_1970 = 25567;
+
+std::string setting_of(engines::Session& session, const std::string& name) {
+    const auto rows = automation::rows_of(
+        session, "SELECT VALUE FROM SYS_SETTING WHERE NAME = " + host::quoted(name));
+    return rows.empty() ? "" : rows[0][0].value_or("");
+}
+
+// Demonstration books have a day of their own, so that their open period is always this month.
+std::optional<host::Date> day_in(engines::Session& session,
+                                 const std::optional<host::Date>& wanted) {
+    return wanted ? wanted : host::Date::parse(setting_of(session, "today"));
+}
+
+} // namespace
+
+void fix_clock(engines::Session& session, const std::optional<host::Date>& today) {
+    if (today) session.set_clock(today->days() + days_from_1900_to_1970);
+}
+
+Workplace::Workplace(const std::string& books, const std::optional<host::Date>& today)
+    : settings_(settings_path()), session_(open_books(books)), today_(day_in(*session_, today)),
+      clock_(today_), company_(setting_of(*session_, "company")) {
+    fix_clock(*session_, today_);
+    host::Host& host = host::the_host();
+    host.clock = &clock_;
+    host.settings = &settings_;
+    host.random = &random_;
+}
+
+Workplace::~Workplace() {
+    host::Host& host = host::the_host();
+    host.data = nullptr;
+    host.clock = nullptr;
+    host.settings = nullptr;
+    host.random = nullptr;
+}
+
+void Workplace::log_in(const std::string& user, const PasswordSource& password) {
+    user_ = app::log_in(*session_, user, password);
+    session_->set_person({user_.id, "zhangfang"});
+    data_ = std::make_unique<EngineData>(*session_, clock_, user_.id);
+    host::the_host().data = data_.get();
+    host::G_UserId = user_.id;
+    host::G_UserName = user_.name;
+    host::G_CoName = company_;
+    host::G_AmountFormat = "0.00";
+    host::G_PriceFormat = "0.00";
+    host::G_QtyFormat = "0.00";
+    host::G_SK = "0";
+    host::G_SKSTR = "1";
+    host::G_inifielname = settings_path();
+}
+
+} // namespace app

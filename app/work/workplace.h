@@ -1,0 +1,54 @@
+// A person at work: the books open, the login done, the host set up around them.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "app/data/engine_data.h"
+#include "app/login/login.h"
+#include "app/settings/settings_file.h"
+#include "app/settings/surroundings.h"
+#include "engines/session.h"
+
+namespace app {
+
+// Fixes GETDATE() of a session to a day, or leaves it running.
+void fix_clock(engines::Session& session, const std::optional<host::Date>& today);
+
+// Opens the books and gives the host its clock, settings and random source; logging in adds the
+// data and the globals. The user interface is set by whoever shows forms. One at a time in a
+// process.
+//
+//     Workplace work("books.zf", {});
+//     work.log_in("admin", password);
+//     host::the_host().ui = &driver;
+class Workplace {
+public:
+    // today fixes what forms and GETDATE() take as today; without it the books' own day counts
+    // (setting 'today', of demonstration books), else the real one. Throws Refusal.
+    Workplace(const std::string& books, const std::optional<host::Date>& today);
+    ~Workplace();
+    Workplace(const Workplace&) = delete;
+    Workplace& operator=(const Workplace&) = delete;
+
+    // Throws Refusal. Once in, forms may open.
+    void log_in(const std::string& user, const PasswordSource& password);
+
+    const User& user() const { return user_; } // after the login
+    const std::string& company() const { return company_; }
+    const std::optional<host::Date>& today() const { return today_; }
+    SettingsFile& settings() { return settings_; }
+
+private:
+    SettingsFile settings_;
+    std::unique_ptr<engines::Session> session_;
+    std::optional<host::Date> today_;
+    SystemClock clock_;
+    SystemRandom random_;
+    std::string company_;
+    User user_;
+    std::unique_ptr<EngineData> data_;
+};
+
+} // namespace app

@@ -1,0 +1,100 @@
+// Books damaged on purpose: each damage is found and named.
+#include "tests/books/ledger_fixture.h"
+
+namespace tests {
+namespace {
+
+class Check : public Ledger {
+protected:
+    Check() {
+        voucher(1, {{"1001", "100.00", "0.00"}, {"3101", "0.00", "100.00"}});
+        voucher(2, {{"550201", "30.00", "0.00"}, {"1001", "0.00", "30.00"}});
+        post();
+        voucher(3, {{"1001", "7.00", "0.00"}, {"3101", "0.00", "7.00"}}); // audited, not posted
+    }
+};
+
+} // namespace
+
+TEST_F(Check, sound_books_have_no_findings) { EXPECT_EQ(findings(), ""); }
+
+TEST_F(Check, posting_carries_the_figures_up_the_chart) {
+    EXPECT_EQ(value("SELECT J FROM D6602 WHERE QJ='2024-03' AND INX=1 AND KM_ID='1001'"), "70.00");
+    EXPECT_EQ(value("SELECT J FROM D6602 WHERE QJ='2024-03' AND INX=0 AND KM_ID='5502'"), "30.00");
+}
+
+TEST_F(Check, a_voucher_that_does_not_balance) {
+    damage("UPDATE D6601A SET J = 99.99 WHERE NOID = '2024-03记003' AND INX = 0");
+    damage("UPDATE D6601A SET J = 7.01 WHERE NOID = '2024-03记003' AND INX = 0");
+    EXPECT_TRUE(finds("凭证借贷不平", "2024-03记003: 借方 7.01 贷方 7.00")) << findings();
+}
+
+TEST_F(Check, a_head_without_lines) {
+    damage("DELETE FROM D6601A WHERE NOID = '2024-03记003'");
+    EXPECT_TRUE(finds("凭证借贷不平", "2024-03记003: 没有分录")) << findings();
+}
+
+TEST_F(Check, a_line_without_a_head_and_an_allocation_without_a_voucher) {
+    damage("INSERT INTO D6601A (NOID, ZY, KM_ID, J, D, INX) VALUES ('x','x','1001',0,0,0)");
+    damage("INSERT INTO D6601B (NOID, D6820ID, J, D) VALUES ('y','1101',1,0)");
+    EXPECT_TRUE(finds("孤立的记录", "分录没有凭证头: x")) << findings();
+    EXPECT_TRUE(finds("孤立的记录", "现金流量分配没有凭证: y")) << findings();
+}
+
+TEST_F(Check, an_account_that_the_chart_does_not_hold) {
+    damage("UPDATE D6601A SET KM_ID = '9999' WHERE NOID = '2024-03记003' AND INX = 0");
+    EXPECT_TRUE(finds("孤立的记录", "分录的科目不存在: 9999")) << findings();
+}
+
+TEST_F(Check, a_movement_changed_by_a_cent) {
+    damage("UPDATE D6602 SET J = J + 0.01 WHERE QJ='2024-03' AND INX=0 AND KM_ID='5502'");
+    EXPECT_TRUE(finds("发生额与凭证不符", "2024-03 5502: 余额表 借 30.01")) << findings();
+}
+
+TEST_F(Check, a_posted_voucher_changed_by_a_cent_on_both_sides) {
+    damage("UPDATE D6601A SET J = J + 0.01 WHERE NOID = '2024-03记002' AND INX = 0");
+    damage("UPDATE D6601A SET D = D + 0.01 WHERE NOID = '2024-03记002' AND INX = 1");
+    EXPECT_TRUE(finds("发生额与凭证不符", "2024-03 550201")) << findings();
+    EXPECT_TRUE(finds("发生额与凭证不符", "2024-03 1001")) << findings();
+}
+
+TEST_F(Check, balances_missing_for_a_posted_voucher) {
+    damage("DELETE FROM D6602 WHERE QJ='2024-03' AND INX=0 AND KM_ID='1001'");
+    EXPECT_TRUE(finds("发生额与凭证不符", "2024-03 1001: 余额表 借 0.00")) << findings();
+}
+
+TEST_F(Check, a_closing_balance_that_does_not_follow_from_the_one_before) {
+    damage("UPDATE D6602 SET J = 1 WHERE QJ='2024-02' AND INX=1 AND KM_ID='1001'");
+    EXPECT_TRUE(finds("期末余额不符", "2024-03 1001: 余额表 借 70.00 贷 0.00,应为 借 71.00"))
+        << findings();
+}
+
+TEST_F(Check, an_account_below_a_missing_parent_and_a_wrong_level) {
+    damage("INSERT INTO D6801 (KM_ID, KM_NAME, FX, OID, KM_FL, KM_J) VALUES ('77','x','借','76',1,2)");
+    damage("UPDATE D6801 SET KM_J = 4 WHERE KM_ID = '100901'");
+    EXPECT_TRUE(finds("会计科目", "上级科目不存在: 77 76")) << findings();
+    EXPECT_TRUE(finds("会计科目", "科目级别不对: 100901")) << findings();
+}
+
+TEST_F(Check, a_full_name_that_is_not_the_one_the_chart_gives) {
+    damage("UPDATE D6801 SET KM_NAME2 = '别的' WHERE KM_ID = '100901'");
+    EXPECT_TRUE(finds("会计科目", "科目全称不对: 100901")) << findings();
+}
+
+TEST_F(Check, a_log_row_changed_taken_out_or_slipped_in) {
+    damage("UPDATE SYS_LOG SET USER_ID = 'li' WHERE ID = 3");
+    EXPECT_TRUE(finds("操作日志", "第 3 条记录")) << findings();
+    damage("UPDATE SYS_LOG SET USER_ID = 'admin' WHERE ID = 3");
+    EXPECT_EQ(findings(), "");
+    damage("DELETE FROM SYS_LOG WHERE ID = 3");
+    EXPECT_TRUE(finds("操作日志", "缺少第 3 条")) << findings();
+}
+
+TEST_F(Check, many_findings_of_one_kind_are_counted_instead_of_listed) {
+    damage("DELETE FROM D6801");
+    const auto all = automation::check_books(*session_);
+    EXPECT_LT(all.size(), 1000u);
+    EXPECT_TRUE(finds("孤立的记录", "还有 ")) << all.size();
+}
+
+} // namespace tests
