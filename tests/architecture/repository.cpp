@@ -14,7 +14,8 @@ namespace fs = std::filesystem;
 constexpr const char* folders[] = {"module",  "host",       "schema", "tsql",  "engines",
                                    "desktop", "automation", "app",    "tests", "bench",
                                    "fuzz",    "docs",       "tools",  "cmake"};
-constexpr const char* endings[] = {".h", ".cpp", ".sql", ".txt", ".md", ".cmake", ".sh", ".py"};
+constexpr const char* endings[] = {".h",  ".cpp",   ".sql", ".inc", ".txt",
+                                   ".md", ".cmake", ".sh",  ".py"};
 
 bool is_text(const fs::path& path) {
     const std::string name = path.filename().string();
