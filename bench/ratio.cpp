@@ -15,10 +15,11 @@ double cpu_seconds() {
 
 namespace {
 
-double timed_ms(const std::function<void()>& work) {
+double timed_ms(const Way& way, int times) {
+    way.before();
     const double start = cpu_seconds();
-    work();
-    return (cpu_seconds() - start) * 1000.0;
+    way.work();
+    return (cpu_seconds() - start) * 1000.0 / times;
 }
 
 double median(std::vector<double> values) {
@@ -35,14 +36,13 @@ std::string verdict(const Row& row) {
 
 } // namespace
 
-Row measure(const std::string& work, int rounds, const std::function<void()>& hand,
-            const std::function<void()>& ours) {
-    hand();
-    ours();
+Row measure(const std::string& work, int rounds, const Way& hand, const Way& ours, int times) {
+    timed_ms(hand, times);
+    timed_ms(ours, times);
     std::vector<double> hand_ms, ours_ms;
     for (int round = 0; round < rounds; ++round) {
-        hand_ms.push_back(timed_ms(hand));
-        ours_ms.push_back(timed_ms(ours));
+        hand_ms.push_back(timed_ms(hand, times));
+        ours_ms.push_back(timed_ms(ours, times));
     }
     Row row;
     row.work = work;
@@ -51,11 +51,14 @@ Row measure(const std::string& work, int rounds, const std::function<void()>& ha
     return row;
 }
 
-double median_ms(int rounds, const std::function<void()>& work) {
-    work();
-    std::vector<double> values;
-    for (int round = 0; round < rounds; ++round) values.push_back(timed_ms(work));
-    return median(values);
+Row measure_ours(const std::string& work, int rounds, const Way& ours, int times) {
+    timed_ms(ours, times);
+    std::vector<double> ours_ms;
+    for (int round = 0; round < rounds; ++round) ours_ms.push_back(timed_ms(ours, times));
+    Row row;
+    row.work = work;
+    row.ours_ms = median(ours_ms);
+    return row;
 }
 
 void print(const std::vector<Row>& rows) {

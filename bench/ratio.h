@@ -10,8 +10,8 @@ namespace bench {
 // Processor seconds this process has used, all threads.
 double cpu_seconds();
 
-// One row of the table: the program's way against the same work written by hand. `budget` is the
-// greatest ratio we allow ourselves; 0 means the figure has an absolute budget instead.
+// One row of the table: the program's way against the same work written by hand. A budget is the
+// greatest ratio, or the most processor milliseconds, that we allow ourselves; 0 means none.
 struct Row {
     std::string work;
     double hand_ms = 0; // median processor milliseconds of the hand-written way; 0 when there is none
@@ -21,15 +21,21 @@ struct Row {
     std::string note;
 };
 
+// One way of doing the work. `before` runs untimed ahead of each timed call.
+struct Way {
+    std::function<void()> work;
+    std::function<void()> before = [] {};
+};
+
 // Runs the two in turn (hand, ours, hand, ours …) `rounds` times after one uncounted round and
-// keeps the medians, so that a machine whose speed drifts bends both alike.
-Row measure(const std::string& work, int rounds, const std::function<void()>& hand,
-            const std::function<void()>& ours);
+// keeps the medians, so that a machine whose speed drifts bends both alike. `times` is how often a
+// call repeats the work; the figures are for one.
+Row measure(const std::string& work, int rounds, const Way& hand, const Way& ours, int times = 1);
 
-// Processor milliseconds of one call: the median of `rounds` after one uncounted call.
-double median_ms(int rounds, const std::function<void()>& work);
+// The same for work that has no hand-written twin.
+Row measure_ours(const std::string& work, int rounds, const Way& ours, int times = 1);
 
-// The table on standard output: work, hand, ours, ratio, budget, verdict in words.
+// The table on standard output: work, hand, ours, ratio, budget, whether within it.
 void print(const std::vector<Row>& rows);
 
 } // namespace bench

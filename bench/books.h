@@ -1,0 +1,25 @@
+// Large sets of books to measure on: some years of vouchers, the last period not posted.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/values/period.h"
+
+namespace bench {
+
+// 2,000 accounts in five levels; periods of 10,000 vouchers and about 40,700 lines each, all
+// audited; every period but the last is posted.
+struct BigBooks {
+    std::string file;
+    int vouchers = 0;
+    host::Period last = host::Period::of(2024, 1);
+    std::vector<std::string> leaves; // account codes that take entries
+    std::string busy_account;
+};
+
+// Makes the books in `folder`, or takes the file of an earlier run. The rows are written directly
+// (this is the one place that may): a million vouchers through forms would take a quarter hour.
+BigBooks big_books(const std::string& folder, int vouchers);
+
+} // namespace bench
