@@ -7,7 +7,8 @@
 
 namespace host {
 
-// 28 words: six texts (user parameters), eighteen of the host, the function code, three of the host.
+// 28 words: six texts (user parameters), eighteen of the host, the function code, three more of
+// the host.
 // The texts replace words 0 to 5; `words` keeps the positions of the others.
 struct Trecord {
     std::array<std::string, 6> user;

@@ -14,7 +14,8 @@ class TComponent;
 // A value of a component. Assigning what it already holds tells nobody.
 template <class T> class Property {
 public:
-    explicit Property(TComponent* owner, T initial = T{}) : owner_(owner), value_(std::move(initial)) {}
+    explicit Property(TComponent* owner, T initial = T{})
+        : owner_(owner), value_(std::move(initial)) {}
     Property(const Property&) = delete;
     Property& operator=(const Property& other) { return *this = other.value_; }
     Property& operator=(T value);

@@ -50,8 +50,8 @@ public:
     virtual bool key_down(Key key);
     // A character typed into it.
     virtual void type(char32_t character);
-    // The focus is about to go elsewhere: takes over what was typed, in its proper form, or refuses by
-    // Abort(). Runs before OnExit.
+    // The focus is about to go elsewhere: takes over what was typed, in its proper form, or refuses
+    // by Abort(). Runs before OnExit.
     virtual void leave() {}
     // Everything it holds replaced by `text`, as if typed; runs the change events.
     virtual void enter_text(const std::string& text);

@@ -54,7 +54,8 @@ int TDBGridEh::column_index(const std::string& field) const {
 }
 
 std::string TDBGridEh::cell_text(int row, int column) const {
-    const TField* field = DataSet->FindField(Columns.at(static_cast<std::size_t>(column)).FieldName);
+    const GridColumn& shown = Columns.at(static_cast<std::size_t>(column));
+    const TField* field = DataSet->FindField(shown.FieldName);
     return field == nullptr ? "" : DataSet->display_at(row, field->index());
 }
 
@@ -72,7 +73,7 @@ std::string TDBGridEh::footer_text(int column) const {
     switch (shown.Footer) {
     case FooterKind::None: return {};
     case FooterKind::Text: return shown.FooterText;
-    case FooterKind::Count: return DataSet == nullptr ? "0" : std::to_string(DataSet->RecordCount());
+    case FooterKind::Count: return std::to_string(DataSet == nullptr ? 0 : DataSet->RecordCount());
     case FooterKind::Sum: break;
     }
     const std::string& name = shown.FooterField.empty() ? shown.FieldName : shown.FooterField;

@@ -101,7 +101,7 @@ public:
     // every character and hands the result to commit_text() when the person goes on.
     bool editing() const { return edit_text_.has_value(); }
     std::string edit_text() const { return edit_text_.value_or(""); }
-    void start_edit();                     // with the cell's text; nothing where it may not be edited
+    void start_edit(); // with the cell's text; nothing where it may not be edited
     void set_edit_text(const std::string& text);
     bool filter_key(char32_t& character);  // OnKeyPress; false when the key was swallowed
     bool commit_edit();                    // false when the field refused the text
@@ -124,6 +124,8 @@ private:
     bool move_row(int by);
     bool to_first_editable();
     bool row_is_untouched() const;
+    bool may_append() const;
+    void empty_cell();
 
     int column_ = 0;
     std::optional<std::string> edit_text_;

@@ -135,6 +135,11 @@ void TDBGridEh::choose(const Suggestion& suggestion) {
     post_typed(suggestion.value);
 }
 
+void TDBGridEh::empty_cell() {
+    edit_text_.reset();
+    if (!DataSet->IsEmpty() && !cell_text(DataSet->RecNo(), column_).empty()) post_typed("");
+}
+
 void TDBGridEh::press_button() {
     const GridColumn* column = current_column();
     if (column == nullptr || !column->Button || !OnButtonClick) return;
@@ -158,13 +163,19 @@ bool TDBGridEh::row_is_untouched() const {
     return DataSet->State() == DataSetState::Insert && !DataSet->RowModified();
 }
 
+// Below the last row, and only when that row is not an empty one waiting already.
+bool TDBGridEh::may_append() const {
+    return !ReadOnly && AppendOnEnter && DataSet->Active() && !row_is_untouched() &&
+           DataSet->RecNo() + 1 == DataSet->RecordCount();
+}
+
 bool TDBGridEh::next_cell() {
     if (!commit_edit()) return false;
     for (int i = column_ + 1; i < static_cast<int>(Columns.size()); ++i)
         if (can_edit(i)) return set_column(i);
     if (DataSet == nullptr || !DataSet->Active()) return false;
     const bool last = DataSet->RecNo() + 1 >= DataSet->RecordCount();
-    if (last && (ReadOnly || !AppendOnEnter || row_is_untouched())) return false;
+    if (last && !may_append()) return false;
     return set_row(DataSet->RecNo() + 1) && to_first_editable();
 }
 
@@ -202,9 +213,7 @@ bool TDBGridEh::key_down(Key key) {
     switch (key.code) {
     case KeyCode::Up: return move_row(-1), true;
     case KeyCode::Down:
-        if (!move_row(1) && !ReadOnly && AppendOnEnter && DataSet->Active() && !DataSet->IsEmpty() &&
-            DataSet->RecNo() + 1 == DataSet->RecordCount() && !row_is_untouched())
-            set_row(DataSet->RecordCount());
+        if (!move_row(1) && may_append()) set_row(DataSet->RecordCount());
         return true;
     case KeyCode::PageUp: return set_row(std::max(0, DataSet->RecNo() - 20)), true;
     case KeyCode::PageDown:
@@ -222,6 +231,9 @@ bool TDBGridEh::key_down(Key key) {
             set_edit_text(first_characters(*edit_text_, length == 0 ? 0 : length - 1));
         }
         return true;
+    case KeyCode::Delete:
+        if (!can_edit(column_) || current_column()->CheckBox) return false;
+        return empty_cell(), true;
     case KeyCode::Esc:
         if (editing()) return cancel_edit(), true;
         if (!DataSet->editing()) return false;

@@ -40,7 +40,8 @@ Value TField::AsValue() const {
 
 bool TField::IsNull() const {
     const std::int64_t row = dataset_->current_slot();
-    return row == TClientDataSet::no_row || dataset_->store_.is_null(static_cast<Slot>(row), index_);
+    return row == TClientDataSet::no_row ||
+           dataset_->store_.is_null(static_cast<Slot>(row), index_);
 }
 
 std::string TField::AsText() const { return to_text(AsValue()); }

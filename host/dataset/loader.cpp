@@ -83,7 +83,8 @@ void DataSetLoader::commit() {
             field = std::make_unique<TField>();
             field->FieldName = column.name;
             if (column.type == FieldType::Amount && column.decimals > 0)
-                field->DisplayFormat = "0." + std::string(static_cast<std::size_t>(column.decimals), '0');
+                field->DisplayFormat =
+                    "0." + std::string(static_cast<std::size_t>(column.decimals), '0');
         }
         field->Type = rows_.type(static_cast<int>(i));
         if (!field->defined_) field->Size = column.size;

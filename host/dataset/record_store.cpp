@@ -69,7 +69,8 @@ Slot RecordStore::append() {
 Slot RecordStore::append(const std::vector<CellView>& cells, const std::vector<int>& source) {
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         Column& column = columns_[i];
-        const CellView* cell = source[i] < 0 ? nullptr : &cells[static_cast<std::size_t>(source[i])];
+        const auto from = static_cast<std::size_t>(source[i]);
+        const CellView* cell = source[i] < 0 ? nullptr : &cells[from];
         if (cell == nullptr || cell->null) {
             column.append_null();
             continue;

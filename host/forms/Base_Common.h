@@ -45,11 +45,12 @@ public:
     std::string RightsFunction() const override;
 
 protected:
-    // Takes the menu pick over: function code and parameters. Refuses with a message and Abort() when
-    // the user may not open the function.
+    // Takes the menu pick over: function code and parameters. Refuses with a message and Abort()
+    // when the user may not open the function.
     void OpenFunction(const Trecord& record);
 
-    // Every field is checked as if it had been left, in the order of the layout; refuses by Abort().
+    // Every field is checked as if it had been left, in the order of the layout; refuses by
+    // Abort().
     void LeaveAllFields();
 
     Trecord record_; // of the menu pick

@@ -46,8 +46,8 @@ public:
     TAction Act_DeleteLine{this, "Act_DeleteLine", "删行", "Ctrl+Delete", "trash-2"};
 
 protected:
-    // F2: posts the line being edited, SaveHeadData, AllCheck, SaveData. After adding the form stays,
-    // ready for the next document; after a change it closes.
+    // F2: posts the line being edited, SaveHeadData, AllCheck, SaveData. After adding the form
+    // stays, ready for the next document; after a change it closes.
     void Act_SaveExecute() override;
     void Act_AddExecute() override;         // a line before the current one
     virtual void Act_DeleteLineExecute();   // the current line

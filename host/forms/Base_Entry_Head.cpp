@@ -160,7 +160,8 @@ void TFrm_Base_Entry_Head::Act_ModifyExecute() {
     open_document(auditing() || !reason.empty(), false);
 }
 
-// Looking is what a double click asks for: a document that cannot be changed is shown without a word.
+// Looking is what a double click asks for: a document that cannot be changed is shown without
+// a word.
 void TFrm_Base_Entry_Head::DBGridEhDblClick() {
     if (!current_document_still_there() || EntryForm() == nullptr) return;
     std::string reason = WhyLocked();

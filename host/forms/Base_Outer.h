@@ -18,7 +18,8 @@ public:
     std::string DeleteStatement; // "delete from d6802 Where pzz=%S"
     std::string KeyField;        // "pzz"
     std::string NameField;       // shown in the question before a delete
-    // Statements that count uses of the selected key; any above 0 refuses the delete with its reason.
+    // Statements that count uses of the selected key; any above 0 refuses the delete with its
+    // reason.
     using Use = UseRule; // its count query takes the quoted key for "%S"
     std::vector<Use> Uses;
     TEdit SearchBox{this, "SearchBox", "查找"}; // narrows the rows by any text column or pinyin

@@ -5,7 +5,7 @@
 #include "host/forms/parts/date_ranges.h"
 #include "host/ports/host.h"
 #include "host/values/errors.h"
-#include "host/values/period.h"
+#include "host/values/sql_text.h"
 
 namespace host {
 
@@ -78,8 +78,8 @@ void TFrm_Sys_Filter::btn_okClick() {
 }
 
 std::string TFrm_Sys_Filter::DateCondition(const std::string& table, Date start, Date end) {
-    return "(" + table + ".BDATE>='" + start.to_text() + "') AND (" + table + ".BDATE<'" +
-           end.plus_days(1).to_text() + "')";
+    return "(" + table + ".BDATE>=" + quoted(start.to_text()) + ") AND (" + table + ".BDATE<" +
+           quoted(end.plus_days(1).to_text()) + ")";
 }
 
 void TFrm_Sys_Filter::CheckDates(TDateEdit& start, TDateEdit& end) {

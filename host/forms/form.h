@@ -13,8 +13,8 @@
 
 namespace host {
 
-// A form owns the forms created with it as parent: they go when it goes. Modeless forms are made with
-// `new` and destroy themselves after Close() unless FreeOnClose is false (entry forms stay with
+// A form owns the forms created with it as parent: they go when it goes. Modeless forms are made
+// with `new` and destroy themselves after Close() unless FreeOnClose is false (entry forms stay with
 // their list and are shown again); members may hold modal ones by unique_ptr.
 class TForm : public TControl {
 public:
@@ -24,7 +24,8 @@ public:
     const char* ClassName() const override { return "TForm"; }
     std::string FormName() const { return ClassName() + 1; } // TF6661 → F6661
     TForm* Parent() const { return parent_; }
-    int InstanceNumber() const { return instance_; } // counted per class over the life of the program
+    // Counted per class over the life of the program; 0 before it was shown.
+    int InstanceNumber() const { return instance_; }
 
     // Parts.
     const std::vector<TComponent*>& components() const { return components_; }

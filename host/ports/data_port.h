@@ -20,7 +20,8 @@ struct ColumnDescription {
 // Receives a result row by row. `text` of a cell is only valid during the call.
 struct CellView {
     bool null = true;
-    std::int64_t integer = 0; // Integer; Boolean 0/1; Amount in ten-thousandths; DateTime in ms since 1970-01-01
+    // Integer; Boolean 0/1; Amount in ten-thousandths; DateTime in ms since 1970-01-01.
+    std::int64_t integer = 0;
     std::string_view text;    // Text
 };
 class RowReceiver {

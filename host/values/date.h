@@ -13,7 +13,11 @@ namespace host {
 class Date {
 public:
     constexpr Date() = default;
-    static Date from_days(std::int32_t days_since_1970) { Date d; d.days_ = days_since_1970; return d; }
+    static Date from_days(std::int32_t days_since_1970) {
+        Date date;
+        date.days_ = days_since_1970;
+        return date;
+    }
     static std::optional<Date> of(int year, int month, int day);
     // "2024-03-05", also "2024-3-5", "2024/3/5", "20240305"; what follows the day is ignored.
     static std::optional<Date> parse(std::string_view text);

@@ -24,7 +24,8 @@ std::string as_line(const std::vector<GridColumn>& columns) {
     return line;
 }
 
-bool take_column(std::string_view item, std::vector<GridColumn>& from, std::vector<GridColumn>& to) {
+bool take_column(std::string_view item, std::vector<GridColumn>& from,
+                 std::vector<GridColumn>& to) {
     const std::size_t colon = item.find(':');
     if (colon == std::string_view::npos) return false;
     for (std::size_t i = 0; i < from.size(); ++i) {
