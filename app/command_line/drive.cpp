@@ -9,6 +9,7 @@
 #include "app/work/workplace.h"
 #include "automation/drive/driver.h"
 #include "automation/drive/stream_lines.h"
+#include "host/forms/form.h"
 #include "host/ports/host.h"
 
 namespace app {
@@ -28,12 +29,14 @@ int drive(const Wanted& wanted) {
     QueryWindow window(wanted.books, work.user().administrator, work.today());
     automation::StreamRequests requests(std::cin);
     automation::StreamAnswers answers(std::cout);
+    host::TForm* owner = nullptr;
     automation::Driver driver(
-        {requests, answers, [&](const host::Trecord& record) { module.open(record, nullptr); },
+        {requests, answers, [&](const host::Trecord& record) { module.open(record, owner); },
          &window});
     host::the_host().ui = &driver;
+    host::TForm frame(nullptr); // owns the forms: they go before what they speak to
+    owner = &frame;
     driver.run();
-    host::the_host().ui = nullptr;
     return 0;
 }
 

@@ -3,8 +3,8 @@
 
 #include "automation/drive/acting.h"
 #include "automation/drive/driver.h"
-#include "automation/drive/same_name.h"
 #include "host/forms/form.h"
+#include "host/values/text.h"
 
 namespace automation {
 
@@ -20,13 +20,14 @@ std::string names_of(const host::TForm& form) {
 
 Target find_target(const host::TForm& form, const std::string& name) {
     for (host::TControl* control : controls_of(form)) {
-        if (same_name(control->Name(), name)) return {control, -1};
+        if (host::same_text(control->Name(), name)) return {control, -1};
     }
     for (host::TControl* control : controls_of(form)) {
         auto* grid = dynamic_cast<host::TDBGridEh*>(control);
         if (grid == nullptr) continue;
         for (std::size_t at = 0; at < grid->Columns.size(); ++at) {
-            if (same_name(grid->Columns[at].FieldName, name)) return {grid, static_cast<int>(at)};
+            if (host::same_text(grid->Columns[at].FieldName, name))
+                return {grid, static_cast<int>(at)};
         }
     }
     return {};
@@ -104,7 +105,7 @@ std::vector<host::TControl*> controls_of(const host::TForm& form) {
 int column_of(const host::TDBGridEh& grid, const std::string& field) {
     std::string fields;
     for (std::size_t at = 0; at < grid.Columns.size(); ++at) {
-        if (same_name(grid.Columns[at].FieldName, field)) return static_cast<int>(at);
+        if (host::same_text(grid.Columns[at].FieldName, field)) return static_cast<int>(at);
         fields += (fields.empty() ? "" : ", ") + grid.Columns[at].FieldName;
     }
     throw Refusal(grid.Name() + " has no column \"" + field + "\"; it has " + fields);

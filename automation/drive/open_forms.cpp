@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <charconv>
 
-#include "automation/drive/same_name.h"
 #include "host/forms/form.h"
+#include "host/values/text.h"
 
 namespace automation {
 
@@ -91,7 +91,7 @@ host::TForm* OpenForms::find(const std::string& name) const {
         if (error != std::errc{} || stop != end) return nullptr;
     }
     const auto meant = [&](const host::TForm& form) {
-        return same_name(plain, form.ClassName()) || same_name(plain, form.FormName());
+        return host::same_text(plain, form.ClassName()) || host::same_text(plain, form.FormName());
     };
     host::TForm* front = active();
     if (number == 0 && front != nullptr && meant(*front)) return front;

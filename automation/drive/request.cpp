@@ -3,8 +3,8 @@
 
 #include <charconv>
 
-#include "automation/drive/same_name.h"
 #include "automation/drive/written_numbers.h"
+#include "host/values/text.h"
 
 namespace automation {
 
@@ -76,8 +76,8 @@ std::optional<bool> as_flag(const nlohmann::json& value) {
     std::string text;
     if (value.is_string()) text = value.get<std::string>();
     if (value.is_number_integer()) text = value.dump();
-    if (text == "1" || same_name(text, "true") || same_name(text, "y")) return true;
-    if (text == "0" || same_name(text, "false") || same_name(text, "n")) return false;
+    if (text == "1" || host::same_text(text, "true") || host::same_text(text, "y")) return true;
+    if (text == "0" || host::same_text(text, "false") || host::same_text(text, "n")) return false;
     return std::nullopt;
 }
 

@@ -112,6 +112,11 @@ TEST_F(Requests, set_types_into_an_edit_and_moves_the_focus_there) {
     EXPECT_EQ(person.focused(), "KM_ID");
 }
 
+TEST_F(Requests, set_types_through_the_key_handler_of_the_control) {
+    person.set("KM_ID", "10*02");
+    EXPECT_EQ(person.value("KM_ID"), "1002");
+}
+
 TEST_F(Requests, set_is_refused_when_the_field_left_does_not_let_go) {
     person.set("KM_ID", "9999");
     EXPECT_EQ(person.cannot_set("PZZ_H", "5"), "the focus stays on KM_ID: 科目代号不存在!");

@@ -58,6 +58,9 @@ void TF100::prepare_deeds() {
         host::DISPINFO("科目代号不存在!", 5);
         host::Abort();
     };
+    KM_ID.OnKeyPress = [](char32_t& character) {
+        if (character == '*') character = 0;
+    };
     Menu.OnPopup = [this] { N2.Enabled = !lines.IsEmpty(); };
     N2.OnExecute = [] { host::DISPINFO("已存为模板", 5); };
     LA1.OnClick = [this] { choose_then_tell(); };

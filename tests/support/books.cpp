@@ -8,8 +8,8 @@
 #include "app/books/create.h"
 #include "app/books/open.h"
 #include "app/data/engine_data.h"
-#include "automation/drive/same_name.h"
 #include "automation/sql/collected_result.h"
+#include "host/values/text.h"
 #include "schema/schema.h"
 #include "tests/support/surroundings.h"
 #include "tests/support/temporary_folder.h"
@@ -93,7 +93,7 @@ Rows Books::table(const std::string& select) {
     for (const automation::TextRow& cells : set.rows) {
         Row row;
         for (std::size_t at = 0; at < cells.size(); ++at) {
-            row[automation::upper_name(set.columns[at])] = cells[at].value_or("<null>");
+            row[host::upper_case(set.columns[at])] = cells[at].value_or("<null>");
         }
         rows.push_back(std::move(row));
     }

@@ -2,8 +2,8 @@
 #include "automation/drive/requests/requests.h"
 
 #include "automation/drive/finding.h"
-#include "automation/drive/same_name.h"
 #include "host/forms/form.h"
+#include "host/values/text.h"
 
 namespace automation::requests {
 
@@ -13,7 +13,7 @@ json footer(Driver& driver, const Request& request) {
     for (std::size_t at = 0; at < grid.Columns.size(); ++at) {
         const host::GridColumn& column = grid.Columns[at];
         if (column.Footer == host::FooterKind::None) continue;
-        texts[upper_name(column.FieldName)] = grid.footer_text(static_cast<int>(at));
+        texts[host::upper_case(column.FieldName)] = grid.footer_text(static_cast<int>(at));
     }
     return {{"footer", std::move(texts)}};
 }

@@ -2,8 +2,8 @@
 #include "automation/drive/requests/requests.h"
 
 #include "automation/drive/finding.h"
-#include "automation/drive/same_name.h"
 #include "host/forms/form.h"
+#include "host/values/text.h"
 
 namespace automation::requests {
 
@@ -23,7 +23,7 @@ json colors_of(host::TDBGridEh& grid, int row) {
         json color = json::object();
         if (params.Font != host::clDefault) color["font"] = params.Font;
         if (params.Background != host::clDefault) color["background"] = params.Background;
-        if (!color.empty()) colors[upper_name(grid.Columns[at].FieldName)] = std::move(color);
+        if (!color.empty()) colors[host::upper_case(grid.Columns[at].FieldName)] = std::move(color);
     }
     return colors;
 }
@@ -33,13 +33,15 @@ json row_of(const host::TDBGridEh& grid, int row, bool raw) {
     const auto& fields = grid.DataSet->Fields();
     for (std::size_t at = 0; at < fields.size(); ++at) {
         const int field = static_cast<int>(at);
-        shown[upper_name(fields[at]->FieldName)] = raw ? plain(grid.DataSet->value_at(row, field))
-                                                       : json(grid.DataSet->text_at(row, field));
+        shown[host::upper_case(fields[at]->FieldName)] =
+            raw ? plain(grid.DataSet->value_at(row, field))
+                : json(grid.DataSet->text_at(row, field));
     }
     if (raw) return shown;
     for (std::size_t at = 0; at < grid.Columns.size(); ++at) {
         if (grid.DataSet->FindField(grid.Columns[at].FieldName) == nullptr) continue;
-        shown[upper_name(grid.Columns[at].FieldName)] = grid.cell_text(row, static_cast<int>(at));
+        shown[host::upper_case(grid.Columns[at].FieldName)] =
+            grid.cell_text(row, static_cast<int>(at));
     }
     return shown;
 }

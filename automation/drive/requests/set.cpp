@@ -6,6 +6,7 @@
 #include "automation/drive/finding.h"
 #include "automation/drive/typing.h"
 #include "host/forms/form.h"
+#include "host/values/text.h"
 
 namespace automation::requests {
 
@@ -40,6 +41,17 @@ void choose(Driver& driver, host::TForm& form, host::TComboBox& combo, const std
     act_fully(driver, [&] { combo.enter_text(text); });
 }
 
+// What is left of a text when the control's key handler has seen each character.
+std::string through_the_keys(host::TWinControl& control, const std::string& text) {
+    if (!control.OnKeyPress) return text;
+    std::u32string typed;
+    for (char32_t character : host::to_characters(text)) {
+        control.OnKeyPress(character);
+        if (character != 0) typed += character;
+    }
+    return host::to_utf8(typed);
+}
+
 void set_control(Driver& driver, host::TForm& form, host::TControl& control,
                  const Request& request) {
     auto* window = dynamic_cast<host::TWinControl*>(&control);
@@ -53,7 +65,7 @@ void set_control(Driver& driver, host::TForm& form, host::TControl& control,
         require_writable(*edit);
         const std::string text = request.text("value");
         move_focus(driver, form, *edit);
-        act_fully(driver, [&] { edit->enter_text(text); });
+        act_fully(driver, [&] { edit->enter_text(through_the_keys(*edit, text)); });
     } else {
         throw Refusal(control.Name() + " (" + control.ClassName() + ") takes no value");
     }
