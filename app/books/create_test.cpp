@@ -87,7 +87,7 @@ TEST_F(CreateBooks, existing_files_are_never_touched) {
 
 TEST_F(CreateBooks, a_creation_that_fails_leaves_nothing) {
     NewBooks books = wanted();
-    books.company = std::string(500, 'x'); // does not fit its column: fails after the schema is made
+    books.company = std::string(500, 'x'); // does not fit its column, after all objects are made
     EXPECT_THROW(create_books(books, clock_), Refusal);
     EXPECT_EQ(folder_.files(), 0u);
 }

@@ -40,7 +40,7 @@ std::string opening_rows(const std::string& year_row, const std::string& previou
            "CASE FX WHEN '贷' THEN BEGIN4 ELSE 0 END AS D2,0,0 FROM D6801;";
 }
 
-// A party's opening amount becomes document 2 ("初" + party), its advance document 3 ("预" + party).
+// A party's opening amount becomes a document of kind 2 ("初" + party), its advance one of kind 3.
 std::string opening_document(const char* documents, const char* parties, const char* kind,
                              const char* amount, const char* mark, const std::string& day,
                              const char* more) {

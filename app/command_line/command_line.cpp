@@ -58,7 +58,8 @@ int run_command_line(int argc, char** argv) {
     Chosen chosen;
     add_desktop(program, chosen);
     for (const auto add :
-         {add_new, add_demo, add_drive, add_sql, add_check, add_backup, add_restore})
+         {add_new, add_demo, add_drive, add_trial_balance, add_sql, add_check, add_backup,
+          add_restore})
         add(program, chosen);
     try {
         program.parse(argc, argv);

@@ -16,6 +16,8 @@ using Chosen = std::function<int()>;
 void add_new(CLI::App& program, Chosen& chosen);
 void add_demo(CLI::App& program, Chosen& chosen);
 void add_drive(CLI::App& program, Chosen& chosen);
+// Prints the trial balance of the current period, read off its own form.
+void add_trial_balance(CLI::App& program, Chosen& chosen);
 void add_sql(CLI::App& program, Chosen& chosen);
 void add_check(CLI::App& program, Chosen& chosen);
 void add_backup(CLI::App& program, Chosen& chosen);

@@ -112,14 +112,4 @@ std::vector<json> typed(const Story& story) {
     return requests.take();
 }
 
-std::vector<json> trial_balance_requests(const std::string& period) {
-    Requests requests;
-    requests.open(689);
-    requests.set("EDT1", period.substr(0, 4));
-    requests.set("EDT2", std::to_string(std::stoi(period.substr(5))));
-    requests.set("EDT3", "1");
-    requests.click("btn_ok");
-    return requests.take();
-}
-
 } // namespace app

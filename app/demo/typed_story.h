@@ -11,7 +11,4 @@ namespace app {
 // Accounts into the chart, vouchers one by one, audit, posting, the rest of the audit.
 std::vector<nlohmann::json> typed(const Story& story);
 
-// The requests that show the trial balance of the story's period.
-std::vector<nlohmann::json> trial_balance_requests(const std::string& period);
-
 } // namespace app

@@ -39,6 +39,7 @@ public:
     const std::string& company() const { return company_; }
     const std::optional<host::Date>& today() const { return today_; }
     SettingsFile& settings() { return settings_; }
+    engines::Session& session() { return *session_; }
 
 private:
     SettingsFile settings_;

@@ -8,8 +8,8 @@ class AccountRules : public Ledger {
 protected:
     void add(const std::string& code, const std::string& name, const std::string& parent,
              int level) {
-        data_->execute("insert into D6801 (KM_ID, KM_NAME, FX, OID, PYM, KM_FL, KM_J, KM_K) ValueS('" +
-                           code + "','" + name + "','借','" + parent + "','X','1','" +
+        data_->execute("insert into D6801 (KM_ID, KM_NAME, FX, OID, PYM, KM_FL, KM_J, KM_K) "
+                       "ValueS('" + code + "','" + name + "','借','" + parent + "','X','1','" +
                            std::to_string(level) + "','1')",
                        {"681", code, "CopyAdd"});
     }

@@ -70,7 +70,8 @@ TEST_F(Check, a_closing_balance_that_does_not_follow_from_the_one_before) {
 }
 
 TEST_F(Check, an_account_below_a_missing_parent_and_a_wrong_level) {
-    damage("INSERT INTO D6801 (KM_ID, KM_NAME, FX, OID, KM_FL, KM_J) VALUES ('77','x','借','76',1,2)");
+    damage("INSERT INTO D6801 (KM_ID, KM_NAME, FX, OID, KM_FL, KM_J) "
+           "VALUES ('77','x','借','76',1,2)");
     damage("UPDATE D6801 SET KM_J = 4 WHERE KM_ID = '100901'");
     EXPECT_TRUE(finds("会计科目", "上级科目不存在: 77 76")) << findings();
     EXPECT_TRUE(finds("会计科目", "科目级别不对: 100901")) << findings();

@@ -10,8 +10,8 @@ namespace tests {
 namespace {
 
 const std::string movements =
-    "FROM (SELECT D6601A.KM_ID, SUM(D6601A.J) AS J, SUM(D6601A.D) AS D FROM D6601A INNER JOIN D6601 "
-    "ON D6601A.NOID = D6601.NOID WHERE D6601.T=1 AND (D6601.PZQJ = '2024-03') "
+    "FROM (SELECT D6601A.KM_ID, SUM(D6601A.J) AS J, SUM(D6601A.D) AS D FROM D6601A "
+    "INNER JOIN D6601 ON D6601A.NOID = D6601.NOID WHERE D6601.T=1 AND (D6601.PZQJ = '2024-03') "
     "GROUP BY D6601A.KM_ID, D6601.PZQJ) T "
     "WHERE D6602.INX=0 AND D6602.QJ='2024-03' AND D6602.KM_ID=T.KM_ID;";
 
@@ -50,8 +50,8 @@ std::string Ledger::voucher(int number, const std::vector<Line>& lines) {
     std::string padded = std::to_string(number);
     padded.insert(0, padded.size() < 3 ? 3 - padded.size() : 0, '0');
     const std::string key = "2024-03记" + padded;
-    std::string batch = "INSERT INTO D6601 (NOID, PZQJ, PZZ, PZZ_H, PZZ_Z, BDATE, USER_ID, T) VALUES "
-                        "('" + key + "','2024-03','记','" + std::to_string(number) +
+    std::string batch = "INSERT INTO D6601 (NOID, PZQJ, PZZ, PZZ_H, PZZ_Z, BDATE, USER_ID, T) "
+                        "VALUES ('" + key + "','2024-03','记','" + std::to_string(number) +
                         "','1','2024-03-15','admin',1);";
     int inx = 0;
     for (const Line& line : lines)
@@ -64,8 +64,8 @@ std::string Ledger::voucher(int number, const std::vector<Line>& lines) {
 
 void Ledger::post() {
     data_->execute(empty_rows("0") + empty_rows("1") +
-                       "UPDATE D6602 SET D6602.J=T.J,D6602.D=T.D " + movements + roll_up() + closing +
-                       "update D6601 set d=1 WHERE (D6601.PZQJ = '2024-03') and D6601.D=0 and t=1;",
+                       "UPDATE D6602 SET D6602.J=T.J,D6602.D=T.D " + movements + roll_up() +
+                       closing + "update D6601 set d=1 WHERE (D6601.PZQJ = '2024-03') and D6601.D=0 and t=1;",
                    {"663", "2024-03", "Edit"});
 }
 

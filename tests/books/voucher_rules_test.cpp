@@ -14,8 +14,8 @@ protected:
     void run(const std::string& batch) { data_->execute(batch, {"661", key_, "Edit"}); }
     std::string remove() const { return "delete from D6601 WHERE NOID='" + key_ + "';"; }
     std::string head() const {
-        return "INSERT INTO D6601 (NOID, PZQJ, PZZ, PZZ_H, PZZ_Z, BDATE, USER_ID) VALUES ('" + key_ +
-               "','2024-03','记','1','1','2024-03-15','admin');";
+        return "INSERT INTO D6601 (NOID, PZQJ, PZZ, PZZ_H, PZZ_Z, BDATE, USER_ID) VALUES ('" +
+               key_ + "','2024-03','记','1','1','2024-03-15','admin');";
     }
     std::string line() const {
         return "INSERT INTO D6601A (NOID, ZY, KM_ID, J, D, INX) VALUES ('" + key_ +

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
@@ -22,11 +23,13 @@ public:
 
     // The request that was refused and why; "" while all went well.
     const std::string& trouble() const { return trouble_; }
-    const nlohmann::json& last_answer() const { return last_answer_; }
+    // The last answer to a request of this kind ("rows"); null when there was none.
+    const nlohmann::json& answer_to(const std::string& op) { return answers_[op]; }
 
 private:
     std::deque<nlohmann::json> waiting_;
-    nlohmann::json asked_, last_answer_;
+    nlohmann::json asked_;
+    std::map<std::string, nlohmann::json> answers_;
     std::string trouble_;
 };
 

@@ -1,5 +1,5 @@
 // Requests out, answers in.
-#include "app/demo/scripted_person.h"
+#include "app/work/scripted_person.h"
 
 namespace app {
 
@@ -11,9 +11,10 @@ std::optional<std::string> ScriptedPerson::next() {
 }
 
 void ScriptedPerson::write(const std::string& line) {
-    last_answer_ = nlohmann::json::parse(line, nullptr, false);
-    if (trouble_.empty() && !last_answer_.value("ok", false))
+    nlohmann::json answer = nlohmann::json::parse(line, nullptr, false);
+    if (trouble_.empty() && !(answer.is_object() && answer.value("ok", false)))
         trouble_ = asked_.dump() + " → " + line;
+    answers_[asked_.value("op", "")] = std::move(answer);
 }
 
 } // namespace app
