@@ -1,0 +1,71 @@
+// zhangfang drive: login, today, the query window, and the module beside the program.
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "tests/command_line/program.h"
+#include "tests/support/temporary_folder.h"
+
+namespace tests {
+namespace {
+
+namespace fs = std::filesystem;
+
+class DriveCommand : public ::testing::Test {
+protected:
+    void make(const std::string& password) {
+        ASSERT_EQ(run_program({"new", books_, "--company", "甲公司", "--start", "2024-03"}, "",
+                              {{"ZHANGFANG_PASSWORD", password}})
+                      .status,
+                  0);
+    }
+    static std::vector<nlohmann::json> answers(const Run& run) {
+        std::vector<nlohmann::json> all;
+        std::istringstream lines(run.out);
+        for (std::string line; std::getline(lines, line);)
+            all.push_back(nlohmann::json::parse(line));
+        return all;
+    }
+
+    TemporaryFolder folder_;
+    std::string books_ = folder_.file("a.zf");
+};
+
+} // namespace
+
+TEST_F(DriveCommand, today_is_fixed_for_the_database_too) {
+    make("");
+    const Run run = run_program(
+        {"drive", books_, "--today", "2024-03-17"},
+        R"({"op":"query","sql":"SELECT CONVERT(varchar(10), GETDATE(), 120) AS A"})"
+        "\n{\"op\":\"quit\"}\n");
+    ASSERT_EQ(run.status, 0) << run.errors;
+    const auto all = answers(run);
+    ASSERT_EQ(all.size(), 2u);
+    EXPECT_EQ(all[0]["rows"], (nlohmann::json{{"2024-03-17"}})) << run.out;
+}
+
+TEST_F(DriveCommand, a_password_is_taken_from_the_environment_and_a_wrong_one_is_refused) {
+    make("secret");
+    const std::string quit = "{\"op\":\"quit\"}\n";
+    EXPECT_EQ(run_program({"drive", books_}, quit, {{"ZHANGFANG_PASSWORD", "secret"}}).status, 0);
+    const Run wrong = run_program({"drive", books_}, quit, {{"ZHANGFANG_PASSWORD", "Secret"}});
+    EXPECT_EQ(wrong.status, 1);
+    EXPECT_NE(wrong.errors.find("用户名或密码不对"), std::string::npos) << wrong.errors;
+    EXPECT_EQ(run_program({"drive", books_}, quit).status, 1);
+    EXPECT_EQ(run_program({"drive", books_, "--user", "nobody"}, quit).status, 1);
+}
+
+TEST_F(DriveCommand, a_program_without_its_module_says_so) {
+    make("");
+    const fs::path lonely = folder_.path() / "lonely";
+    fs::create_directory(lonely);
+    fs::copy(fs::path(ZF_BINARY_DIR) / "zhangfang", lonely);
+    fs::copy(fs::path(ZF_BINARY_DIR) / "libzhangfang_host.so", lonely);
+    const Run run = run_file((lonely / "zhangfang").string(), {"drive", books_});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_NE(run.errors.find("libQmx600.so"), std::string::npos) << run.errors;
+}
+
+} // namespace tests
