@@ -48,8 +48,8 @@ std::string opening_document(const char* documents, const char* parties, const c
     return std::string("INSERT INTO ") + documents +
            " (BDATE, C, KH_GYS_ID, TOLMONEY, YSMONEY, NOID, USER_ID) SELECT '" + day + "' as da, " +
            kind + ", KH_GYS_ID, " + money + ", " + money + ", '" + mark +
-           "' + KH_GYS_ID,'admin' FROM " + parties + " where (BEGIN_MONEY-BEGINys_MONEY)<>0" + more +
-           ";";
+           "' + KH_GYS_ID,'admin' FROM " + parties +
+           " where (BEGIN_MONEY-BEGINys_MONEY)<>0" + more + ";";
 }
 
 std::string opening_documents(const std::string& day) {

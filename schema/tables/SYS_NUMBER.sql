@@ -1,6 +1,5 @@
--- Document numbers handed out: code of the kind, day YYMMDD, running number. One row a number; its
--- key lets only one of several users take it.
--- Written by: the data layer, when a document asks for its number.
+-- Document numbers handed out. One row a number; the key makes whoever comes second take the next.
+-- Written by: whoever needs a number for a document.
 CREATE TABLE SYS_NUMBER (
     NOID nvarchar(40) NOT NULL CONSTRAINT PK_SYS_NUMBER PRIMARY KEY
 );

@@ -65,7 +65,8 @@ std::string Ledger::voucher(int number, const std::vector<Line>& lines) {
 void Ledger::post() {
     data_->execute(empty_rows("0") + empty_rows("1") +
                        "UPDATE D6602 SET D6602.J=T.J,D6602.D=T.D " + movements + roll_up() +
-                       closing + "update D6601 set d=1 WHERE (D6601.PZQJ = '2024-03') and D6601.D=0 and t=1;",
+                       closing + "update D6601 set d=1 WHERE (D6601.PZQJ = '2024-03') "
+                       "and D6601.D=0 and t=1;",
                    {"663", "2024-03", "Edit"});
 }
 

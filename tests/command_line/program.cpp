@@ -37,7 +37,8 @@ void redirect(const std::string& path, int flags, int stream) {
         ::unsetenv(name);
     for (const auto& [name, value] : environment) ::setenv(name.c_str(), value.c_str(), 1);
     std::vector<char*> words{const_cast<char*>(program.c_str())};
-    for (const std::string& argument : arguments) words.push_back(const_cast<char*>(argument.c_str()));
+    for (const std::string& argument : arguments)
+        words.push_back(const_cast<char*>(argument.c_str()));
     words.push_back(nullptr);
     ::execv(program.c_str(), words.data());
     ::_exit(127);
