@@ -26,10 +26,11 @@ void TComponent::forget(int handle) {
 
 void TComponent::changed() {
     // A listener may add or forget others while it is told.
-    for (const auto& [handle, listener] : std::vector(listeners_)) {
-        const bool listens = std::any_of(listeners_.begin(), listeners_.end(),
-                                         [&](const auto& entry) { return entry.first == handle; });
-        if (listens) listener();
+    for (const auto& one : std::vector(listeners_)) {
+        const bool listens =
+            std::any_of(listeners_.begin(), listeners_.end(),
+                        [&](const auto& entry) { return entry.first == one.first; });
+        if (listens) one.second();
     }
 }
 
