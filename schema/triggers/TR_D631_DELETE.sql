@@ -1,0 +1,8 @@
+-- Lines, split and over-receipt of a receipt go with it; the documents it settled open again.
+CREATE TRIGGER TR_D631_DELETE ON D631 AFTER DELETE AS
+BEGIN
+    SET NOCOUNT ON;
+    DELETE FROM D631A WHERE NOID IN (SELECT NOID FROM deleted);
+    DELETE FROM D631B WHERE NOID IN (SELECT NOID FROM deleted);
+    DELETE FROM D651A WHERE D631NOID IN (SELECT NOID FROM deleted);
+END

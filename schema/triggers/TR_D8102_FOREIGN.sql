@@ -1,0 +1,9 @@
+-- A document in base currency shows its total in the column of the foreign amount too.
+CREATE TRIGGER TR_D8102_FOREIGN ON D8102 AFTER INSERT, UPDATE AS
+BEGIN
+    SET NOCOUNT ON;
+    IF UPDATE(TOLMONEY)
+        UPDATE D8102 SET TOLSMONEY = TOLMONEY
+        WHERE NOID IN (SELECT NOID FROM inserted) AND HL = 1
+          AND (TOLSMONEY IS NULL OR TOLSMONEY <> TOLMONEY);
+END
