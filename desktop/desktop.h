@@ -1,0 +1,50 @@
+// The Qt desktop: the frame window, and behind it every form drawn from its host controls.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace desktop {
+
+// What the status bar and the title say about the open books.
+struct BooksLabel {
+    std::string company;   // "苏州嘉禾贸易有限公司"
+    std::string user;      // name of the logged-in user
+    std::string database;  // "jiahe.db"
+    std::string place;     // "本机", or the server's name
+};
+
+// A picture of one function instead of a session: opens it, presses the keys, writes the PNG.
+struct Screenshot {
+    int code = 0; // 0: the overview
+    std::string file;
+    std::vector<std::string> keys; // "F3", "Enter"
+    int width = 1440, height = 900;
+};
+
+// What the frame needs from the program around it. All functions run on the thread of the user
+// interface; those that are absent leave their menu item out.
+struct DesktopServices {
+    std::function<BooksLabel()> books;            // asked after the login and after a change
+    std::function<void(int code)> open_function;  // one menu pick
+    std::function<bool(int code)> has_function;   // absent: every function is there
+    // Checks a login: "" lets in, anything else is the sentence to show. Absent: nothing is asked.
+    std::function<std::string(const std::string& user, const std::string& password)> log_in;
+    std::string last_user;
+    std::vector<std::string> recent_books;
+    std::function<void(const std::string& books)> open_books; // starts over with another set
+    std::optional<Screenshot> screenshot;
+};
+
+// Runs the desktop until its window is closed; the_host() must have its ports but for `ui`, which
+// is set here. Returns the exit status of the program.
+//
+//     return desktop::run(argc, argv, {.books = ..., .open_function = ...});
+int run(int argc, char** argv, const DesktopServices& services);
+
+// Shows one sentence in a window of its own, for a program that cannot go on; returns 1.
+int show_failure(int argc, char** argv, const std::string& sentence);
+
+} // namespace desktop

@@ -1,0 +1,107 @@
+// One cell: its ground by state, its content by kind of column, its lines.
+#include "desktop/grid/grid_delegate.h"
+
+#include <QPainter>
+
+#include "desktop/grid/cell_text.h"
+#include "desktop/grid/digit_boxes.h"
+#include "desktop/grid/grid_header.h"
+#include "desktop/grid/grid_view.h"
+#include "desktop/theme/amount_text.h"
+#include "desktop/theme/fonts.h"
+#include "desktop/theme/house_style.h"
+#include "desktop/theme/text.h"
+#include "desktop/theme/tokens.h"
+
+namespace desktop {
+namespace {
+
+// "银行存款-工行": the parent part is quiet, the own part is ink.
+void paint_account_name(QPainter& painter, const QRect& box, const QString& text) {
+    const qsizetype own = text.lastIndexOf('-') + 1;
+    const QString parent = text.left(own);
+    const int width = painter.fontMetrics().horizontalAdvance(parent);
+    painter.setPen(token::ink_3);
+    painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter, parent);
+    painter.setPen(token::ink_1);
+    const QRect rest = box.adjusted(width, 0, 0, 0);
+    painter.drawText(rest, Qt::AlignLeft | Qt::AlignVCenter,
+                     painter.fontMetrics().elidedText(text.mid(own), Qt::ElideRight, rest.width()));
+}
+
+bool is_set(const QString& text) {
+    return text == "1" || text.compare("True", Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+GridDelegate::GridDelegate(GridView& view) : QStyledItemDelegate(&view), view_(view) {}
+
+QSize GridDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
+    return {80, view_.grid() ? row_height(*view_.grid()) : token::grid_row};
+}
+
+void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
+    host::TDBGridEh* grid = view_.grid();
+    if (!grid || !grid->DataSet || index.row() >= grid->DataSet->RecordCount()) return;
+    const host::CellParams params = grid->cell_params(index.row(), index.column());
+    paint_ground(*painter, option.rect, index.row(), params);
+    paint_content(*painter, option.rect, index.row(), index.column(), params);
+    paint_lines(*painter, option.rect, index.row(), index.column());
+}
+
+void GridDelegate::paint_ground(QPainter& painter, const QRect& cell, int row,
+                                const host::CellParams& params) const {
+    QColor ground = token::of(params.Background, token::paper_0);
+    // Rows a form writes in blue are summaries: they stand on a ground of their own.
+    if (params.Background == host::clDefault && params.Font == 0xFF0000)
+        ground = token::summary_ground;
+    if (view_.row_edited(row)) ground = token::indigo_4;
+    else if (view_.row_selected(row))
+        ground = view_.shows_focus() ? token::indigo_3 : token::selected_quiet;
+    painter.fillRect(cell, ground);
+}
+
+void GridDelegate::paint_content(QPainter& painter, const QRect& cell, int row, int column,
+                                 const host::CellParams& params) const {
+    const host::TDBGridEh& grid = *view_.grid();
+    const auto& shown = grid.Columns[static_cast<std::size_t>(column)];
+    const QString text = qt(grid.cell_text(row, column));
+    if (shown.CheckBox) return paint_check_box(painter, cell, is_set(text));
+    const QColor ink = token::of(params.Font, token::ink_1);
+    if (shown.RuledAmount) {
+        digit_boxes::paint_rules(painter, cell.adjusted(0, 0, 0, -1));
+        painter.setFont(fonts::digits(params.Bold));
+        return digit_boxes::paint_amount(painter, cell, text, amount_color(text, ink));
+    }
+    painter.setFont(fonts::body(params.Bold));
+    const QRect box = cell.adjusted(token::cell_padding, 0, -token::cell_padding, 0);
+    if (is_amount_column(grid, shown) && looks_like_amount(text))
+        return paint_amount(painter, box, text, amount_color(text, ink));
+    if (params.Font == host::clDefault && is_account_name_column(grid, shown) && text.contains('-'))
+        return paint_account_name(painter, box, text);
+    painter.setPen(ink);
+    painter.drawText(box, alignment_of(grid, shown),
+                     painter.fontMetrics().elidedText(text, Qt::ElideRight, box.width()));
+}
+
+void GridDelegate::paint_lines(QPainter& painter, const QRect& cell, int row, int column) const {
+    const host::TDBGridEh& grid = *view_.grid();
+    const bool selected = view_.row_selected(row) && view_.shows_focus();
+    painter.fillRect(cell.right(), cell.top(), 1, cell.height(),
+                     view_.title_header().closes_group(column) ? token::rule_3 : token::rule_1);
+    painter.fillRect(cell.left(), cell.bottom(), cell.width(), 1,
+                     selected ? token::selected_rule : token::rule_1);
+    if (row != grid.DataSet->RecNo() || column != grid.column()) return;
+    painter.setBrush(Qt::NoBrush);
+    if (view_.shows_focus()) {
+        painter.setPen(QPen(token::indigo_2, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(cell.adjusted(1, 1, -1, -1));
+    } else {
+        painter.setPen(token::rule_3);
+        painter.drawRect(cell.adjusted(0, 0, -1, -1));
+    }
+}
+
+} // namespace desktop

@@ -1,0 +1,266 @@
+// Keeps the table in step with its grid control, and its columns in their places.
+#include "desktop/grid/grid_view.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QTimer>
+
+#include "desktop/grid/cell_editor.h"
+#include "desktop/grid/cell_text.h"
+#include "desktop/grid/column_memory.h"
+#include "desktop/grid/digit_boxes.h"
+#include "desktop/grid/grid_delegate.h"
+#include "desktop/grid/grid_header.h"
+#include "desktop/grid/grid_model.h"
+#include "desktop/grid/row_numbers.h"
+#include "desktop/grid/suggestion_popup.h"
+#include "desktop/renderers/form_view.h"
+#include "desktop/theme/amount_text.h"
+#include "desktop/theme/fonts.h"
+#include "desktop/theme/text.h"
+#include "desktop/theme/tokens.h"
+
+namespace desktop {
+namespace {
+
+constexpr int rows_measured = 200, widest_by_content = 360;
+
+} // namespace
+
+GridView::GridView(host::TDBGridEh& grid, FormView& form, QWidget* parent)
+    : QTableView(parent), grid_(&grid), form_(form), model_(new GridModel(grid, this)),
+      header_(new GridHeader(grid, this)), editor_(new CellEditor(viewport())),
+      popup_(new SuggestionPopup) {
+    setObjectName("grid");
+    setModel(model_);
+    setItemDelegate(new GridDelegate(*this));
+    setHorizontalHeader(header_);
+    setVerticalHeader(new RowNumbers(*this));
+    setFrameShape(QFrame::NoFrame);
+    setShowGrid(false);
+    setWordWrap(false);
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // the frame has one below the footer
+    setTabKeyNavigation(false);
+    setMouseTracking(true);
+    verticalHeader()->setDefaultSectionSize(row_height(grid));
+    model_->on_reset = [this] {
+        laid_out_ = false;
+        lay_columns_out();
+        cursor_due();
+        if (on_geometry) on_geometry();
+    };
+    model_->on_cursor = [this] { cursor_due(); };
+    model_->on_rows_changed = [this](int, int) {
+        viewport()->update();
+        cursor_due();
+        if (on_geometry) on_geometry();
+    };
+    connect_header();
+    form.claim(this, grid);
+    form.claim(viewport(), grid);
+    form.claim(editor_, grid);
+    form.set_own_keys(grid, [this](const host::Key& key) { return own_key(key); });
+    editor_->on_edited = [this](const QString& text) { edited(text); };
+    editor_->on_lookup = [this] { form_.run([this] { grid_->press_button(); }); };
+    editor_->on_focus = [this] { viewport()->update(); };
+    popup_->on_chosen = [this](int index) { take_suggestion(index); };
+    form.after_event([this] {
+        if (cursor_due_) sync_cursor();
+    });
+    form.at_release([this] { detach(); });
+    form.listen(grid, [this] { refresh(); });
+}
+
+GridView::~GridView() { delete popup_; }
+
+void GridView::detach() {
+    grid_ = nullptr;
+    editor_->hide();
+    popup_->hide();
+    model_->detach();
+}
+
+void GridView::connect_header() {
+    connect(header_, &QHeaderView::sectionClicked, this, [this](int column) {
+        if (grid_) form_.run([&] { grid_->title_click(column); });
+    });
+    auto moved = [this] {
+        header_->viewport()->update();
+        if (on_geometry) on_geometry();
+        place_editor();
+        if (!laying_out_ && laid_out_) remember_columns();
+    };
+    connect(header_, &QHeaderView::sectionResized, this, moved);
+    connect(header_, &QHeaderView::sectionMoved, this, moved);
+    connect(header_, &QHeaderView::geometriesChanged, this, [this] {
+        if (on_geometry) on_geometry();
+    });
+}
+
+void GridView::refresh() {
+    if (!grid_) return;
+    model_->refresh();
+    setEnabled(grid_->Enabled);
+    verticalHeader()->setDefaultSectionSize(row_height(*grid_));
+    for (int i = 0; i < model_->columnCount(); ++i) {
+        const bool hidden = !grid_->Columns[static_cast<std::size_t>(i)].Visible;
+        if (hidden && !isColumnHidden(i)) setColumnHidden(i, true);
+    }
+    viewport()->update();
+    verticalHeader()->viewport()->update();
+    header_->viewport()->update();
+    cursor_due();
+}
+
+// Cursor news come in bursts while a form walks through its rows: shown once, when it is done.
+void GridView::cursor_due() {
+    if (cursor_due_) return;
+    cursor_due_ = true;
+    QTimer::singleShot(0, this, [this] {
+        if (cursor_due_) sync_cursor();
+    });
+}
+
+void GridView::sync_cursor() {
+    cursor_due_ = false;
+    if (!grid_ || !grid_->DataSet) return;
+    const QModelIndex now = model_->index(grid_->DataSet->RecNo(), grid_->column());
+    if (now != currentIndex()) {
+        selectionModel()->setCurrentIndex(now, QItemSelectionModel::NoUpdate);
+        if (now.isValid()) scrollTo(now);
+    }
+    place_editor();
+    viewport()->update();
+    verticalHeader()->viewport()->update();
+}
+
+bool GridView::shows_focus() const {
+    const QWidget* focus = QApplication::focusWidget();
+    return focus && (focus == this || focus == editor_);
+}
+
+bool GridView::row_selected(int row) const {
+    if (!grid_ || !grid_->DataSet) return false;
+    const auto marked = grid_->marked(row);
+    return marked || (row == grid_->DataSet->RecNo() && grid_->selected_rows().size() <= 1);
+}
+
+bool GridView::row_edited(int row) const {
+    return grid_ && grid_->DataSet && row == grid_->DataSet->RecNo() && is_entry_grid(*grid_) &&
+           shows_focus();
+}
+
+// Widths as the form gives them; what is left goes to the column that asks for it.
+void GridView::lay_columns_out() {
+    if (!grid_ || laying_out_ || !isVisible()) return;
+    laying_out_ = true;
+    const auto digit = QFontMetrics(fonts::body()).horizontalAdvance('0');
+    const bool first = !laid_out_;
+    int used = 0, filler = -1;
+    for (int i = 0; i < model_->columnCount(); ++i) {
+        const auto& column = grid_->Columns[static_cast<std::size_t>(i)];
+        if (!column.Visible) continue;
+        int width = columnWidth(i);
+        if (column.RuledAmount) width = token::digit_box * digit_boxes::count;
+        else if (first && column.Width == 0) width = content_width(i);
+        else if (first && column.Width > 0)
+            width = std::max(column.Width * digit + 18, header_->needed_width(i));
+        if (column.Width < 0 && filler < 0) filler = i;
+        else used += width;
+        if (width != columnWidth(i)) setColumnWidth(i, width);
+    }
+    if (first) restore_columns();
+    if (first && grid_->DataSet) used = 0;
+    if (filler >= 0) {
+        used = 0;
+        for (int i = 0; i < model_->columnCount(); ++i)
+            if (i != filler && !isColumnHidden(i)) used += columnWidth(i);
+        setColumnWidth(filler, std::max(viewport()->width() - used, 120));
+    }
+    laid_out_ = true;
+    laying_out_ = false;
+}
+
+int GridView::content_width(int column) const {
+    const QFontMetrics metrics(fonts::body());
+    int width = header_->needed_width(column);
+    const int rows = std::min(model_->rowCount(), rows_measured);
+    for (int row = 0; row < rows; ++row) {
+        const QString text = qt(grid_->cell_text(row, column));
+        const int wide = looks_like_amount(text) ? amount_width(text, metrics)
+                                                 : metrics.horizontalAdvance(text);
+        width = std::max(width, wide + 2 * token::cell_padding + 2);
+    }
+    return std::min(width, widest_by_content);
+}
+
+void GridView::restore_columns() {
+    if (grid_) column_memory::restore(*grid_, *header_);
+}
+
+void GridView::remember_columns() {
+    if (grid_) column_memory::remember(*grid_, *header_);
+}
+
+void GridView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    lay_columns_out();
+    place_editor();
+}
+
+void GridView::showEvent(QShowEvent* event) {
+    // Otherwise every scroll step would repaint all cells instead of the new ones.
+    viewport()->setAutoFillBackground(true);
+    QTableView::showEvent(event);
+    lay_columns_out();
+    cursor_due();
+}
+
+void GridView::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    if (on_geometry) on_geometry();
+    place_editor();
+}
+
+void GridView::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (!grid_) return;
+    QPainter painter(viewport());
+    paint_empty_rows(painter);
+    if (model_->rowCount() > 0 || grid_->EmptyText.empty()) return;
+    painter.setFont(fonts::body());
+    painter.setPen(token::ink_2);
+    painter.drawText(viewport()->rect(), Qt::AlignCenter, qt(grid_->EmptyText));
+}
+
+// A paper form has its rows ruled down to the total, written or not; any grid has its row lines
+// drawn through to the right edge.
+void GridView::paint_empty_rows(QPainter& painter) {
+    const int right = header_->length() - header_->offset();
+    const int last = model_->rowCount() - 1;
+    const int top = rowAt(0) < 0 ? 0 : rowAt(0);
+    int y = 0;
+    for (int row = top; row >= 0 && row <= last; ++row) {
+        y = rowViewportPosition(row) + rowHeight(row);
+        if (y > viewport()->height()) return;
+        if (right < viewport()->width())
+            painter.fillRect(right, y - 1, viewport()->width() - right, 1, token::rule_1);
+    }
+    if (!is_ruled(*grid_)) return;
+    const int height = row_height(*grid_);
+    for (; y < viewport()->height(); y += height) {
+        painter.fillRect(0, y + height - 1, viewport()->width(), 1, token::rule_1);
+        for (int i = 0; i < model_->columnCount(); ++i) {
+            if (isColumnHidden(i)) continue;
+            const QRect cell(columnViewportPosition(i), y, columnWidth(i), height);
+            if (grid_->Columns[static_cast<std::size_t>(i)].RuledAmount)
+                digit_boxes::paint_rules(painter, cell.adjusted(0, 0, 0, -1));
+            painter.fillRect(cell.right(), y, 1, height, token::rule_1);
+        }
+    }
+}
+
+} // namespace desktop

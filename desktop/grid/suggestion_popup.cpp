@@ -1,0 +1,185 @@
+// Paints the matching codes, the current one filled, with the keys that work on them below.
+#include "desktop/grid/suggestion_popup.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "desktop/theme/amount_text.h"
+#include "desktop/theme/fonts.h"
+#include "desktop/theme/text.h"
+#include "desktop/theme/tokens.h"
+
+namespace desktop {
+namespace {
+
+constexpr int row = 28, hint = 26, most_rows = 10;
+
+QString hint_text() {
+    return QStringLiteral("↑↓ 选择    Enter 填入    Esc 关闭");
+}
+
+} // namespace
+
+SuggestionPopup::SuggestionPopup() : QFrame(nullptr) {
+    setFocusPolicy(Qt::NoFocus);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    hide();
+}
+
+int SuggestionPopup::shown() const { return std::min<int>(static_cast<int>(rows_.size()), most_rows); }
+
+int SuggestionPopup::width_of(std::size_t column) const {
+    const QFontMetrics metrics(fonts::body());
+    int width = 0;
+    for (const auto& entry : rows_)
+        if (column < entry.cells.size())
+            width = std::max(width, metrics.horizontalAdvance(qt(entry.cells[column])) + 8);
+    return width;
+}
+
+void SuggestionPopup::offer(const std::vector<host::Suggestion>& rows, const QString& typed,
+                            QWidget& edit) {
+    rows_ = rows;
+    typed_ = typed;
+    top_ = 0;
+    current_ = -1;
+    widths_.clear();
+    std::size_t columns = 0;
+    for (const auto& entry : rows_) columns = std::max(columns, entry.cells.size());
+    int width = 20;
+    for (std::size_t i = 0; i < columns; ++i) {
+        widths_.push_back(std::clamp(width_of(i), 56, 320));
+        width += widths_.back() + 16;
+    }
+    // A code is taken by Enter at once; a free text only after it was chosen.
+    if (columns > 1) {
+        current_ = 0;
+        for (std::size_t i = 0; i < rows_.size(); ++i)
+            if (qt(rows_[i].value) == typed) current_ = static_cast<int>(i);
+    }
+    QWidget* window = edit.window();
+    if (parentWidget() != window) setParent(window);
+    const int height = shown() * row + hint + 2;
+    QPoint at = edit.mapTo(window, QPoint(0, edit.height()));
+    if (at.y() + height > window->height()) at = edit.mapTo(window, QPoint(0, -height));
+    width = std::max({width, edit.width(), 320});
+    at.setX(std::max(0, std::min(at.x(), window->width() - width - 4)));
+    setGeometry(QRect(at, QSize(width, height)));
+    keep_in_sight();
+    show();
+    raise();
+    update();
+}
+
+bool SuggestionPopup::takes(const host::Key& key) const {
+    using host::KeyCode;
+    if (key.ctrl || key.alt) return false;
+    switch (key.code) {
+    case KeyCode::Up:
+    case KeyCode::Down:
+    case KeyCode::PageUp:
+    case KeyCode::PageDown:
+    case KeyCode::Esc: return true;
+    case KeyCode::Enter: return current_ >= 0;
+    default: return false;
+    }
+}
+
+void SuggestionPopup::key(const host::Key& key) {
+    using host::KeyCode;
+    const int last = static_cast<int>(rows_.size()) - 1;
+    switch (key.code) {
+    case KeyCode::Up: current_ = std::max(current_ - 1, 0); break;
+    case KeyCode::Down: current_ = std::min(current_ + 1, last); break;
+    case KeyCode::PageUp: current_ = std::max(current_ - most_rows, 0); break;
+    case KeyCode::PageDown: current_ = std::min(current_ + most_rows, last); break;
+    case KeyCode::Esc: return hide();
+    case KeyCode::Enter:
+        if (on_chosen) on_chosen(current_);
+        return;
+    default: return;
+    }
+    keep_in_sight();
+    update();
+}
+
+void SuggestionPopup::keep_in_sight() {
+    if (current_ < 0) return;
+    if (current_ < top_) top_ = current_;
+    if (current_ >= top_ + most_rows) top_ = current_ - most_rows + 1;
+}
+
+// The letters that were typed stand out in what they matched.
+void SuggestionPopup::paint_match(QPainter& painter, const QRect& box, const QString& text,
+                                  bool current) const {
+    const qsizetype at = typed_.isEmpty() ? -1 : text.indexOf(typed_, 0, Qt::CaseInsensitive);
+    const QColor ink = current ? QColor(Qt::white) : token::ink_1;
+    if (at < 0) {
+        painter.setFont(fonts::body());
+        painter.setPen(ink);
+        painter.drawText(box, Qt::AlignVCenter | Qt::AlignLeft,
+                         painter.fontMetrics().elidedText(text, Qt::ElideRight, box.width()));
+        return;
+    }
+    int x = box.x();
+    const QString parts[] = {text.left(at), text.mid(at, typed_.size()), text.mid(at + typed_.size())};
+    for (int i = 0; i < 3; ++i) {
+        painter.setFont(fonts::body(i == 1));
+        painter.setPen(i == 1 && !current ? token::indigo_1 : ink);
+        painter.drawText(QRect(x, box.y(), box.right() - x, box.height()),
+                         Qt::AlignVCenter | Qt::AlignLeft, parts[i]);
+        x += painter.fontMetrics().horizontalAdvance(parts[i]);
+    }
+}
+
+void SuggestionPopup::paint_row(QPainter& painter, int index, const QRect& box) const {
+    const bool current = index == current_;
+    if (current) painter.fillRect(box, token::indigo_1);
+    int x = box.x() + 10;
+    const auto& cells = rows_[static_cast<std::size_t>(index)].cells;
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        const QString text = qt(cells[i]);
+        const QRect cell(x, box.y(), widths_[i], box.height());
+        // The balance is the last of several columns; a code in front is digits too.
+        if (i >= 2 && i + 1 == cells.size() && looks_like_amount(text)) {
+            painter.setFont(fonts::body());
+            paint_amount(painter, cell, text,
+                         current ? QColor(Qt::white) : amount_color(text, token::ink_1));
+        } else {
+            paint_match(painter, cell, text, current);
+        }
+        x += widths_[i] + 16;
+    }
+}
+
+void SuggestionPopup::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), token::paper_0);
+    for (int i = 0; i < shown(); ++i)
+        paint_row(painter, top_ + i, QRect(1, 1 + i * row, width() - 2, row));
+    const QRect below(1, 1 + shown() * row, width() - 2, hint);
+    painter.fillRect(below, token::paper_1);
+    painter.fillRect(below.left(), below.top(), below.width(), 1, token::rule_1);
+    painter.setFont(fonts::small());
+    painter.setPen(token::ink_3);
+    painter.drawText(below.adjusted(10, 0, -10, 0), Qt::AlignVCenter | Qt::AlignLeft, hint_text());
+    painter.drawText(below.adjusted(10, 0, -10, 0), Qt::AlignVCenter | Qt::AlignRight,
+                     QStringLiteral("%1 / %2").arg(std::max(current_ + 1, 0)).arg(rows_.size()));
+    painter.setPen(token::rule_3);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void SuggestionPopup::mousePressEvent(QMouseEvent* event) {
+    const int index = top_ + (event->position().toPoint().y() - 1) / row;
+    event->accept();
+    if (index < static_cast<int>(rows_.size()) && on_chosen) on_chosen(index);
+}
+
+void SuggestionPopup::wheelEvent(QWheelEvent* event) {
+    const int most = std::max(0, static_cast<int>(rows_.size()) - most_rows);
+    top_ = std::clamp(top_ + (event->angleDelta().y() < 0 ? 1 : -1), 0, most);
+    event->accept();
+    update();
+}
+
+} // namespace desktop

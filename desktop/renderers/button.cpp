@@ -1,0 +1,32 @@
+// A push button of a form.
+#include "desktop/renderers/form_view.h"
+#include "desktop/renderers/hinted_button.h"
+#include "desktop/renderers/renderers.h"
+#include "desktop/theme/text.h"
+
+namespace desktop {
+
+QWidget* draw_button(host::TButton& button, FormView& view) {
+    auto* widget = new HintedButton(&view, ButtonLook::Plain);
+    view.claim(widget, button);
+    view.set_own_keys(button, [](const host::Key& key) { return key.code == host::KeyCode::Space; });
+    view.listen(button, [widget, &button] {
+        QString caption = qt(button.Caption.get());
+        QString hint = qt(button.KeyHint);
+        // A caption that already ends with its key ("登帐 F2") shows it once.
+        if (!hint.isEmpty() && caption.endsWith(" " + hint)) caption.chop(hint.size() + 1);
+        widget->set_look(button.Default ? ButtonLook::Primary : ButtonLook::Plain);
+        widget->set_drawing(button.Icon);
+        widget->set_texts(caption, hint);
+        widget->setToolTip(qt(button.Hint.get()));
+        widget->setEnabled(button.Enabled);
+        widget->setVisible(button.Visible);
+    });
+    QObject::connect(widget, &QPushButton::clicked, widget, [&button, &view] {
+        // Leaving a field may have been refused between the press and the release.
+        if (view.form() && view.move_focus(button)) view.run([&button] { button.Click(); });
+    });
+    return widget;
+}
+
+} // namespace desktop

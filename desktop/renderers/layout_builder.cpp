@@ -1,0 +1,125 @@
+// The bands of a form from top to bottom: tool bar, fields, the grid that takes the rest, buttons.
+#include "desktop/renderers/layout_builder.h"
+
+#include <QFrame>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "desktop/renderers/form_view.h"
+#include "desktop/renderers/layout_parts.h"
+#include "desktop/theme/tokens.h"
+
+namespace desktop {
+namespace {
+
+using host::LayoutNode;
+using Kind = LayoutNode::Kind;
+
+bool contains(const LayoutNode& node, Kind kind) {
+    if (node.kind == kind) return true;
+    return std::any_of(node.children.begin(), node.children.end(),
+                       [kind](const LayoutNode& child) { return contains(child, kind); });
+}
+
+// A band with a rule above it.
+class RuledBand : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter(this).fillRect(0, 0, width(), 1, token::rule_1);
+    }
+};
+
+QMargins block_margins(FormKind kind) {
+    switch (kind) {
+    case FormKind::Dialog: return {24, 18, 24, 18};
+    case FormKind::Document: return {16, 10, 16, 10};
+    case FormKind::List: return {12, 2, 12, 2};
+    }
+    return {};
+}
+
+// Consecutive rows of fields form one block, so their labels line up.
+void add_block(const std::vector<LayoutNode>& rows, QVBoxLayout& bands, FormView& view,
+               FormKind kind) {
+    if (rows.empty()) return;
+    auto* column = new QVBoxLayout;
+    column->setContentsMargins(block_margins(kind));
+    column->setSpacing(kind == FormKind::Dialog ? 12 : token::gap);
+    LayoutPlace place{view};
+    place.in_rows = true;
+    place.document = kind == FormKind::Document;
+    place.label_width = kind == FormKind::List ? 0 : shared_label_width(rows);
+    for (const LayoutNode& row : rows) add_node(row, *column, place);
+    bands.addLayout(column);
+}
+
+void add_ruled(const LayoutNode& node, QVBoxLayout& bands, FormView& view) {
+    auto* band = new RuledBand(&view);
+    const bool status = node.kind == Kind::StatusLine;
+    auto* row = new QHBoxLayout(band);
+    row->setContentsMargins(16, status ? 3 : 12, 16, status ? 3 : 12);
+    row->setSpacing(status ? 16 : token::gap);
+    LayoutPlace place{view};
+    place.status = status;
+    add_node(node, *row, place);
+    bands.addWidget(band);
+}
+
+void add_rest(const LayoutNode& node, QVBoxLayout& bands, FormView& view, FormKind kind) {
+    auto* box = new QVBoxLayout;
+    if (kind != FormKind::List) box->setContentsMargins(16, 0, 16, 4);
+    box->setSpacing(0);
+    add_node(node, *box, LayoutPlace{view});
+    bands.addLayout(box, 1);
+}
+
+} // namespace
+
+FormKind kind_of(const LayoutNode& root) {
+    if (contains(root, Kind::Buttons)) return FormKind::Dialog;
+    return contains(root, Kind::Title) ? FormKind::Document : FormKind::List;
+}
+
+void build_layout(const LayoutNode& root, FormView& view) {
+    auto* bands = new QVBoxLayout(&view);
+    bands->setContentsMargins(0, 0, 0, 0);
+    bands->setSpacing(0);
+    const FormKind kind = kind_of(root);
+    const std::vector<LayoutNode> single{root};
+    const auto& nodes = root.kind == Kind::Rows ? root.children : single;
+    std::vector<LayoutNode> block;
+    bool rest = false;
+    auto close_block = [&] {
+        add_block(block, *bands, view, kind);
+        block.clear();
+    };
+    for (const LayoutNode& node : nodes) {
+        switch (node.kind) {
+        case Kind::ToolBar:
+            close_block();
+            add_node(node, *bands, LayoutPlace{view});
+            break;
+        case Kind::Buttons:
+        case Kind::StatusLine:
+            close_block();
+            if (!rest) bands->addStretch(1);
+            rest = true;
+            add_ruled(node, *bands, view);
+            break;
+        case Kind::Rest:
+        case Kind::Splitter:
+            close_block();
+            rest = true;
+            add_rest(node, *bands, view, kind);
+            break;
+        default: block.push_back(node);
+        }
+    }
+    close_block();
+    if (!rest) bands->addStretch(1);
+}
+
+} // namespace desktop

@@ -1,0 +1,248 @@
+// Rows, columns, groups, fields and texts of a form.
+#include "desktop/renderers/layout_parts.h"
+
+#include <QBoxLayout>
+#include <QFrame>
+#include <QLabel>
+#include <QSplitter>
+
+#include "desktop/renderers/edit_sync.h"
+#include "desktop/renderers/form_view.h"
+#include "desktop/renderers/hint_line.h"
+#include "desktop/renderers/justified_label.h"
+#include "desktop/renderers/renderers.h"
+#include "desktop/renderers/splitter.h"
+#include "desktop/renderers/title_label.h"
+#include "desktop/renderers/tool_strip.h"
+#include "desktop/theme/fonts.h"
+#include "desktop/theme/text.h"
+#include "desktop/theme/tokens.h"
+
+namespace desktop {
+namespace {
+
+using host::LayoutNode;
+using Kind = LayoutNode::Kind;
+
+constexpr int between_fields = 16;
+
+QString label_of(const LayoutNode& node) {
+    if (!node.text.empty() || !node.control) return qt(node.text);
+    return qt(node.control->Caption.get());
+}
+
+bool is_segment(const LayoutNode& node) {
+    return node.kind == Kind::Control && dynamic_cast<host::TSpeedButton*>(node.control);
+}
+
+// The label that stands at the left edge of a row; empty when the row begins with something else.
+QString first_label(const LayoutNode& node) {
+    switch (node.kind) {
+    case Kind::Field: return label_of(node);
+    case Kind::Group: return qt(node.text);
+    case Kind::Columns: return node.children.empty() ? QString() : first_label(node.children[0]);
+    default: return {};
+    }
+}
+
+JustifiedLabel* new_label(const QString& text, const LayoutPlace& place) {
+    auto* label = new JustifiedLabel(text, &place.view);
+    if (place.status) label->setFont(fonts::small());
+    if (place.label_width > 0) label->setFixedWidth(place.label_width);
+    label->setFixedHeight(token::control);
+    return label;
+}
+
+void add_field(const LayoutNode& node, QBoxLayout& box, const LayoutPlace& place) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(token::gap);
+    if (const QString text = label_of(node); !text.isEmpty()) {
+        JustifiedLabel* label = new_label(text, place);
+        host::TControl* control = node.control;
+        place.view.listen(*control, [label, control] { label->setVisible(control->Visible); });
+        row->addWidget(label);
+    } else if (place.label_width > 0 && place.in_rows) {
+        row->addSpacing(place.label_width + token::gap);
+    }
+    QWidget* widget = draw_control(*node.control, place.view);
+    widget->setAccessibleName(qt(node.control->Name()));
+    give_width(node, *widget);
+    row->addWidget(widget, node.width < 0 ? 1 : 0);
+    if (place.in_rows && node.width >= 0) row->addStretch(1);
+    box.addLayout(row, node.width < 0 ? 1 : 0);
+}
+
+void add_control(const LayoutNode& node, QBoxLayout& box, const LayoutPlace& place) {
+    QWidget* widget = draw_control(*node.control, place.view);
+    give_width(node, *widget);
+    if (!place.in_rows) {
+        box.addWidget(widget, node.width < 0 ? 1 : 0, Qt::AlignVCenter);
+        return;
+    }
+    auto* row = new QHBoxLayout;
+    row->setSpacing(0);
+    const bool flag = dynamic_cast<host::TCheckBox*>(node.control);
+    if (flag && place.label_width > 0) row->addSpacing(place.label_width + token::gap);
+    row->addWidget(widget, node.width < 0 ? 1 : 0);
+    if (node.width >= 0) row->addStretch(1);
+    box.addLayout(row);
+}
+
+// Neighbouring speed buttons stand as one row of segments that share their borders.
+std::size_t add_segments(const std::vector<LayoutNode>& nodes, std::size_t at, QBoxLayout& box,
+                         const LayoutPlace& place) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(-1);
+    while (at < nodes.size() && is_segment(nodes[at])) {
+        QWidget* widget = draw_control(*nodes[at].control, place.view);
+        if (nodes[at].width > 0) widget->setFixedWidth(width_of_characters(nodes[at].width));
+        row->addWidget(widget);
+        ++at;
+    }
+    box.addLayout(row);
+    return at;
+}
+
+void add_columns(const LayoutNode& node, QBoxLayout& box, LayoutPlace place) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(between_fields);
+    const bool lined_up = place.in_rows;
+    place.in_rows = false;
+    for (std::size_t i = 0; i < node.children.size();) {
+        if (is_segment(node.children[i])) {
+            i = add_segments(node.children, i, *row, place);
+            continue;
+        }
+        LayoutPlace inner = place;
+        if (i > 0 || !lined_up) inner.label_width = 0;
+        add_node(node.children[i++], *row, inner);
+    }
+    const bool pushed = std::any_of(node.children.begin(), node.children.end(), [](auto& child) {
+        return child.kind == Kind::Spring || child.kind == Kind::Rest || child.width < 0;
+    });
+    if (lined_up && !pushed) row->addStretch(1);
+    box.addLayout(row);
+}
+
+void add_rows(const LayoutNode& node, QBoxLayout& box, LayoutPlace place) {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(token::gap);
+    place.label_width = shared_label_width(node.children);
+    place.in_rows = true;
+    for (const LayoutNode& child : node.children) add_node(child, *column, place);
+    box.addLayout(column, 0);
+}
+
+// A group is a label with its rows to the right, in line with the fields around it.
+void add_group(const LayoutNode& node, QBoxLayout& box, LayoutPlace place) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(token::gap);
+    row->addWidget(new_label(qt(node.text), place), 0, Qt::AlignTop);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(4);
+    place.label_width = shared_label_width(node.children);
+    for (const LayoutNode& child : node.children) add_node(child, *column, place);
+    row->addLayout(column, 1);
+    box.addLayout(row);
+}
+
+void add_text(const LayoutNode& node, QBoxLayout& box, const LayoutPlace& place) {
+    if (node.text.find('[') != std::string::npos) {
+        box.addWidget(new HintLine(qt(node.text), &place.view), 0, Qt::AlignVCenter);
+        return;
+    }
+    auto* label = new QLabel(qt(node.text), &place.view);
+    label->setTextFormat(Qt::PlainText);
+    label->setFont(fonts::small());
+    label->setWordWrap(place.in_rows);
+    QPalette ink = label->palette();
+    ink.setColor(QPalette::WindowText, place.in_rows ? token::ink_2 : token::ink_3);
+    label->setPalette(ink);
+    box.addWidget(label);
+}
+
+void add_rule(QBoxLayout& box, const LayoutPlace& place) {
+    auto* line = new QFrame(&place.view);
+    line->setAutoFillBackground(true);
+    QPalette ground = line->palette();
+    ground.setColor(QPalette::Window, token::rule_2);
+    line->setPalette(ground);
+    if (place.in_rows) line->setFixedHeight(1);
+    else line->setFixedSize(1, 20);
+    box.addWidget(line);
+}
+
+void add_splitter(const LayoutNode& node, QBoxLayout& box, LayoutPlace place) {
+    auto* splitter = new Splitter(node.horizontal ? Qt::Horizontal : Qt::Vertical, &place.view);
+    place.in_rows = false;
+    place.label_width = 0;
+    for (const LayoutNode& child : node.children) {
+        auto* part = new QWidget(splitter);
+        auto* column = new QVBoxLayout(part);
+        column->setContentsMargins(0, 0, 0, 0);
+        column->setSpacing(0);
+        add_node(child, *column, place);
+        splitter->addWidget(part);
+    }
+    splitter->share(node.share);
+    box.addWidget(splitter, 1);
+}
+
+void add_buttons(const LayoutNode& node, QBoxLayout& box, const LayoutPlace& place) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(token::gap);
+    row->addStretch(1);
+    for (const LayoutNode& child : node.children)
+        if (child.control) row->addWidget(draw_control(*child.control, place.view));
+    box.addLayout(row);
+}
+
+} // namespace
+
+int shared_label_width(const std::vector<LayoutNode>& rows) {
+    int width = 0;
+    for (const LayoutNode& row : rows) {
+        const QString text = first_label(row);
+        if (!text.isEmpty()) width = std::max(width, JustifiedLabel(text, nullptr).sizeHint().width());
+    }
+    return width == 0 ? 0 : std::max(width, 54);
+}
+
+void give_width(const LayoutNode& node, QWidget& widget) {
+    if (node.width < 0 || !node.control) return;
+    const bool link = dynamic_cast<host::TLinkEdit*>(node.control);
+    const bool edge = dynamic_cast<host::TDateEdit*>(node.control) ||
+                      dynamic_cast<host::TComboBox*>(node.control) || link;
+    const bool edit = edge || dynamic_cast<host::TEdit*>(node.control);
+    if (!edit) return;
+    int characters = node.width;
+    if (characters == 0) characters = edge ? 10 : dynamic_cast<host::TNumberEdit*>(node.control) ? 8 : 20;
+    const int width = width_of_characters(characters) + (edge ? 20 : 0);
+    if (link) widget.setMinimumWidth(width);
+    else widget.setFixedWidth(width);
+}
+
+void add_node(const LayoutNode& node, QBoxLayout& box, LayoutPlace place) {
+    switch (node.kind) {
+    case Kind::Rows: return add_rows(node, box, place);
+    case Kind::Columns: return add_columns(node, box, place);
+    case Kind::Group: return add_group(node, box, place);
+    case Kind::Field: return add_field(node, box, place);
+    case Kind::Control: return add_control(node, box, place);
+    case Kind::Text: return add_text(node, box, place);
+    case Kind::Rule: return add_rule(box, place);
+    case Kind::Splitter: return add_splitter(node, box, place);
+    case Kind::Buttons: return add_buttons(node, box, place);
+    case Kind::Spring: return box.addStretch(1);
+    case Kind::Space: return box.addSpacing(8 * std::max(node.width, 1));
+    case Kind::ToolBar: return box.addWidget(new ToolStrip(node.actions, place.view));
+    case Kind::Title:
+        return box.addWidget(new TitleLabel(qt(node.text), &place.view), 0, Qt::AlignHCenter);
+    case Kind::Rest: return box.addWidget(draw_control(*node.control, place.view), 1);
+    case Kind::StatusLine:
+        for (const LayoutNode& child : node.children) add_node(child, box, place);
+        return;
+    }
+}
+
+} // namespace desktop

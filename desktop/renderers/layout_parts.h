@@ -1,0 +1,30 @@
+// The pieces a form's layout is put together from.
+#pragma once
+
+#include "host/layout/layout.h"
+
+class QBoxLayout;
+class QFrame;
+class QWidget;
+
+namespace desktop {
+
+class FormView;
+
+// What a piece needs to know of the place it stands in.
+struct LayoutPlace {
+    FormView& view;
+    int label_width = 0;   // of the first label of a row; 0 natural
+    bool in_rows = false;  // directly below others, so labels line up
+    bool document = false;
+    bool status = false;   // in the quiet line at the bottom
+};
+
+// Adds the node and everything in it at the end of `box`.
+void add_node(const host::LayoutNode& node, QBoxLayout& box, LayoutPlace place);
+// The width that the first labels of these rows share.
+int shared_label_width(const std::vector<host::LayoutNode>& rows);
+// The natural width of a control's widget when the form gives none.
+void give_width(const host::LayoutNode& node, QWidget& widget);
+
+} // namespace desktop

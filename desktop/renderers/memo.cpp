@@ -1,0 +1,35 @@
+// Several lines of text.
+#include <QPlainTextEdit>
+
+#include "desktop/renderers/edit_sync.h"
+#include "desktop/renderers/form_view.h"
+#include "desktop/renderers/renderers.h"
+#include "desktop/theme/text.h"
+
+namespace desktop {
+
+QWidget* draw_memo(host::TMemo& memo, FormView& view) {
+    auto* widget = new QPlainTextEdit(&view);
+    widget->setTabChangesFocus(true);
+    view.claim(widget, memo);
+    view.set_own_keys(memo, [](const host::Key& key) {
+        using host::KeyCode;
+        return line_takes(key) || (!key.ctrl && (key.code == KeyCode::Enter ||
+               key.code == KeyCode::Up || key.code == KeyCode::Down ||
+               key.code == KeyCode::PageUp || key.code == KeyCode::PageDown));
+    });
+    view.listen(memo, [widget, &memo] {
+        const QString text = qt(memo.Text.get());
+        if (widget->toPlainText() != text) widget->setPlainText(text);
+        widget->setReadOnly(memo.ReadOnly);
+        widget->setEnabled(memo.Enabled);
+        widget->setVisible(memo.Visible);
+    });
+    QObject::connect(widget, &QPlainTextEdit::textChanged, widget, [widget, &memo, &view] {
+        const std::string typed = utf8(widget->toPlainText());
+        if (view.form() && typed != memo.Text.get()) view.run([&] { memo.enter_text(typed); });
+    });
+    return widget;
+}
+
+} // namespace desktop
