@@ -74,7 +74,7 @@ GridView::GridView(host::TDBGridEh& grid, FormView& form, QWidget* parent)
     form.listen(grid, [this] { refresh(); });
 }
 
-GridView::~GridView() { delete popup_; }
+GridView::~GridView() { delete popup_.data(); }
 
 void GridView::detach() {
     grid_ = nullptr;

@@ -1,6 +1,7 @@
 // The rows and columns of a grid: painting by a delegate, editing in place, mouse and keys.
 #pragma once
 
+#include <QPointer>
 #include <QTableView>
 
 #include "host/controls/grid.h"
@@ -68,7 +69,7 @@ private:
     GridModel* model_;
     GridHeader* header_;
     CellEditor* editor_;
-    SuggestionPopup* popup_;
+    QPointer<SuggestionPopup> popup_; // a child of the window while it shows
     std::vector<host::Suggestion> offered_;
     bool cursor_due_ = false, laying_out_ = false, laid_out_ = false;
     int placed_row_ = -1, placed_column_ = -1;

@@ -101,7 +101,7 @@ void FormView::sync_focus() {
     QWidget* now = QApplication::focusWidget();
     if (now == wanted || (now && wanted->isAncestorOf(now))) return;
     syncing_ = true;
-    wanted->setFocus(Qt::OtherFocusReason);
+    wanted->setFocus(Qt::TabFocusReason); // as the form does: all of its text is marked
     syncing_ = false;
 }
 
@@ -120,19 +120,29 @@ bool FormView::finish_key(const host::Key& key) {
     return true;
 }
 
-bool FormView::character_refused(Claim& claim, const host::Key& key) {
+// A character typed into an editor passes the control's own handler first, which may swallow it or
+// put another in its place. True when the editor must not see it as it came.
+bool FormView::character_taken(Claim& claim, QKeyEvent& event, char32_t character) {
     if (!claim.control->OnKeyPress) return false;
-    char32_t character = key.character;
+    const char32_t typed = character;
     host::TWinControl* control = claim.control;
+    QPointer<FormView> self(this);
     run([&] { control->OnKeyPress(character); });
-    return character == 0;
+    if (!self || character == typed) return !self;
+    if (character == 0) return true;
+    QWidget* focus = QApplication::focusWidget();
+    QKeyEvent other(event.type(), 0, Qt::NoModifier, QString::fromUcs4(&character, 1));
+    replaying_ = true;
+    if (focus) QCoreApplication::sendEvent(focus, &other);
+    replaying_ = false;
+    return true;
 }
 
 bool FormView::key_pressed(Claim& claim, QKeyEvent& event) {
     const host::Key key = to_key(event);
     if (key.code == host::KeyCode::None || (key.alt && is_plain_character(key))) return false;
     if (claim.own_keys && claim.own_keys(key))
-        return is_plain_character(key) && character_refused(claim, key);
+        return is_plain_character(key) && character_taken(claim, event, key.character);
     QPointer<FormView> self(this);
     if (send_key(key)) return true;
     return self && finish_key(key);
@@ -155,7 +165,7 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
         }
         break;
     case QEvent::KeyPress:
-        if (claim && key_pressed(*claim, *static_cast<QKeyEvent*>(event))) {
+        if (claim && !replaying_ && key_pressed(*claim, *static_cast<QKeyEvent*>(event))) {
             event->accept();
             return true;
         }

@@ -70,7 +70,7 @@ private:
     };
     Claim* claim_of(const host::TControl* control);
     bool key_pressed(Claim& claim, QKeyEvent& event);
-    bool character_refused(Claim& claim, const host::Key& key);
+    bool character_taken(Claim& claim, QKeyEvent& event, char32_t character);
     bool finish_key(const host::Key& key);
 
     host::TForm* form_;
@@ -78,7 +78,7 @@ private:
     QHash<QObject*, host::TWinControl*> control_of_;
     std::vector<std::pair<host::TComponent*, int>> handles_;
     std::vector<std::function<void()>> release_actions_, after_actions_;
-    bool syncing_ = false;
+    bool syncing_ = false, replaying_ = false;
 };
 
 } // namespace desktop

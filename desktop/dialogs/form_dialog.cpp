@@ -1,0 +1,64 @@
+// Runs a modal form until it has its result.
+#include "desktop/dialogs/form_dialog.h"
+
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "desktop/renderers/edit_sync.h"
+#include "desktop/renderers/form_view.h"
+#include "desktop/renderers/layout_builder.h"
+#include "desktop/theme/text.h"
+#include "host/forms/form.h"
+
+namespace desktop {
+namespace {
+
+// "试算平衡表" opens "查询条件": the caption of a dialog is its form's own.
+QString caption_of(const host::TForm& form) { return qt(form.Caption.get()); }
+
+} // namespace
+
+FormDialog::FormDialog(host::TForm& form, QWidget* over)
+    : PanelDialog(caption_of(form), over), view_(new FormView(form, this)) {
+    setObjectName("form-dialog");
+    body()->addWidget(view_, 1);
+    const int least = form.PreferredWidth > 0 ? width_of_characters(form.PreferredWidth) : 360;
+    // A document or list shown modally needs the room of a window.
+    const bool wide = kind_of(form.layout) != FormKind::Dialog;
+    setMinimumSize(wide ? std::max(least, 960) : least, wide ? 600 : 0);
+    view_->listen(form, [this] { follow(); });
+}
+
+host::TForm* FormDialog::form() const { return view_->form(); }
+
+void FormDialog::follow() {
+    const host::TForm* form = view_->form();
+    if (!form) return;
+    if (form->ModalResult.get() != 0 || form->Closed()) done(form->ModalResult);
+}
+
+void FormDialog::show_form() {
+    run();
+    view_->release();
+}
+
+void FormDialog::forget() {
+    view_->release();
+    if (isVisible()) done(2);
+}
+
+void FormDialog::leave() {
+    if (!view_->form()) return done(2);
+    view_->run([this] { view_->form()->Close(); });
+    follow();
+}
+
+void FormDialog::showEvent(QShowEvent* event) {
+    PanelDialog::showEvent(event);
+    QTimer::singleShot(0, view_, [this] {
+        view_->setFocus();
+        view_->sync_focus();
+    });
+}
+
+} // namespace desktop

@@ -1,0 +1,101 @@
+// The statements behind the overview.
+#include "desktop/overview/figures.h"
+
+#include "host/contract/U_dataop.h"
+#include "host/dataset/client_dataset.h"
+#include "host/values/errors.h"
+#include "host/values/period.h"
+#include "host/values/sql_text.h"
+
+namespace desktop {
+namespace {
+
+using host::TClientDataSet;
+
+// The overview belongs to no function of the menu.
+const std::string no_function = "0";
+
+void for_each_row(const std::string& select, const std::function<void(TClientDataSet&)>& take) {
+    TClientDataSet rows;
+    host::opensql(rows, no_function, select);
+    for (rows.First(); !rows.Eof(); rows.Next()) take(rows);
+}
+
+void read_period(Figures& figures) {
+    for_each_row("SELECT ID,PARAM FROM D6600 WHERE ID IN (1,2)", [&](TClientDataSet& row) {
+        const std::string value = row.FieldByName("PARAM").AsText();
+        (row.FieldByName("ID").AsInteger() == 1 ? figures.first_period : figures.period) = value;
+    });
+}
+
+void read_vouchers(Figures& figures) {
+    for_each_row("SELECT COUNT(*) AS N,SUM(CASE WHEN T=0 THEN 1 ELSE 0 END) AS U,"
+                 "SUM(CASE WHEN T=1 AND D=0 THEN 1 ELSE 0 END) AS P,"
+                 "SUM(CASE WHEN T_SY=1 THEN 1 ELSE 0 END) AS S FROM D6601 WHERE PZQJ=" +
+                     host::quoted(figures.period),
+                 [&](TClientDataSet& row) {
+                     figures.vouchers = static_cast<int>(row.FieldByName("N").AsInteger());
+                     figures.unaudited = static_cast<int>(row.FieldByName("U").AsInteger());
+                     figures.unposted = static_cast<int>(row.FieldByName("P").AsInteger());
+                     figures.carried_forward = row.FieldByName("S").AsInteger() > 0;
+                 });
+    for_each_row("SELECT PZZ,COUNT(*) AS N,MAX(PZZ_H) AS M FROM D6601 WHERE PZQJ=" +
+                     host::quoted(figures.period) + " GROUP BY PZZ ORDER BY PZZ",
+                 [&](TClientDataSet& row) {
+                     if (row.FieldByName("N").AsInteger() < row.FieldByName("M").AsInteger())
+                         figures.gaps.push_back(row.FieldByName("PZZ").AsText());
+                 });
+}
+
+// Cash and bank accounts are those from 1001 to 1009 and what is below them.
+void read_money(Figures& figures, const host::Period& period) {
+    for_each_row(
+        "SELECT V.KM_ID,V.KM_NAME,ISNULL(B.J,0)-ISNULL(B.D,0) AS O,ISNULL(M.J,0) AS I,"
+        "ISNULL(M.D,0) AS E FROM V6801 V LEFT JOIN D6602 B ON B.KM_ID=V.KM_ID AND B.INX=1 AND B.QJ=" +
+            host::quoted(period.previous().to_text()) +
+            " LEFT JOIN (SELECT A.KM_ID,SUM(A.J) AS J,SUM(A.D) AS D FROM D6601A A INNER JOIN D6601 H"
+            " ON A.NOID=H.NOID WHERE H.PZQJ=" + host::quoted(figures.period) +
+            " GROUP BY A.KM_ID) M ON M.KM_ID=V.KM_ID"
+            " WHERE V.ISEND=1 AND V.KM_ID>='1001' AND V.KM_ID<'1010' ORDER BY V.KM_ID",
+        [&](TClientDataSet& row) {
+            figures.money.push_back({row.FieldByName("KM_NAME").AsText(),
+                                     row.FieldByName("O").AsAmount(),
+                                     row.FieldByName("I").AsAmount(),
+                                     row.FieldByName("E").AsAmount()});
+        });
+}
+
+// Profit and loss accounts are category 5; the vouchers that carry them forward undo them.
+void read_months(Figures& figures, const host::Period& period) {
+    for_each_row("SELECT H.PZQJ,SUM(A.D-A.J) AS P FROM D6601A A INNER JOIN D6601 H ON A.NOID=H.NOID"
+                 " INNER JOIN D6801 K ON K.KM_ID=A.KM_ID WHERE K.KM_FL=5 AND H.T_SY=0 AND H.PZQJ>=" +
+                     host::quoted(host::Period::of(period.year(), 1).to_text()) +
+                     " AND H.PZQJ<=" + host::quoted(figures.period) +
+                     " GROUP BY H.PZQJ ORDER BY H.PZQJ",
+                 [&](TClientDataSet& row) {
+                     figures.months.push_back({row.FieldByName("PZQJ").AsText(),
+                                               row.FieldByName("P").AsAmount()});
+                 });
+}
+
+} // namespace
+
+Figures read_figures() {
+    Figures figures;
+    try {
+        read_period(figures);
+        const auto period = host::Period::parse(figures.period);
+        if (!period) {
+            figures.period.clear();
+            return figures;
+        }
+        read_vouchers(figures);
+        read_money(figures, *period);
+        read_months(figures, *period);
+    } catch (const host::DataError& error) {
+        figures.trouble = error.what();
+    }
+    return figures;
+}
+
+} // namespace desktop

@@ -1,0 +1,36 @@
+// The state of the books as the overview shows it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/values/amount.h"
+
+namespace desktop {
+
+struct MoneyAccount {
+    std::string name;
+    host::Amount opening, in, out;
+    host::Amount closing() const { return opening + in - out; }
+};
+
+struct MonthResult {
+    std::string period;   // "2016-06"
+    host::Amount profit;  // income less expense of the month, before it is carried forward
+};
+
+// Vouchers count whether posted or not, so the figures are of this moment.
+struct Figures {
+    std::string period, first_period;      // "" when the books are not set up
+    int vouchers = 0, unaudited = 0, unposted = 0; // of the period; unposted: audited, not posted
+    bool carried_forward = false;          // profit and loss went into the result of the year
+    std::vector<std::string> gaps;         // voucher words whose numbers are not continuous
+    std::vector<MoneyAccount> money;       // leaf accounts of cash and bank
+    std::vector<MonthResult> months;       // of the period's year
+    std::string trouble;                   // why there are no figures; "" when there are
+};
+
+// Reads the figures with a few statements; never throws for an error of the database.
+Figures read_figures();
+
+} // namespace desktop

@@ -1,0 +1,85 @@
+// The columns of monthly results, painted by hand.
+#include <QPainter>
+
+#include "desktop/overview/card.h"
+#include "desktop/theme/amount_text.h"
+#include "desktop/theme/fonts.h"
+#include "desktop/theme/text.h"
+#include "desktop/theme/tokens.h"
+
+namespace desktop {
+namespace {
+
+constexpr int column_width = 36, months = 12;
+
+// The next of 1, 2, 2.5, 5 times a power of ten: the height of the plot in whole yuan.
+std::int64_t nice_above(std::int64_t yuan) {
+    std::int64_t unit = 1;
+    while (unit * 10 <= yuan) unit *= 10;
+    for (const std::int64_t tenths : {10, 20, 25, 50, 100})
+        if (unit * tenths / 10 >= yuan && unit * tenths % 10 == 0) return unit * tenths / 10;
+    return unit * 10;
+}
+
+std::int64_t whole(host::Amount amount) {
+    return amount.rounded(0).units() / host::Amount::scale;
+}
+
+} // namespace
+
+ProfitCard::ProfitCard(QWidget* parent) : Card(QStringLiteral("本年利润"), parent) {}
+
+QString ProfitCard::hint() const { return QStringLiteral("按月，元，含未登帐凭证"); }
+
+void ProfitCard::paint_body(QPainter& painter, const QRect& body) {
+    if (figures().months.empty()) {
+        painter.setFont(fonts::body());
+        painter.setPen(token::ink_3);
+        painter.drawText(body, Qt::AlignCenter, QStringLiteral("本年还没有损益凭证"));
+        return;
+    }
+    std::int64_t high = 0, low = 0;
+    for (const auto& month : figures().months) {
+        high = std::max(high, whole(month.profit));
+        low = std::min(low, whole(month.profit));
+    }
+    if (high > 0) high = nice_above(high);
+    if (low < 0) low = -nice_above(-low);
+    if (high == low) high = 1;
+    const QRect plot = body.adjusted(32, 30, -32, -34);
+    auto y_of = [&](std::int64_t yuan) {
+        return plot.bottom() - static_cast<int>((yuan - low) * plot.height() / (high - low));
+    };
+    painter.fillRect(plot.x(), y_of(high), plot.width(), 1, token::rule_1);
+    if (low < 0) painter.fillRect(plot.x(), y_of(low), plot.width(), 1, token::rule_1);
+    const int step = plot.width() / months;
+    for (const auto& month : figures().months) {
+        const int number = qt(month.period).mid(5).toInt();
+        const std::int64_t yuan = whole(month.profit);
+        const int x = plot.x() + (number - 1) * step + (step - column_width) / 2;
+        const int top = std::min(y_of(yuan), y_of(0)), bottom = std::max(y_of(yuan), y_of(0));
+        const QRect bar(x, top, column_width, std::max(bottom - top, 1));
+        const bool open = month.period == figures().period && !figures().carried_forward;
+        const QColor ink = yuan < 0 ? token::cinnabar_1 : token::indigo_1;
+        // A month that is not closed is outlined: its figure still moves.
+        painter.fillRect(bar, open ? (yuan < 0 ? token::cinnabar_3 : token::indigo_4) : ink);
+        if (open) {
+            painter.setPen(ink);
+            painter.setBrush(Qt::NoBrush);
+            painter.drawRect(bar.adjusted(0, 0, -1, -1));
+        }
+        painter.setFont(fonts::small());
+        painter.setPen(yuan < 0 ? token::cinnabar_1 : token::ink_1);
+        const QString text = QString::number(yuan);
+        const int wide = amount_width(text, painter.fontMetrics());
+        paint_amount_from(painter, bar.center().x() - wide / 2,
+                          yuan < 0 ? bottom + 16 : top - 6, text);
+        painter.setPen(token::ink_3);
+        painter.drawText(QRect(x - 40, body.bottom() - 28, column_width + 80, 20), Qt::AlignCenter,
+                         open ? QStringLiteral("%1月（未结转）").arg(number)
+                              : QStringLiteral("%1月").arg(number));
+    }
+    painter.fillRect(plot.x(), y_of(0), plot.width(), 1, token::rule_3);
+}
+
+} // namespace desktop
