@@ -66,7 +66,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override {
         const QWidget* at = focusWidget();
         const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-        if (auto* button = qobject_cast<QPushButton*>(at ? focusWidget() : nullptr); enter && button)
+        if (auto* button = qobject_cast<QPushButton*>(at ? focusWidget() : nullptr);
+            enter && button)
             return button->click();
         for (const auto& [key, answer] : keys_)
             if (key == event->key()) return done(answer);

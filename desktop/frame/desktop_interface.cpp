@@ -27,8 +27,10 @@ QString title_of_active() {
 
 // Below the current cell of a grid, below any other control.
 QPoint place_below(QWidget* widget) {
-    if (auto* table = widget->findChild<QTableView*>("grid"); table || (table = qobject_cast<QTableView*>(widget)))
-        return table->viewport()->mapToGlobal(table->visualRect(table->currentIndex()).bottomLeft());
+    if (auto* table = widget->findChild<QTableView*>("grid");
+        table || (table = qobject_cast<QTableView*>(widget)))
+        return table->viewport()->mapToGlobal(
+            table->visualRect(table->currentIndex()).bottomLeft());
     return widget->mapToGlobal(QPoint(0, widget->height()));
 }
 

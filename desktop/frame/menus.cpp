@@ -56,7 +56,8 @@ void add_edit_menu(QMenuBar& bar, MainWindow& window) {
         {"新增", "Insert"}, {"保存", "F2"},      {"筛选", "F3"},     {"刷新", "F5"},
         {"打印", "Ctrl+P"}, {"导出", "Ctrl+E"}, {"复制为文本", "Ctrl+C"}};
     for (const auto& [name, key] : commands)
-        add(*menu, qt(name) + "\t" + key, {}, [&window, key = std::string(key)] { press(window, key); });
+        add(*menu, qt(name) + "\t" + key, {},
+            [&window, key = std::string(key)] { press(window, key); });
 }
 
 void add_window_menu(QMenuBar& bar, MainWindow& window) {

@@ -28,7 +28,9 @@ void press(const std::string& name) {
         key = keys[0].key();
         modifiers = keys[0].keyboardModifiers();
     }
-    const QString typed = text.size() == 1 ? text : name == "Space" ? QStringLiteral(" ") : QString();
+    const QString typed = text.size() == 1  ? text
+                          : name == "Space" ? QStringLiteral(" ")
+                                            : QString();
     QKeyEvent shortcut(QEvent::ShortcutOverride, key, modifiers, typed);
     QApplication::sendEvent(target, &shortcut);
     QKeyEvent down(QEvent::KeyPress, key, modifiers, typed);
@@ -54,7 +56,8 @@ QImage snapshot(QWidget& window) {
     QPainter painter(&picture);
     for (QWidget* over : QApplication::topLevelWidgets())
         if (over != &window && over->isVisible())
-            painter.drawPixmap(over->geometry().topLeft() - window.geometry().topLeft(), over->grab());
+            painter.drawPixmap(over->geometry().topLeft() - window.geometry().topLeft(),
+                               over->grab());
     return picture;
 }
 

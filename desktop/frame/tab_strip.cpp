@@ -74,7 +74,8 @@ void TabStrip::paintEvent(QPaintEvent*) {
         painter.drawText(QRect(x, tab.top() + 1, room, tab.height() - 1),
                          Qt::AlignVCenter | Qt::AlignLeft,
                          metrics.elidedText(tabText(i), Qt::ElideRight, room));
-        if (closable(i)) icons::paint(painter, "x", cross(i).adjusted(-2, 1, -4, 0), 12, token::ink_3);
+        if (closable(i))
+            icons::paint(painter, "x", cross(i).adjusted(-2, 1, -4, 0), 12, token::ink_3);
     }
 }
 

@@ -26,7 +26,9 @@ SuggestionPopup::SuggestionPopup() : QFrame(nullptr) {
     hide();
 }
 
-int SuggestionPopup::shown() const { return std::min<int>(static_cast<int>(rows_.size()), most_rows); }
+int SuggestionPopup::shown() const {
+    return std::min<int>(static_cast<int>(rows_.size()), most_rows);
+}
 
 int SuggestionPopup::width_of(std::size_t column) const {
     const QFontMetrics metrics(fonts::body());
@@ -122,7 +124,8 @@ void SuggestionPopup::paint_match(QPainter& painter, const QRect& box, const QSt
         return;
     }
     int x = box.x();
-    const QString parts[] = {text.left(at), text.mid(at, typed_.size()), text.mid(at + typed_.size())};
+    const QString parts[] = {text.left(at), text.mid(at, typed_.size()),
+                             text.mid(at + typed_.size())};
     for (int i = 0; i < 3; ++i) {
         painter.setFont(fonts::body(i == 1));
         painter.setPen(i == 1 && !current ? token::indigo_1 : ink);

@@ -37,7 +37,8 @@ public:
     }
 
 private:
-    static void paint_area(QPainter& painter, const QRect& row, const QModelIndex& index, bool open) {
+    static void paint_area(QPainter& painter, const QRect& row, const QModelIndex& index,
+                           bool open) {
         icons::paint(painter, open ? "chevron-down" : "chevron-right",
                      QRect(8, row.y(), 12, row.height()), 12, token::ink_3);
         icons::paint(painter, utf8(index.data(Icon).toString()),
@@ -160,9 +161,10 @@ void NavigationPanel::filter(const QString& typed) {
         bool any = false;
         for (int j = 0; j < group->childCount(); ++j) {
             QTreeWidgetItem* item = group->child(j);
-            const bool match = wanted.isEmpty() || item->text(0).contains(wanted) ||
-                               item->data(0, Code).toString().startsWith(wanted) ||
-                               item->data(0, Pinyin).toString().contains(wanted, Qt::CaseInsensitive);
+            const bool match =
+                wanted.isEmpty() || item->text(0).contains(wanted) ||
+                item->data(0, Code).toString().startsWith(wanted) ||
+                item->data(0, Pinyin).toString().contains(wanted, Qt::CaseInsensitive);
             item->setHidden(!match);
             any = any || match;
             if (match && !first && !wanted.isEmpty()) first = item;

@@ -22,8 +22,9 @@ void paint_line(QPainter& painter, const QRect& line, const MoneyAccount& accoun
     painter.setFont(fonts::body());
     painter.setPen(token::ink_1);
     const QRect name = line.adjusted(0, 0, -4 * column(line, 0).width(), 0);
-    painter.drawText(name, Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(qt(account.name), Qt::ElideRight, name.width()));
+    painter.drawText(
+        name, Qt::AlignVCenter,
+        painter.fontMetrics().elidedText(qt(account.name), Qt::ElideRight, name.width()));
     const host::Amount amounts[] = {account.closing(), account.out, account.in, account.opening};
     for (int i = 0; i < 4; ++i) {
         painter.setFont(fonts::body(i == 0));

@@ -51,10 +51,13 @@ void read_vouchers(Figures& figures) {
 void read_money(Figures& figures, const host::Period& period) {
     for_each_row(
         "SELECT V.KM_ID,V.KM_NAME,ISNULL(B.J,0)-ISNULL(B.D,0) AS O,ISNULL(M.J,0) AS I,"
-        "ISNULL(M.D,0) AS E FROM V6801 V LEFT JOIN D6602 B ON B.KM_ID=V.KM_ID AND B.INX=1 AND B.QJ=" +
+        "ISNULL(M.D,0) AS E FROM V6801 V LEFT JOIN D6602 B ON B.KM_ID=V.KM_ID AND B.INX=1 AND "
+        "B.QJ=" +
             host::quoted(period.previous().to_text()) +
-            " LEFT JOIN (SELECT A.KM_ID,SUM(A.J) AS J,SUM(A.D) AS D FROM D6601A A INNER JOIN D6601 H"
-            " ON A.NOID=H.NOID WHERE H.PZQJ=" + host::quoted(figures.period) +
+            " LEFT JOIN (SELECT A.KM_ID,SUM(A.J) AS J,SUM(A.D) AS D FROM D6601A A INNER JOIN D6601 "
+            "H"
+            " ON A.NOID=H.NOID WHERE H.PZQJ=" +
+            host::quoted(figures.period) +
             " GROUP BY A.KM_ID) M ON M.KM_ID=V.KM_ID"
             " WHERE V.ISEND=1 AND V.KM_ID>='1001' AND V.KM_ID<'1010' ORDER BY V.KM_ID",
         [&](TClientDataSet& row) {
@@ -68,10 +71,10 @@ void read_money(Figures& figures, const host::Period& period) {
 // Profit and loss accounts are category 5; the vouchers that carry them forward undo them.
 void read_months(Figures& figures, const host::Period& period) {
     for_each_row("SELECT H.PZQJ,SUM(A.D-A.J) AS P FROM D6601A A INNER JOIN D6601 H ON A.NOID=H.NOID"
-                 " INNER JOIN D6801 K ON K.KM_ID=A.KM_ID WHERE K.KM_FL=5 AND H.T_SY=0 AND H.PZQJ>=" +
-                     host::quoted(host::Period::of(period.year(), 1).to_text()) +
-                     " AND H.PZQJ<=" + host::quoted(figures.period) +
-                     " GROUP BY H.PZQJ ORDER BY H.PZQJ",
+                 " INNER JOIN D6801 K ON K.KM_ID=A.KM_ID WHERE K.KM_FL=5 AND H.T_SY=0 AND "
+                 "H.PZQJ>=" +
+                     host::quoted(host::Period::of(period.year(), 1).to_text()) + " AND H.PZQJ<=" +
+                     host::quoted(figures.period) + " GROUP BY H.PZQJ ORDER BY H.PZQJ",
                  [&](TClientDataSet& row) {
                      figures.months.push_back({row.FieldByName("PZQJ").AsText(),
                                                row.FieldByName("P").AsAmount()});

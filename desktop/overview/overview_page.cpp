@@ -72,9 +72,10 @@ void OverviewPage::paintEvent(QPaintEvent*) {
     const QRect line(16, 0, width() - 32, head);
     painter.setFont(fonts::key_figure());
     painter.setPen(token::ink_1);
-    const QString title = period.isEmpty()
-                              ? QStringLiteral("没有建帐")
-                              : QStringLiteral("%1年%2月").arg(period.left(4)).arg(period.mid(5).toInt());
+    const QString title =
+        period.isEmpty()
+            ? QStringLiteral("没有建帐")
+            : QStringLiteral("%1年%2月").arg(period.left(4)).arg(period.mid(5).toInt());
     painter.drawText(line, Qt::AlignVCenter, title);
     const int used = painter.fontMetrics().horizontalAdvance(title) + 16;
     painter.setFont(fonts::small());

@@ -70,7 +70,8 @@ void TodoCard::paint_body(QPainter& painter, const QRect& body) {
         painter.drawText(line.adjusted(42, 0, -16, 0), Qt::AlignVCenter, item.what);
         painter.setFont(fonts::small());
         painter.setPen(item.detail.startsWith('-') ? token::cinnabar_1 : token::ink_2);
-        painter.drawText(line.adjusted(0, 0, -52, 0), Qt::AlignVCenter | Qt::AlignRight, item.detail);
+        painter.drawText(line.adjusted(0, 0, -52, 0), Qt::AlignVCenter | Qt::AlignRight,
+                         item.detail);
         if (item.code != 0) {
             painter.setFont(fonts::tiny());
             painter.setPen(token::ink_3);

@@ -16,7 +16,8 @@ bool line_takes(const host::Key& key) {
     if (key.alt) return false;
     switch (key.code) {
     case KeyCode::Character:
-        return !key.ctrl || QStringLiteral("ACVXZY").contains(QChar(static_cast<char16_t>(key.character)));
+        return !key.ctrl ||
+               QStringLiteral("ACVXZY").contains(QChar(static_cast<char16_t>(key.character)));
     case KeyCode::Space:
     case KeyCode::Left:
     case KeyCode::Right:

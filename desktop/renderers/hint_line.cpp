@@ -47,7 +47,8 @@ void HintLine::paintEvent(QPaintEvent*) {
             painter.drawRoundedRect(QRectF(box).adjusted(0.5, 1.5, -0.5, -1.5), 3, 3);
         }
         painter.setPen(run.key ? token::ink_2 : token::ink_3);
-        painter.drawText(box, run.key ? Qt::AlignCenter : Qt::AlignVCenter | Qt::AlignLeft, run.text);
+        painter.drawText(box, run.key ? Qt::AlignCenter : Qt::AlignVCenter | Qt::AlignLeft,
+                         run.text);
         x += run.width;
     }
 }

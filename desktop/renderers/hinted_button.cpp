@@ -64,7 +64,9 @@ void HintedButton::paint_ground(QPainter& painter) {
     const bool pressed = isDown() || (isCheckable() && isChecked());
     QColor ground = token::paper_0, border = token::rule_3;
     if (is_primary()) {
-        ground = !isEnabled() ? token::indigo_5 : pressed ? QColor(0x16, 0x3C, 0x6D) : token::indigo_1;
+        ground = !isEnabled() ? token::indigo_5
+                 : pressed    ? QColor(0x16, 0x3C, 0x6D)
+                              : token::indigo_1;
         border = ground;
     } else if (is_tool()) {
         const bool lit = isEnabled() && (pressed || underMouse());

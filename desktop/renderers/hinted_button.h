@@ -29,7 +29,9 @@ protected:
 
 private:
     bool is_tool() const { return look_ == ButtonLook::Tool || look_ == ButtonLook::PrimaryTool; }
-    bool is_primary() const { return look_ == ButtonLook::Primary || look_ == ButtonLook::PrimaryTool; }
+    bool is_primary() const {
+        return look_ == ButtonLook::Primary || look_ == ButtonLook::PrimaryTool;
+    }
     void paint_ground(QPainter& painter);
     ButtonLook look_;
     Detail detail_ = Detail::Full;

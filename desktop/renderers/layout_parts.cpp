@@ -203,7 +203,8 @@ int shared_label_width(const std::vector<LayoutNode>& rows) {
     int width = 0;
     for (const LayoutNode& row : rows) {
         const QString text = first_label(row);
-        if (!text.isEmpty()) width = std::max(width, JustifiedLabel(text, nullptr).sizeHint().width());
+        if (!text.isEmpty())
+            width = std::max(width, JustifiedLabel(text, nullptr).sizeHint().width());
     }
     return width == 0 ? 0 : std::max(width, 54);
 }
@@ -216,7 +217,8 @@ void give_width(const LayoutNode& node, QWidget& widget) {
     const bool edit = edge || dynamic_cast<host::TEdit*>(node.control);
     if (!edit) return;
     int characters = node.width;
-    if (characters == 0) characters = edge ? 10 : dynamic_cast<host::TNumberEdit*>(node.control) ? 8 : 20;
+    if (characters == 0)
+        characters = edge ? 10 : dynamic_cast<host::TNumberEdit*>(node.control) ? 8 : 20;
     const int width = width_of_characters(characters) + (edge ? 20 : 0);
     if (link) widget.setMinimumWidth(width);
     else widget.setFixedWidth(width);

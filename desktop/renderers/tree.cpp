@@ -54,7 +54,8 @@ public:
     }
 
 protected:
-    void drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const override {
+    void drawBranches(QPainter* painter, const QRect& rect,
+                      const QModelIndex& index) const override {
         if (selectionModel()->isSelected(index))
             painter->fillRect(rect, hasFocus() ? token::indigo_3 : token::selected_quiet);
         if (!model()->hasChildren(index)) return;
@@ -68,7 +69,8 @@ struct TreeSync {
     host::TTreeView* tree;
     std::unordered_map<const host::TTreeNode*, QTreeWidgetItem*> items;
 
-    void add(const host::TTreeNode& node, QTreeWidgetItem* parent, const std::set<QString>& folded) {
+    void add(const host::TTreeNode& node, QTreeWidgetItem* parent,
+             const std::set<QString>& folded) {
         auto* item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(widget);
         item->setText(0, qt(node.Text));
         item->setData(0, Qt::UserRole, QVariant::fromValue(reinterpret_cast<quintptr>(&node)));

@@ -29,7 +29,8 @@ QByteArray recoloured(const QString& name, int size, const QColor& color) {
 
 QPixmap pixmap(const std::string& name, int size, const QColor& color, qreal ratio) {
     static QHash<QString, QPixmap> drawn;
-    const QString key = qt(name) + QStringLiteral("|%1|%2|%3").arg(size).arg(color.rgba()).arg(ratio);
+    const QString key =
+        qt(name) + QStringLiteral("|%1|%2|%3").arg(size).arg(color.rgba()).arg(ratio);
     if (auto found = drawn.constFind(key); found != drawn.constEnd()) return *found;
     QPixmap result;
     if (const QByteArray svg = recoloured(qt(name), size, color); !svg.isEmpty()) {
