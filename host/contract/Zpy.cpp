@@ -20,33 +20,25 @@ struct Reading {
     std::string_view initials;
 };
 constexpr std::array readings = {
-    Reading{U"银行", "YH"},   Reading{U"行", "H"},      Reading{U"行政", "XZ"},
-    Reading{U"发行", "FX"},   Reading{U"执行", "ZX"},   Reading{U"进行", "JX"},
-    Reading{U"行业", "HY"},   Reading{U"行为", "XW"},   Reading{U"行驶", "XS"},
-    Reading{U"运行", "YX"},   Reading{U"履行", "LX"},   Reading{U"自行", "ZX"},
-    Reading{U"重", "Z"},      Reading{U"重分类", "CFL"}, Reading{U"重新", "CX"},
-    Reading{U"重估", "CG"},   Reading{U"重组", "CZ"},   Reading{U"重置", "CZ"},
-    Reading{U"重复", "CF"},   Reading{U"长", "C"},      Reading{U"增长", "ZZ"},
+    // A firm or a line of business is háng; to do something is xíng.
+    Reading{U"行", "H"},      Reading{U"行政", "XZ"},   Reading{U"发行", "FX"},
+    Reading{U"执行", "ZX"},   Reading{U"进行", "JX"},   Reading{U"行为", "XW"},
+    Reading{U"行驶", "XS"},   Reading{U"运行", "YX"},   Reading{U"履行", "LX"},
+    Reading{U"自行", "ZX"},   Reading{U"另行", "LX"},   Reading{U"平行", "PX"},
+    Reading{U"行程", "XC"},   Reading{U"行李", "XL"},   Reading{U"实行", "SX"},
+    // Once more is chóng; heavy and important are zhòng, as most.
+    Reading{U"重分类", "CFL"}, Reading{U"重新", "CX"},  Reading{U"重估", "CG"},
+    Reading{U"重组", "CZ"},   Reading{U"重置", "CZ"},   Reading{U"重复", "CF"},
+    Reading{U"重述", "CS"},   Reading{U"重庆", "CQ"},   Reading{U"重建", "CJ"},
+    // Long is cháng; to grow and the head of something are zhǎng.
+    Reading{U"长", "C"},      Reading{U"增长", "ZZ"},   Reading{U"成长", "CZ"},
+    Reading{U"董事长", "DSZ"}, Reading{U"厂长", "CZ"},  Reading{U"店长", "DZ"},
+    // To adjust is tiáo; to move something elsewhere is diào.
     Reading{U"调", "T"},      Reading{U"调拨", "DB"},   Reading{U"调出", "DC"},
     Reading{U"调入", "DR"},   Reading{U"调动", "DD"},   Reading{U"调查", "DC"},
-    Reading{U"处", "C"},      Reading{U"差", "C"},      Reading{U"出差", "CC"},
-    Reading{U"差旅", "CL"},   Reading{U"应", "Y"},      Reading{U"还", "H"},
-    Reading{U"率", "L"},      Reading{U"盘", "P"},      Reading{U"乘", "C"},
-    Reading{U"会计", "KJ"},   Reading{U"会", "H"},      Reading{U"折", "Z"},
-    Reading{U"单", "D"},      Reading{U"给", "G"},      Reading{U"供给", "GJ"},
-    Reading{U"给付", "JF"},   Reading{U"传", "C"},      Reading{U"缴", "J"},
-    Reading{U"舍", "S"},      Reading{U"期", "Q"},      Reading{U"识", "S"},
-    Reading{U"模", "M"},      Reading{U"藏", "C"},      Reading{U"厂", "C"},
-    Reading{U"车", "C"},      Reading{U"仓", "C"},      Reading{U"校", "X"},
-    Reading{U"降", "J"},      Reading{U"系", "X"},      Reading{U"系数", "XS"},
-    Reading{U"薄", "B"},      Reading{U"参", "C"},      Reading{U"曾", "C"},
-    Reading{U"朝", "C"},      Reading{U"盛", "S"},      Reading{U"石", "S"},
-    Reading{U"都", "D"},      Reading{U"解", "J"},      Reading{U"契", "Q"},
-    Reading{U"宿", "S"},      Reading{U"宿舍", "SS"},   Reading{U"食", "S"},
-    Reading{U"合", "H"},      Reading{U"弹", "D"},      Reading{U"数", "S"},
-    Reading{U"便", "B"},      Reading{U"卡", "K"},      Reading{U"溢", "Y"},
-    Reading{U"扎", "Z"},      Reading{U"提", "T"},      Reading{U"垫", "D"},
-    Reading{U"贾", "J"},      Reading{U"虚", "X"},      Reading{U"奇", "Q"},
+    Reading{U"调配", "DP"},   Reading{U"对调", "DD"},   Reading{U"调度", "DD"},
+    Reading{U"会计", "KJ"},   Reading{U"供给", "GJ"},   Reading{U"给付", "JF"},
+    Reading{U"自给", "ZJ"},   Reading{U"降服", "XF"},   Reading{U"校对", "JD"},
 };
 
 // Reading of one character by the transliterator; 0 for what has none.

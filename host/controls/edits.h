@@ -68,6 +68,10 @@ public:
     void type(char32_t character) override;
     bool key_down(Key key) override;
     void leave() override; // "007" becomes "7"; outside the range is refused
+
+private:
+    [[noreturn]] void refuse(const std::string& text) const;
+    std::optional<std::string> proper(const std::string& text) const;
 };
 
 // A day, shown YYYY-MM-DD. "20240305", "2024/3/5", "3-5" and "5" (of this year, of this month) are

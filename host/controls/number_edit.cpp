@@ -21,15 +21,32 @@ void TNumberEdit::set(Amount value) { Text = value.to_text(Decimals); }
 
 void TNumberEdit::set(std::int64_t whole) { set(Amount::from_whole(whole)); }
 
+void TNumberEdit::refuse(const std::string& text) const {
+    std::string wanted = "请录入数字。";
+    if (Min && Max)
+        wanted = "请录入 " + Min->to_plain_text() + " 到 " + Max->to_plain_text() + " 之间的数字。";
+    else if (Min)
+        wanted = "请录入不小于 " + Min->to_plain_text() + " 的数字。";
+    else if (Max)
+        wanted = "请录入不大于 " + Max->to_plain_text() + " 的数字。";
+    if (!Amount::parse(text)) wanted = "请录入数字。";
+    DISPINFO("“" + label() + "”不能是“" + first_characters(text, 30) + "”，" + wanted, 5);
+    Abort();
+}
+
+// The text in its proper form; nullopt for what is no number or outside the range.
+std::optional<std::string> TNumberEdit::proper(const std::string& text) const {
+    if (trimmed(text).empty()) return "";
+    const auto number = Amount::parse(text);
+    if (!number || (Min && *number < *Min) || (Max && *number > *Max)) return std::nullopt;
+    return number->to_text(Decimals);
+}
+
 void TNumberEdit::enter_text(const std::string& text) {
     check_text(text);
-    const auto number = Amount::parse(text);
-    if (!trimmed(text).empty() && !number) {
-        DISPINFO("“" + label() + "”不能是“" + first_characters(text, 30) + "”，请录入数字。", 5);
-        Abort();
-    }
-    TEdit::enter_text(number ? number->to_text(Decimals) : "");
-    leave();
+    const auto kept = proper(text);
+    if (!kept) refuse(text);
+    TEdit::enter_text(*kept);
 }
 
 // Digits, a sign in front where the range allows one, a point where there are decimals.
@@ -50,20 +67,14 @@ bool TNumberEdit::key_down(Key key) {
 }
 
 void TNumberEdit::leave() {
-    if (ReadOnly || leaving_by_cancel() || trimmed(Text.get()).empty()) return;
-    const auto number = Amount::parse(Text.get());
-    const bool within = number && !(Min && *number < *Min) && !(Max && *number > *Max);
-    if (within) return set(*number);
-    std::string wanted = "请录入数字。";
-    if (Min && Max)
-        wanted = "请录入 " + Min->to_plain_text() + " 到 " + Max->to_plain_text() + " 之间的数字。";
-    else if (Min)
-        wanted = "请录入不小于 " + Min->to_plain_text() + " 的数字。";
-    else if (Max)
-        wanted = "请录入不大于 " + Max->to_plain_text() + " 的数字。";
-    DISPINFO("“" + label() + "”不能是“" + first_characters(Text.get(), 30) + "”，" + wanted, 5);
+    if (ReadOnly || leaving_by_cancel()) return;
+    const auto kept = proper(Text.get());
+    if (kept) {
+        Text = *kept;
+        return;
+    }
     SelectAll();
-    Abort();
+    refuse(Text.get());
 }
 
 } // namespace host

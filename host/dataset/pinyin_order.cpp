@@ -21,6 +21,8 @@ const icu::Collator& collator() {
         std::unique_ptr<icu::Collator> made(
             icu::Collator::createInstance(icu::Locale("zh@collation=pinyin"), status));
         made->setStrength(icu::Collator::SECONDARY); // case does not matter
+        static constexpr std::int32_t latin_first[] = {USCRIPT_LATIN, USCRIPT_HAN};
+        made->setReorderCodes(latin_first, 2, status);
         return made;
     }();
     return *chinese;

@@ -1,0 +1,176 @@
+// The operations and helpers that the module calls.
+#include "host/contract/U_dataop.h"
+#include "host/contract/U_function.h"
+#include "host/contract/U_linkedit.h"
+#include "host/contract/Zpy.h"
+#include "host/controls/edits.h"
+#include "host/dataset/client_dataset.h"
+#include "host/values/errors.h"
+#include "tests/support/fake_interface.h"
+
+namespace host {
+
+namespace {
+
+class TSheet : public TForm {
+public:
+    TSheet() : TForm(nullptr) {}
+    const char* ClassName() const override { return "TSheet"; }
+    TLinkEdit Account{this, "Account", "科目"};
+};
+
+struct Contract : ::testing::Test {
+    tests::Desk desk;
+    TClientDataSet rows;
+};
+
+} // namespace
+
+TEST_F(Contract, a_query_fills_the_dataset_and_is_remembered) {
+    desk.data.answer("select pzz", {"PZZ text"}, {{"记"}});
+    opensql(rows, "682", "select pzz from d6802");
+    EXPECT_EQ(rows.FieldByName("PZZ").AsText(), "记");
+    const SentStatement& sent = the_host().statements.at(0);
+    EXPECT_EQ(sent.call + "|" + sent.function + "|" + sent.text, "opensql|682|select pzz from d6802");
+}
+
+TEST_F(Contract, a_failed_query_throws_and_leaves_the_dataset_as_it_was) {
+    desk.data.answer("select pzz", {"PZZ text"}, {{"记"}});
+    opensql(rows, "682", "select pzz from d6802");
+    EXPECT_THROW(opensql(rows, "682", "select nothing"), DataError);
+    EXPECT_EQ(rows.FieldByName("PZZ").AsText(), "记");
+}
+
+TEST_F(Contract, a_batch_is_answered_y_or_shown) {
+    EXPECT_EQ(ExecSql("661", "2024-03记005", "Add", "INSERT …"), "Y");
+    EXPECT_EQ(desk.data.executed().at(0).log.key, "2024-03记005");
+    EXPECT_TRUE(desk.ui.messages.empty());
+    desk.data.refuse_next_batch("凭证号重复。");
+    const std::string answer = ExecSql("661", "k", "Add", "INSERT …");
+    EXPECT_NE(answer, "Y");
+    EXPECT_EQ(desk.ui.last_message(), "凭证号重复。");
+    EXPECT_EQ(the_host().statements.back().answer, answer);
+}
+
+TEST_F(Contract, cached_changes_are_saved_once) {
+    desk.data.answer("select", {"PZZ text", "T int"}, {{"记", "0"}});
+    opensql(rows, "682", "select * from d6802");
+    rows.Edit();
+    rows.FieldByName("T").SetValue(std::int64_t{1});
+    EXPECT_TRUE(ApplyUpdate("682", "D6802", "PZZ", rows));
+    EXPECT_EQ(desk.data.executed().at(0).batch, "UPDATE D6802 SET T=1 WHERE PZZ='记';");
+    EXPECT_EQ(the_host().statements.back().text, "D6802 UPDATE D6802 SET T=1 WHERE PZZ='记';");
+    EXPECT_FALSE(rows.Modified());
+    EXPECT_TRUE(ApplyUpdate("682", "D6802", "PZZ", rows));
+    EXPECT_EQ(desk.data.executed().size(), 1U);
+}
+
+TEST_F(Contract, changes_that_were_refused_stay_unsaved) {
+    desk.data.answer("select", {"PZZ text", "T int"}, {{"记", "0"}});
+    opensql(rows, "682", "select * from d6802");
+    rows.Edit();
+    rows.FieldByName("T").SetValue(std::int64_t{1});
+    desk.data.refuse_next_batch("只读。");
+    EXPECT_FALSE(ApplyUpdate("682", "D6802", "PZZ", rows));
+    EXPECT_TRUE(rows.Modified());
+}
+
+TEST_F(Contract, repeated_and_blank_rows_are_found) {
+    desk.data.answer("select", {"KH text"}, {{"a"}, {"b"}, {"A "}, {""}});
+    opensql(rows, "631", "select …");
+    EXPECT_TRUE(checkDatamore(rows, "KH", "客户"));
+    EXPECT_EQ(desk.ui.last_message(), "客户“A”重复，请删去重复的行!");
+    EXPECT_TRUE(checkCoSeng(rows, "KH", "客户"));
+    EXPECT_EQ(desk.ui.last_message(), "第 4 行的客户不能为空，请录入!");
+    desk.data.answer("select", {"KH text"}, {{"a"}, {"b"}});
+    opensql(rows, "631", "select …");
+    EXPECT_FALSE(checkDatamore(rows, "KH", "客户"));
+    EXPECT_FALSE(checkCoSeng(rows, "KH", "客户"));
+}
+
+TEST_F(Contract, numbers_run_on_behind_code_and_day_and_grow_past_999) {
+    desk.data.answer("SELECT NOID", {"NOID text"}, {});
+    EXPECT_EQ(GetNOID("630", "D631"), "630240315001");
+    desk.data.answer("SELECT NOID", {"NOID text"}, {{"630240315007"}, {"630240315003"}});
+    EXPECT_EQ(GetNOID("630", "D631"), "630240315008");
+    desk.data.answer("SELECT NOID", {"NOID text"}, {{"630240315999"}});
+    EXPECT_EQ(GetNOID("630", "D631"), "6302403151000");
+    EXPECT_EQ(desk.data.executed().back().batch,
+              "INSERT INTO SYS_NUMBER (NOID) VALUES ('6302403151000')");
+}
+
+TEST_F(Contract, a_code_is_what_stands_before_the_first_blank) {
+    EXPECT_EQ(GETCODE("1002 银行 存款"), "1002");
+    EXPECT_EQ(GETCODE("1002"), "1002");
+    EXPECT_EQ(GETCODE(""), "");
+    EXPECT_EQ(getno("XS", "7", 4), "XS0007");
+    EXPECT_EQ(getno("", "12345", 3), "12345");
+}
+
+TEST_F(Contract, identifiers_are_unique_and_of_one_form) {
+    const std::string one = GetGuid(), other = GetGuid();
+    EXPECT_NE(one, other);
+    ASSERT_EQ(one.size(), 36U);
+    EXPECT_EQ(one[8], '-');
+    EXPECT_EQ(one[14], '4');
+    EXPECT_EQ(one.find_first_not_of("0123456789ABCDEF-"), std::string::npos);
+}
+
+TEST_F(Contract, amounts_fill_eighteen_places) {
+    EXPECT_EQ(FormatAmount(*Amount::parse("500")), "            500.00");
+    EXPECT_EQ(FormatAmount(*Amount::parse("-0.5"), 4), "           -0.5000");
+    EXPECT_EQ(FormatAmount(*Amount::parse("12")).size(), 18U);
+    EXPECT_EQ(boltos(true) + boltos(false), "10");
+}
+
+TEST_F(Contract, codes_hold_no_blanks_quotes_or_separators) {
+    TSheet form;
+    form.Account.SetFocus();
+    for (const char* text : {"10'02", "10;02", "10%02", "10\"02"}) {
+        form.Account.Text = text;
+        EXPECT_THROW(CheckText(form.Account, "科目代号"), EAbort) << text;
+    }
+    form.Account.Text = "10 02";
+    EXPECT_THROW(CheckBlankInstr(form.Account, "科目代号"), EAbort);
+    EXPECT_EQ(desk.ui.last_message(), "科目代号中不能有空格，请删去空格!");
+    form.Account.Text = "\u3000 ";
+    EXPECT_THROW(CheckBlank(form.Account, "科目代号"), EAbort);
+    form.Account.Text = "1002-银行.A_1";
+    CheckText(form.Account, "科目代号");
+    CheckBlankInstr(form.Account, "科目代号");
+    CheckBlank(form.Account, "科目代号");
+}
+
+TEST_F(Contract, a_lookup_shows_the_name_or_refuses) {
+    TSheet form;
+    form.Account.Text = "O'1";
+    desk.data.answer("SELECT KM_ID,KM_NAME FROM D6801 WHERE (KM_ID='O''1') AND (ISEND=1)",
+                     {"KM_ID text", "KM_NAME text"}, {{"O'1", "现金"}});
+    CommonHint(form.Account, rows, "661", "D6801", "KM_ID", "KM_NAME", "ISEND=1", "科目");
+    EXPECT_EQ(form.Account.DisplayName.get(), "现金");
+    form.Account.Text = "9";
+    desk.data.answer("SELECT KM_ID", {"KM_ID text", "KM_NAME text"}, {});
+    EXPECT_THROW(CommonHint(form.Account, rows, "661", "D6801", "KM_ID", "KM_NAME", "", "科目"),
+                 EAbort);
+    EXPECT_EQ(desk.ui.last_message(), "科目不存在!");
+    EXPECT_EQ(form.Account.DisplayName.get(), "");
+}
+
+TEST(Pinyin, words_of_accounting_are_read_as_bookkeepers_read_them) {
+    const std::pair<const char*, const char*> table[] = {
+        {"银行存款", "YHCK"},       {"工商银行", "GSYH"},     {"长期借款", "CQJK"},
+        {"以前年度损益调整", "YQNDSYTZ"}, {"调拨", "DB"},     {"重分类", "CFL"},
+        {"资产处置收益", "ZCCZSY"}, {"材料成本差异", "CLCBCY"}, {"应收账款", "YSZK"},
+        {"汇率变动", "HLBD"},       {"盘盈收入", "PYSR"},     {"会计", "KJ"},
+        {"行政管理费", "XZGLF"},    {"增长率", "ZZL"},        {"董事长", "DSZ"},
+    };
+    for (const auto& [text, initials] : table) EXPECT_EQ(GetPY(text), initials) << text;
+}
+
+TEST(Pinyin, letters_and_digits_pass_and_the_rest_is_dropped) {
+    EXPECT_EQ(GetPY("abc-1 银行(中行)"), "ABC1YHZH");
+    EXPECT_EQ(GetPY("😀 '\";"), "");
+    EXPECT_EQ(GetPY(""), "");
+}
+
+} // namespace host

@@ -1,0 +1,78 @@
+// Lists order as people expect: numbers by size, Chinese by pinyin, equals as they came.
+#include "host/dataset/client_dataset.h"
+#include "host/dataset/pinyin_order.h"
+
+namespace host {
+
+namespace {
+
+std::vector<std::string> column(TClientDataSet& rows, const std::string& field) {
+    std::vector<std::string> texts;
+    for (rows.First(); !rows.Eof(); rows.Next()) texts.push_back(rows.FieldByName(field).AsText());
+    return texts;
+}
+
+using Texts = std::vector<std::string>;
+
+} // namespace
+
+TEST(Sort, chinese_orders_by_pinyin_and_latin_before_it) {
+    TClientDataSet rows;
+    rows.DefineField("NAME", FieldType::Text);
+    rows.Open();
+    for (const char* name : {"张三", "李四", "王五", "安娜", "bank", "ATM", "陈六"}) {
+        rows.Append();
+        rows.FieldByName("NAME").SetValue(std::string(name));
+        rows.Post();
+    }
+    rows.SortBy("name", false); // an, chen, li, wang, zhang
+    EXPECT_EQ(column(rows, "NAME"),
+              (Texts{"ATM", "bank", "安娜", "陈六", "李四", "王五", "张三"}));
+    rows.SortBy("NAME", true);
+    EXPECT_EQ(column(rows, "NAME").front(), "张三");
+    rows.SortBy("", false);
+    EXPECT_EQ(column(rows, "NAME").front(), "张三"); // as loaded
+}
+
+TEST(Sort, numbers_order_by_size_with_empty_ones_first_and_equals_as_they_came) {
+    TClientDataSet rows;
+    rows.DefineField("J", FieldType::Amount);
+    rows.DefineField("N", FieldType::Integer);
+    rows.Open();
+    int n = 0;
+    for (const char* amount : {"10", "9", "-3", "", "10", "9"}) {
+        rows.Append();
+        rows.FieldByName("N").SetValue(std::int64_t{n++});
+        if (*amount != '\0') rows.FieldByName("J").SetValue(*Amount::parse(amount));
+        rows.Post();
+    }
+    rows.SortBy("J", false);
+    EXPECT_EQ(column(rows, "N"), (Texts{"3", "2", "1", "5", "0", "4"}));
+    rows.SortBy("J", true);
+    EXPECT_EQ(column(rows, "N"), (Texts{"0", "4", "1", "5", "2", "3"}));
+}
+
+TEST(Sort, the_row_looked_at_stays_the_current_one) {
+    TClientDataSet rows;
+    rows.DefineField("N", FieldType::Integer);
+    rows.Open();
+    for (const int n : {3, 1, 2}) {
+        rows.Append();
+        rows.FieldByName("N").SetValue(std::int64_t{n});
+        rows.Post();
+    }
+    rows.GotoRow(0); // the 3
+    rows.SortBy("N", false);
+    EXPECT_EQ(rows.RecNo(), 2);
+    EXPECT_EQ(rows.FieldByName("N").AsInteger(), 3);
+}
+
+TEST(PinyinOrder, the_same_text_in_another_case_has_the_same_rank) {
+    const auto ranks = pinyin_ranks({"abc", "ABC", "b"});
+    EXPECT_EQ(ranks[0], ranks[1]);
+    EXPECT_LT(ranks[0], ranks[2]);
+    const auto mixed = pinyin_ranks({"abc", "ABC", "银"});
+    EXPECT_EQ(mixed[0], mixed[1]);
+}
+
+} // namespace host

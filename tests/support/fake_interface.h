@@ -1,0 +1,64 @@
+// A person who answers as the test told beforehand, and a host set up around him.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "host/forms/form.h"
+#include "host/ports/host.h"
+#include "tests/support/fake_data.h"
+#include "tests/support/surroundings.h"
+
+namespace tests {
+
+// Messages are read at once, questions take the next answer ("no" when none is left), a modal form
+// is handed to the next of `inside` and cancelled when that left it open.
+class FakeInterface final : public host::UserInterface {
+public:
+    std::vector<std::string> messages;  // of both kinds, in order
+    std::vector<std::string> questions; // those that asked
+    std::deque<bool> answers;
+    std::deque<std::function<void(host::TForm&)>> inside;
+    std::optional<std::string> file; // chosen for an export
+    std::string clipboard;
+    std::vector<host::TForm*> forgotten;
+    bool prints = false;
+
+    std::string last_message() const { return messages.empty() ? "" : messages.back(); }
+
+    void show(host::TForm&) override {}
+    void show_modal(host::TForm& form) override;
+    void forget(host::TForm& form) override { forgotten.push_back(&form); }
+    void inform(const std::string& text) override { messages.push_back(text); }
+    bool ask(const std::string& text) override;
+    void popup(host::TPopupMenu& menu, host::TControl&) override;
+    std::optional<std::string> choose_file_to_save(const std::string&,
+                                                   const std::string&) override {
+        return file;
+    }
+    bool progress(const std::string&, std::int64_t, std::int64_t) override { return true; }
+    void repaint_frame() override {}
+    bool offers_printing() const override { return prints; }
+    void set_clipboard(const std::string& text) override { clipboard = text; }
+    std::string popup_item; // executed when a menu pops up
+};
+
+// Sets the_host() up for its lifetime: fake database, fake person, 2024-03-15, user "anna".
+// Forms must go before it.
+struct Desk {
+    Desk();
+    ~Desk();
+    FakeData data;
+    FakeInterface ui;
+    FixedClock clock{"2024-03-15"};
+    MemorySettings settings;
+    CountedBytes random;
+};
+
+// Types a key's name or each character of a text into the form, as event by event.
+void press(host::TForm& form, const std::string& key);
+void type(host::TForm& form, const std::string& text);
+
+} // namespace tests
