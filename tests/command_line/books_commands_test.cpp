@@ -3,7 +3,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 
-#include "tests/command_line/program.h"
+#include "tests/support/program.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tests {
@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 class BooksCommands : public ::testing::Test {
 protected:
-    Run make(const std::string& name) {
+    ProgramRun make(const std::string& name) {
         return run_program({"new", folder_.file(name), "--company", "甲公司", "--start", "2024-03"});
     }
     std::string value(const std::string& books, const std::string& select) {
@@ -46,7 +46,7 @@ TEST_F(BooksCommands, wrong_usage_ends_with_two_and_says_so_on_standard_error) {
         {"restore", books_},
     };
     for (const auto& arguments : rows) {
-        const Run run = run_program(arguments);
+        const ProgramRun run = run_program(arguments);
         EXPECT_EQ(run.status, 2) << arguments.back();
         EXPECT_EQ(run.out, "") << arguments.back();
         EXPECT_NE(run.errors.find("用法"), std::string::npos) << run.errors;
@@ -55,17 +55,17 @@ TEST_F(BooksCommands, wrong_usage_ends_with_two_and_says_so_on_standard_error) {
 }
 
 TEST_F(BooksCommands, help_is_a_result) {
-    const Run run = run_program({"--help"});
+    const ProgramRun run = run_program({"--help"});
     EXPECT_EQ(run.status, 0);
     for (const char* command : {"new", "demo", "drive", "sql", "check", "backup", "restore"})
         EXPECT_NE(run.out.find(command), std::string::npos) << command;
 }
 
 TEST_F(BooksCommands, new_books_are_sound_and_results_stay_off_standard_output) {
-    const Run run = make("a.zf");
+    const ProgramRun run = make("a.zf");
     EXPECT_EQ(run.status, 0) << run.errors;
     EXPECT_EQ(run.out, "");
-    const Run check = run_program({"check", books_});
+    const ProgramRun check = run_program({"check", books_});
     EXPECT_EQ(check.status, 0) << check.out;
     EXPECT_EQ(check.out, "");
     EXPECT_NE(value(books_, "SELECT PARAM FROM D6600 ORDER BY ID").find("2024-03"),
@@ -75,7 +75,7 @@ TEST_F(BooksCommands, new_books_are_sound_and_results_stay_off_standard_output) 
 TEST_F(BooksCommands, new_refuses_books_that_exist_and_leaves_them_as_they_are) {
     ASSERT_EQ(make("a.zf").status, 0);
     run_program({"sql", books_}, "UPDATE SYS_SETTING SET VALUE = '乙' WHERE NAME = 'company'");
-    const Run again = make("a.zf");
+    const ProgramRun again = make("a.zf");
     EXPECT_EQ(again.status, 1);
     EXPECT_NE(again.errors.find("已经存在"), std::string::npos) << again.errors;
     EXPECT_NE(value(books_, "SELECT VALUE FROM SYS_SETTING WHERE NAME='company'").find("乙"),
@@ -86,7 +86,7 @@ TEST_F(BooksCommands, check_tells_each_finding_and_ends_with_one) {
     ASSERT_EQ(make("a.zf").status, 0);
     run_program({"sql", books_}, "INSERT INTO D6601A (NOID, ZY, KM_ID, J, D, INX) VALUES "
                                  "('x','x','1001','1.00','0.00',0)");
-    const Run check = run_program({"check", books_});
+    const ProgramRun check = run_program({"check", books_});
     EXPECT_EQ(check.status, 1);
     EXPECT_NE(check.out.find("凭证借贷不平: x: 借方 1.00 贷方 0.00"), std::string::npos)
         << check.out;
@@ -106,7 +106,7 @@ TEST_F(BooksCommands, a_foreign_a_missing_and_a_server_name_are_refused_by_every
     for (const std::string& name :
          {folder_.file("letter"), folder_.file("none"), std::string("postgres://u@h/d")})
         for (const char* command : {"sql", "check", "drive"}) {
-            const Run run = run_program({command, name});
+            const ProgramRun run = run_program({command, name});
             EXPECT_EQ(run.status, 1) << command << " " << name;
             EXPECT_EQ(run.out, "");
             EXPECT_FALSE(run.errors.empty());
@@ -118,13 +118,13 @@ TEST_F(BooksCommands, books_without_the_right_to_write_can_be_read_and_say_why_t
     if (::geteuid() == 0) GTEST_SKIP() << "everything may be written by root";
     ASSERT_EQ(make("a.zf").status, 0);
     fs::permissions(books_, fs::perms::owner_read);
-    const Run run = run_program({"sql", books_}, "DELETE FROM D6803");
+    const ProgramRun run = run_program({"sql", books_}, "DELETE FROM D6803");
     EXPECT_EQ(run.status, 1);
 }
 
 TEST_F(BooksCommands, the_desktop_without_a_display_is_refused_with_a_hint) {
     ASSERT_EQ(make("a.zf").status, 0);
-    const Run run = run_program({books_});
+    const ProgramRun run = run_program({books_});
     EXPECT_EQ(run.status, 1);
     EXPECT_NE(run.errors.find("drive"), std::string::npos) << run.errors;
 }

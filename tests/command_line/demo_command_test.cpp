@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "tests/command_line/program.h"
+#include "tests/support/program.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tests {
@@ -10,18 +10,18 @@ namespace tests {
 TEST(DemoCommand, the_books_are_sound_hold_every_state_of_a_voucher_and_balance) {
     TemporaryFolder folder;
     const std::string books = folder.file("demo.zf");
-    const Run made = run_program({"demo", books});
+    const ProgramRun made = run_program({"demo", books});
     ASSERT_EQ(made.status, 0) << made.errors;
     EXPECT_EQ(folder.files(), 1u);
     EXPECT_EQ(run_program({"check", books}).status, 0);
 
-    const Run counts = run_program({"sql", books, "--jsonl"},
+    const ProgramRun counts = run_program({"sql", books, "--jsonl"},
                                    R"({"id":1,"sql":"SELECT COUNT(*), SUM(T), )"
                                    R"(SUM(CAST(D AS int)) FROM D6601"})");
     const auto rows = nlohmann::json::parse(counts.out)["rows"];
     EXPECT_EQ(rows, (nlohmann::json{{"62", "55", "45"}})) << counts.out;
 
-    const Run balance = run_program({"trial-balance", books, "--level", "2"});
+    const ProgramRun balance = run_program({"trial-balance", books, "--level", "2"});
     EXPECT_EQ(balance.status, 0) << balance.errors;
     EXPECT_NE(balance.out.find("银行存款-工商银行基本户"), std::string::npos) << balance.out;
     EXPECT_NE(balance.out.find("\n试算平衡\n"), std::string::npos) << balance.out;

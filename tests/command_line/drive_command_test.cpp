@@ -4,7 +4,7 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "tests/command_line/program.h"
+#include "tests/support/program.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tests {
@@ -20,7 +20,7 @@ protected:
                       .status,
                   0);
     }
-    static std::vector<nlohmann::json> answers(const Run& run) {
+    static std::vector<nlohmann::json> answers(const ProgramRun& run) {
         std::vector<nlohmann::json> all;
         std::istringstream lines(run.out);
         for (std::string line; std::getline(lines, line);)
@@ -36,7 +36,7 @@ protected:
 
 TEST_F(DriveCommand, today_is_fixed_for_the_database_too) {
     make("");
-    const Run run = run_program(
+    const ProgramRun run = run_program(
         {"drive", books_, "--today", "2024-03-17"},
         R"({"op":"query","sql":"SELECT CONVERT(varchar(10), GETDATE(), 120) AS A"})"
         "\n{\"op\":\"quit\"}\n");
@@ -50,7 +50,7 @@ TEST_F(DriveCommand, a_password_is_taken_from_the_environment_and_a_wrong_one_is
     make("secret");
     const std::string quit = "{\"op\":\"quit\"}\n";
     EXPECT_EQ(run_program({"drive", books_}, quit, {{"ZHANGFANG_PASSWORD", "secret"}}).status, 0);
-    const Run wrong = run_program({"drive", books_}, quit, {{"ZHANGFANG_PASSWORD", "Secret"}});
+    const ProgramRun wrong = run_program({"drive", books_}, quit, {{"ZHANGFANG_PASSWORD", "Secret"}});
     EXPECT_EQ(wrong.status, 1);
     EXPECT_NE(wrong.errors.find("用户名或密码不对"), std::string::npos) << wrong.errors;
     EXPECT_EQ(run_program({"drive", books_}, quit).status, 1);
@@ -63,7 +63,7 @@ TEST_F(DriveCommand, a_program_without_its_module_says_so) {
     fs::create_directory(lonely);
     fs::copy(fs::path(ZF_BINARY_DIR) / "zhangfang", lonely);
     fs::copy(fs::path(ZF_BINARY_DIR) / "libzhangfang_host.so", lonely);
-    const Run run = run_file((lonely / "zhangfang").string(), {"drive", books_});
+    const ProgramRun run = run_file((lonely / "zhangfang").string(), {"drive", books_});
     EXPECT_EQ(run.status, 1);
     EXPECT_NE(run.errors.find("libQmx600.so"), std::string::npos) << run.errors;
 }

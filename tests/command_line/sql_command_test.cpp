@@ -2,12 +2,12 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "tests/command_line/program.h"
+#include "tests/support/program.h"
 
 namespace tests {
 
 TEST(SqlCommand, batches_go_to_an_empty_database_and_print_tables) {
-    const Run run = run_program({"sql", ":memory:"}, "CREATE TABLE T (A int, B nvarchar(5))\nGO\n"
+    const ProgramRun run = run_program({"sql", ":memory:"}, "CREATE TABLE T (A int, B nvarchar(5))\nGO\n"
                                                      "INSERT INTO T VALUES (1, '现金')\nGO\n"
                                                      "SELECT * FROM T\n");
     EXPECT_EQ(run.status, 0) << run.errors;
@@ -15,13 +15,13 @@ TEST(SqlCommand, batches_go_to_an_empty_database_and_print_tables) {
 }
 
 TEST(SqlCommand, a_failing_batch_ends_with_one_and_names_the_place) {
-    const Run run = run_program({"sql", ":memory:"}, "SELECT 1\nSELECT FROM\n");
+    const ProgramRun run = run_program({"sql", ":memory:"}, "SELECT 1\nSELECT FROM\n");
     EXPECT_EQ(run.status, 1);
     EXPECT_NE(run.errors.find("第 2 行"), std::string::npos) << run.errors;
 }
 
 TEST(SqlCommand, json_lines_are_answered_one_for_one) {
-    const Run run = run_program({"sql", ":memory:", "--jsonl"},
+    const ProgramRun run = run_program({"sql", ":memory:", "--jsonl"},
                                 "{\"id\":1,\"sql\":\"SELECT CAST(1 AS decimal(5,2)) AS A\"}\n"
                                 "{\"id\":2,\"sql\":\"SELECT 1/0 AS A\"}\n");
     EXPECT_EQ(run.status, 0) << run.errors;

@@ -7,7 +7,7 @@
 
 namespace tests {
 
-struct Run {
+struct ProgramRun {
     int status = -1;
     std::string out;
     std::string errors;
@@ -15,11 +15,11 @@ struct Run {
 
 // Runs build/zhangfang with these arguments and standard input until it ends. The environment is
 // the test's own without a display and with these variables on top; "" as a value stays "".
-Run run_program(const std::vector<std::string>& arguments, const std::string& input = "",
+ProgramRun run_program(const std::vector<std::string>& arguments, const std::string& input = "",
                 std::map<std::string, std::string> environment = {});
 
 // The same for a program file elsewhere.
-Run run_file(const std::string& program, const std::vector<std::string>& arguments,
+ProgramRun run_file(const std::string& program, const std::vector<std::string>& arguments,
              const std::string& input = "", std::map<std::string, std::string> environment = {});
 
 } // namespace tests

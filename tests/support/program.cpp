@@ -1,5 +1,5 @@
 // A child process with its three streams in files.
-#include "tests/command_line/program.h"
+#include "tests/support/program.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -46,7 +46,7 @@ void redirect(const std::string& path, int flags, int stream) {
 
 } // namespace
 
-Run run_file(const std::string& program, const std::vector<std::string>& arguments,
+ProgramRun run_file(const std::string& program, const std::vector<std::string>& arguments,
              const std::string& input, std::map<std::string, std::string> environment) {
     TemporaryFolder folder;
     std::ofstream(folder.file("in"), std::ios::binary) << input;
@@ -58,14 +58,14 @@ Run run_file(const std::string& program, const std::vector<std::string>& argumen
     int state = 0;
     while (::waitpid(child, &state, 0) < 0 && errno == EINTR) {
     }
-    Run run;
+    ProgramRun run;
     run.status = WIFEXITED(state) ? WEXITSTATUS(state) : -1;
     run.out = content(folder.file("out"));
     run.errors = content(folder.file("errors"));
     return run;
 }
 
-Run run_program(const std::vector<std::string>& arguments, const std::string& input,
+ProgramRun run_program(const std::vector<std::string>& arguments, const std::string& input,
                 std::map<std::string, std::string> environment) {
     return run_file(std::string(ZF_BINARY_DIR) + "/zhangfang", arguments, input,
                     std::move(environment));
