@@ -19,6 +19,8 @@ constexpr Check checks[] = {
     {"会计科目", check_accounts},
     {"发生额与凭证不符", check_movements},
     {"期末余额不符", check_closing_balances},
+    {"往来单据结算不符", check_settlements},
+    {"收付款单金额不符", check_receipts},
     {"操作日志", check_log},
 };
 

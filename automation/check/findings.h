@@ -32,6 +32,8 @@ void check_orphans(engines::Session&, Findings&);
 void check_accounts(engines::Session&, Findings&);
 void check_movements(engines::Session&, Findings&);
 void check_closing_balances(engines::Session&, Findings&);
+void check_settlements(engines::Session&, Findings&);
+void check_receipts(engines::Session&, Findings&);
 void check_log(engines::Session&, Findings&);
 
 } // namespace automation

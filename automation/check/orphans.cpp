@@ -23,12 +23,25 @@ constexpr Reference references[] = {
     {"D6602", "KM_ID", "D6801", "KM_ID", "余额的科目不存在"},
     {"D6601", "USER_ID", "SYS_USER", "USER_ID", "凭证的制单人不存在"},
     {"D6804", "KM_ID", "D6801", "KM_ID", "收支类别的科目不存在"},
+    {"D631A", "NOID", "D631", "NOID", "核销行没有收款单"},
+    {"D631A", "D8102NOID", "D8102", "NOID", "核销的销售单不存在"},
+    {"D631A", "D651NOID", "D651", "NOID", "核销的其他应收不存在"},
+    {"D631A", "D8103NOID", "D8103", "NOID", "核销的销售退回不存在"},
+    {"D631B", "NOID", "D631", "NOID", "分帐户的金额没有收款单"},
+    {"D641A", "NOID", "D641", "NOID", "核销行没有付款单"},
+    {"D641A", "D8202NOID", "D8202", "NOID", "核销的采购单不存在"},
+    {"D641A", "D652NOID", "D652", "NOID", "核销的其他应付不存在"},
+    {"D641A", "D8203NOID", "D8203", "NOID", "核销的采购退回不存在"},
+    {"D651A", "NOID", "D651", "NOID", "明细行没有其他收款单"},
+    {"D651A", "D631NOID", "D631", "NOID", "溢收明细没有收款单"},
+    {"D652A", "NOID", "D652", "NOID", "明细行没有其他付款单"},
+    {"D8102A", "NOID", "D8102", "NOID", "明细行没有销售单"},
 };
 
 std::string query_of(const Reference& reference) {
     const std::string column = std::string("A.") + reference.column;
     return "SELECT DISTINCT '" + std::string(reference.says) + ":', " + column + " FROM " +
-           reference.table + " A WHERE NOT EXISTS (SELECT * FROM " + reference.target +
+           reference.table + " A WHERE " + column + " IS NOT NULL AND NOT EXISTS (SELECT * FROM " + reference.target +
            " B WHERE B." + reference.key + " = " + column + ") ORDER BY " + column;
 }
 

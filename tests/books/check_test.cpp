@@ -91,6 +91,21 @@ TEST_F(Check, a_log_row_changed_taken_out_or_slipped_in) {
     EXPECT_TRUE(finds("操作日志", "缺少第 3 条")) << findings();
 }
 
+TEST_F(Check, a_settled_amount_that_its_lines_do_not_give) {
+    damage("INSERT INTO D8102 (NOID, C, KH_GYS_ID, BDATE, USER_ID, TOLMONEY, YSMONEY) VALUES "
+           "('s1', 0, 'K1', '2024-03-01', 'admin', 100, 100)");
+    damage("INSERT INTO D631 (NOID, KH_GYS_ID, JY_ID, MONEY, MONEY_SS, BDATE, USER_ID) VALUES "
+           "('r1', 'K1', '1', 40, 40, '2024-03-02', 'admin')");
+    damage("INSERT INTO D631A (NOID, C, D8102NOID, KH_GYS_ID, MONEY) VALUES "
+           "('r1', 0, 's1', 'K1', 40)");
+    EXPECT_EQ(value("SELECT YSMONEY FROM D8102 WHERE NOID = 's1'"), "60.00");
+    EXPECT_EQ(findings(), "");
+    damage("UPDATE D8102 SET SUMMONEY = 39.99 WHERE NOID = 's1'");
+    EXPECT_TRUE(finds("往来单据结算不符", "D8102 s1: 已结 39.99 应为 40.00")) << findings();
+    damage("UPDATE D631 SET MONEY = 41 WHERE NOID = 'r1'");
+    EXPECT_TRUE(finds("收付款单金额不符", "r1: 金额 41.00 明细合计 40.00")) << findings();
+}
+
 TEST_F(Check, many_findings_of_one_kind_are_counted_instead_of_listed) {
     damage("DELETE FROM D6801");
     const auto all = automation::check_books(*session_);

@@ -1,9 +1,7 @@
 // Every statement of the forms runs on the full schema.
-#include <fstream>
-
-#include "automation/sql/batches.h"
 #include "automation/sql/collected_result.h"
 #include "tests/books/ledger_fixture.h"
+#include "tests/support/case_file.h"
 
 namespace tests {
 namespace {
@@ -15,21 +13,26 @@ protected:
         voucher(2, {{"1001", "30.00", "0.00"}, {"3131", "0.00", "30.00"}});
         post();
     }
+    // What running it says, taken back afterwards; "" when it went well.
+    std::string error_of(const std::string& statement) {
+        if (!session_->begin().ok()) return "no transaction";
+        const auto result = automation::collect(*session_, statement);
+        session_->rollback();
+        return result.outcome.ok() ? "" : result.outcome.error->text;
+    }
 };
 
 } // namespace
 
 TEST_F(Statements, run_without_an_error_and_leave_sound_books_behind_when_taken_back) {
-    std::ifstream file(ZF_SOURCE_DIR "/tests/books/statements.sql");
-    int statements = 0;
-    for (std::string batch; automation::read_batch(file, batch); ++statements) {
-        ASSERT_TRUE(session_->begin().ok());
-        const auto result = automation::collect(*session_, batch);
-        EXPECT_TRUE(result.outcome.ok())
-            << batch << (result.outcome.ok() ? "" : result.outcome.error->text);
-        session_->rollback();
-    }
-    EXPECT_GT(statements, 70);
+    std::size_t statements = 0;
+    for (const std::string& path :
+         support::files_below(ZF_SOURCE_DIR "/tests/tsql/statements", ".case"))
+        for (const support::Case& one : support::read_case_file(path, {}).cases) {
+            EXPECT_EQ(error_of(one.text), "") << path << ":" << one.line;
+            ++statements;
+        }
+    EXPECT_GT(statements, 150U);
     EXPECT_EQ(findings(), "");
 }
 
