@@ -1,0 +1,69 @@
+// Opens the form that belongs to the function code of a menu pick.
+#include "module/entry/U6600.h"
+
+#include "host/contract/U_function.h"
+#include "host/ports/host.h"
+#include "module/ledgers/U6689.h"
+#include "module/masterdata/U6681.h"
+#include "module/masterdata/U6682.h"
+#include "module/masterdata/U6683.h"
+#include "module/vouchers/U6661.h"
+#include "module/vouchers/U6663.h"
+
+namespace module {
+namespace {
+
+// A form whose opening failed before it appeared would stay behind unseen.
+void release_unless_shown(TForm* form) {
+    const auto& open = the_host().forms;
+    if (std::find(open.begin(), open.end(), form) == open.end()) delete form;
+}
+
+template <class Form, Form*& variable> void modeless(const Trecord& record, TForm* parent) {
+    auto* form = new Form(parent);
+    variable = form;
+    form->Tag = record.code();
+    try {
+        form->InitForm(record);
+    } catch (...) {
+        release_unless_shown(form);
+        throw;
+    }
+}
+
+template <class Form, Form*& variable> void modal(const Trecord& record, TForm* parent) {
+    the_host().ui->repaint_frame();
+    const auto form = std::make_unique<Form>(parent);
+    variable = form.get();
+    const auto& user = record.user;
+    form->SetUserParam(user[0], user[1], user[2], user[3], user[4], user[5]);
+    form->InitForm(record);
+    form->ShowModal();
+}
+
+struct Function {
+    std::int32_t code;
+    void (*open)(const Trecord& record, TForm* parent);
+};
+
+constexpr Function functions[] = {
+    {661, modeless<TF6661, F6661>}, // 录凭证
+    {662, modeless<TF6661, F6661>}, // 凭证审核
+    {663, modal<TF6663, F6663>},    // 凭证登帐
+    {681, modeless<TF6681, F6681>}, // 会计科目
+    {682, modeless<TF6682, F6682>}, // 凭证字
+    {683, modeless<TF6683, F6683>}, // 常用摘要
+    {689, modeless<TF6689, F6689>}, // 试算平衡表
+};
+
+} // namespace
+
+void open_function(const Trecord& record, TForm* parent) {
+    const Trecord own = record;
+    for (const Function& function : functions) {
+        if (function.code == own.code()) return function.open(own, parent);
+    }
+    DISPINFO("模块暂不开放!" + std::to_string(own.code()), 5);
+}
+
+} // namespace module

@@ -1,0 +1,89 @@
+// Show every account's opening balance, turnover and closing balance of a period, and whether the books balance.
+#include "module/ledgers/U6689.h"
+
+#include "module/filters/U6689f.h"
+
+namespace module {
+
+TF6689* F6689 = nullptr;
+
+namespace {
+
+constexpr Color red = 255;
+constexpr Color blue = 0xFF0000;
+
+} // namespace
+
+// ---- opening ----
+
+TF6689::TF6689(TForm* parent) : TFrm_Base_Qry(parent) {
+    Caption = "试算平衡表";
+    AddColumn("KM_ID", "科目", 12);
+    GridColumn& name = AddColumn("KM_NAME", "会计科目", -1);
+    name.Footer = FooterKind::Text;
+    name.FooterText = "（仅合计一级科目,仅显示有业务数据科目）  合计：";
+    name.FooterAlign = Alignment::Right;
+    add_side_by_side("期初余额", "B"); // opening balance
+    add_side_by_side("本期发生额", "C"); // turnover of the period
+    add_side_by_side("期末余额", "D"); // closing balance
+    Balanced.Visible = Unbalanced.Visible = false;
+    Balanced.FontColor = blue;
+    Unbalanced.FontColor = red;
+    layout = Rows({ToolBar({&Act_Locate, &Act_Refresh, nullptr, &Act_Print, &Act_Preview, &Act_Export,
+                            nullptr, &Act_Quit}),
+                   Columns({Control(ConditionLabel), Spring(), Control(Balanced), Control(Unbalanced)}),
+                   Rest(DBGridEh)});
+}
+
+TF6689::~TF6689() = default;
+
+// Footers add up the top level alone (BB1 for B1): a sum over all levels would count twice.
+void TF6689::add_side_by_side(const std::string& title, const std::string& letter) {
+    for (const char* side : {"1", "2"}) {
+        const std::string field = letter + side;
+        const std::string word = side[0] == '1' ? "借方" : "贷方";
+        AdoQry_Main.DefineField(field, FieldType::Amount).DisplayFormat = "0.00";
+        GridColumn& column = AddAmountColumn(field, title + "|" + word);
+        column.Tag = 9;
+        column.Footer = FooterKind::Sum;
+        column.FooterField = letter + field;
+    }
+}
+
+void TF6689::InitForm(const Trecord& record) {
+    Act_Add.Enabled = false;
+    Act_Add.Visible = false;
+    SumFields = "B1,B2,C1,C2,D1,D2";
+    KeyField = "KM_ID";
+    TFrm_Base_Qry::InitForm(record);
+    F6689F = std::make_unique<TF6689F>(this);
+    F6689F->InitForm();
+    Act_Locate.Execute();
+}
+
+TFrm_Sys_Filter* TF6689::Filter() { return F6689F.get(); }
+
+// ---- lines ----
+
+void TF6689::GetData() {
+    TFrm_Base_Qry::GetData();
+    if (!SqlText.empty()) refcon();
+}
+
+void TF6689::refcon() {
+    const auto agree = [this](const char* debits, const char* credits) {
+        return AdoQry_Main.Sum(debits) == AdoQry_Main.Sum(credits);
+    };
+    const bool balanced = agree("BB1", "BB2") && agree("CC1", "CC2") && agree("DD1", "DD2");
+    Balanced.Visible = balanced;
+    Unbalanced.Visible = !balanced;
+}
+
+void TF6689::DBGridEhGetCellParams(TField& field, CellParams& params) {
+    TFrm_Base_Qry::DBGridEhGetCellParams(field, params);
+    const int column = DBGridEh.column_index(field.FieldName);
+    if (column < 0 || DBGridEh.Columns[static_cast<std::size_t>(column)].Tag != 9) return;
+    if (field.AsAmount().is_negative()) params.Font = red;
+}
+
+} // namespace module

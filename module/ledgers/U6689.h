@@ -1,0 +1,41 @@
+// Show every account's opening balance, turnover and closing balance of a period, and whether the books balance.
+#pragma once
+
+#include <memory>
+
+#include "host/forms/Base_Qry.h"
+#include "module/host_names.h"
+
+namespace module {
+
+class TF6689F;
+
+class TF6689 : public TFrm_Base_Qry {
+public:
+    // What the user sees, from top to bottom.
+    TPanel Balanced{this, "Balanced", "试算平衡"};
+    TPanel Unbalanced{this, "Unbalanced", "试算不平衡"};
+
+    // What the user does.
+    explicit TF6689(TForm* parent);
+    ~TF6689() override;
+    const char* ClassName() const override { return "TF6689"; }
+
+    // Steps of every query that differ here.
+    void InitForm(const Trecord& record) override;
+    void GetData() override;
+
+protected:
+    TFrm_Sys_Filter* Filter() override;
+    void DBGridEhGetCellParams(TField& field, CellParams& params) override;
+
+private:
+    // This form's own rules.
+    void add_side_by_side(const std::string& title, const std::string& fields);
+    void refcon(); // debits against credits of opening, turnover and closing
+    std::unique_ptr<TF6689F> F6689F;
+};
+
+extern TF6689* F6689;
+
+} // namespace module

@@ -1,0 +1,154 @@
+// List the vouchers: enter, copy, change, delete them; as function 662 audit them.
+#include "module/vouchers/U6661.h"
+
+#include "module/filters/U6661f.h"
+#include "module/vouchers/U6661_1.h"
+#include "module/vouchers/voucher_statements.h"
+#include "module/vouchers/voucher_template.h"
+
+namespace module {
+
+TF6661* F6661 = nullptr;
+
+namespace {
+
+constexpr Color not_audited_background = 0xFFFF80;
+
+} // namespace
+
+// ---- opening ----
+
+TF6661::TF6661(TForm* parent) : TFrm_Base_Entry_Head(parent) {
+    Caption = "录凭证";
+    Action1.OnExecute = [this] { Action1Execute(); };
+    const auto scrolled = AdoQry_Main.AfterScroll;
+    AdoQry_Main.AfterScroll = [this, scrolled] {
+        if (scrolled) scrolled();
+        show_selected();
+    };
+    build_columns();
+}
+
+TF6661::~TF6661() = default;
+
+void TF6661::build_columns() {
+    AddColumn("PZQJ", "期间", 9);             // accounting period
+    AddColumn("PZZ", "凭证字", 7).Align = Alignment::Center;
+    AddColumn("PZZ_H", "号", 6).Align = Alignment::Right;
+    AddColumn("PZZ_Z", "附单据(张)", 9).Align = Alignment::Right;
+    AddColumn("BDATE", "日期", 11);
+    AddColumn("USER_ID", "用户号", 9);        // maker
+    AddColumn("USER_NAME", "制单人", 11);
+    AddColumn("sk", "审核人", 11);
+    AddColumn("sdate", "审核日期", 11);
+    AddColumn("T", "审核", 6).Align = Alignment::Center;
+    AddColumn("D", "登帐", 6).CheckBox = true; // posted
+    AdoQry_Main.DefineField("BDATE", FieldType::DateTime).DisplayFormat = "yyyy-mm-dd";
+    AdoQry_Main.DefineField("sdate", FieldType::DateTime).DisplayFormat = "yyyy-mm-dd";
+    DBGridEh.MultiSelect = true;
+    DBGridEh.EmptyText = "没有符合条件的凭证";
+
+    GridColumn debit{.FieldName = "J", .Title = "借方金额", .Width = 16};
+    debit.Align = Alignment::Right;
+    debit.Tag = 9;
+    debit.Footer = FooterKind::Sum;
+    GridColumn credit = debit;
+    credit.FieldName = "D";
+    credit.Title = "贷方金额";
+    GridColumn name{.FieldName = "KM_NAME_NEW", .Title = "会计科目", .Width = 36};
+    name.Footer = FooterKind::Text;
+    name.FooterText = "合计";
+    DBGridEhLine.Columns = {{.FieldName = "ZY", .Title = "摘要", .Width = 32},
+                            {.FieldName = "KM_ID", .Title = "科目", .Width = 12}, name, debit, credit};
+    for (const char* side : {"J", "D"}) {
+        AdoQry_Line.DefineField(side, FieldType::Amount).DisplayFormat = "0.00";
+    }
+}
+
+void TF6661::build_layout(bool audit) {
+    Act_Audit.Visible = audit;
+    Act_UnAudit.Visible = audit;
+    for (TAction* action : {&Act_Add, &Act_CopyAdd, &Act_Delete, &Action1}) action->Visible = !audit;
+    Act_Modify.Caption = audit ? "查看凭证" : "修改";
+    std::vector<TAction*> own = {&Act_Add, &Act_CopyAdd, &Act_Modify, &Act_Delete};
+    if (audit) own = {&Act_Audit, &Act_UnAudit, nullptr, &Act_Modify};
+    for (TAction* action : {static_cast<TAction*>(nullptr), &Act_Locate, &Act_Refresh}) {
+        own.push_back(action);
+    }
+    if (!audit) own.insert(own.end(), {nullptr, &Action1});
+    own.insert(own.end(), {nullptr, &Act_Print, &Act_Preview, &Act_Export, nullptr, &Act_Quit});
+    layout = Rows({ToolBar(own), Columns({Control(ConditionLabel), Spring(), Control(CountLabel)}),
+                   Splitter(Rest(DBGridEh), Rows({Control(SelectedLabel), Rest(DBGridEhLine)}), 65)});
+}
+
+void TF6661::InitForm(const Trecord& record) {
+    FunctionCode = std::to_string(record.code());
+    const bool audit = FunctionCode == "662";
+    if (audit) Caption = "凭证审核";
+    Settings = {.table = "D6601",
+                .key_field = "NOID",
+                .lookup_field = "KM_ID",
+                .amount_fields = "J,D",
+                .head_query = voucher_heads,
+                .head_order = " ORDER BY D6601.PZQJ,D6601.PZZ,D6601.PZZ_H",
+                .line_query = voucher_lines,
+                .delete_statement = "delete from d6601 Where NOID=%S",
+                .period_field = "PZQJ"};
+    build_layout(audit);
+    F6661_1 = std::make_unique<TF6661_1>(this);
+    F6661_1->FunctionCode = FunctionCode;
+    F6661F = std::make_unique<TF6661F>(this);
+    F6661F->InitForm();
+    TFrm_Base_Entry_Head::InitForm(record);
+}
+
+TFrm_Sys_Filter* TF6661::Filter() { return F6661F.get(); }
+
+Tfrm_Base_Entry_Body* TF6661::EntryForm() { return F6661_1.get(); }
+
+// ---- lines ----
+
+void TF6661::GetData() {
+    TFrm_Base_Entry_Head::GetData();
+    show_counts();
+    show_selected();
+}
+
+void TF6661::show_counts() {
+    const TField* audited = AdoQry_Main.FindField("T");
+    const TField* posted = AdoQry_Main.FindField("D");
+    if (!audited || !posted) return;
+    int open = 0;
+    int to_post = 0;
+    for (int row = 0; row < AdoQry_Main.RecordCount(); ++row) {
+        const TClientDataSet::Peek peek(AdoQry_Main, row);
+        if (!audited->AsBoolean()) ++open;
+        if (audited->AsBoolean() && !posted->AsBoolean()) ++to_post;
+    }
+    CountLabel.Caption = "未审核 " + std::to_string(open) + " 张    已审未登帐 " + std::to_string(to_post)
+                         + " 张    共 " + std::to_string(AdoQry_Main.RecordCount()) + " 张";
+}
+
+void TF6661::show_selected() {
+    if (AdoQry_Main.IsEmpty() || !AdoQry_Main.FindField("PZZ_H")) {
+        SelectedLabel.Caption = "";
+        return;
+    }
+    const auto text = [this](const char* field) { return AdoQry_Main.FieldByName(field).DisplayText(); };
+    SelectedLabel.Caption = text("PZZ") + "-" + text("PZZ_H") + "    " + text("BDATE") + "    制单人 "
+                            + text("USER_NAME") + "    附单据 " + text("PZZ_Z") + " 张";
+}
+
+void TF6661::DBGridEhGetCellParams(TField& field, CellParams& params) {
+    TFrm_Base_Entry_Head::DBGridEhGetCellParams(field, params);
+    if (AdoQry_Main.FieldByName("T").AsInteger() == 0) params.Background = not_audited_background;
+}
+
+// ---- saving ----
+
+void TF6661::Action1Execute() {
+    if (AdoQry_Main.IsEmpty()) return;
+    save_as_template(FunctionCode, AdoQry_Main.FieldByName("NOID").AsText());
+}
+
+} // namespace module

@@ -1,0 +1,48 @@
+// List the vouchers: enter, copy, change, delete them; as function 662 audit them.
+#pragma once
+
+#include <memory>
+
+#include "host/forms/Base_Entry_Head.h"
+#include "module/host_names.h"
+
+namespace module {
+
+class TF6661F;
+class TF6661_1;
+
+class TF6661 : public TFrm_Base_Entry_Head {
+public:
+    // What the user sees, from top to bottom.
+    TAction Action1{this, "Action1", "存为模板", "", "copy-plus"};
+    TLabel CountLabel{this, "CountLabel"};       // not audited, audited but not posted, all
+    TLabel SelectedLabel{this, "SelectedLabel"}; // the voucher whose lines are shown
+
+    // What the user does.
+    explicit TF6661(TForm* parent);
+    ~TF6661() override;
+    const char* ClassName() const override { return "TF6661"; }
+    void Action1Execute(); // the selected voucher's lines become a template
+
+    // Steps of every document list that differ here.
+    void InitForm(const Trecord& record) override;
+    void GetData() override;
+
+protected:
+    TFrm_Sys_Filter* Filter() override;
+    Tfrm_Base_Entry_Body* EntryForm() override;
+    void DBGridEhGetCellParams(TField& field, CellParams& params) override;
+
+private:
+    // This form's own rules.
+    void build_columns();
+    void build_layout(bool audit);
+    void show_counts();
+    void show_selected();
+    std::unique_ptr<TF6661F> F6661F;
+    std::unique_ptr<TF6661_1> F6661_1;
+};
+
+extern TF6661* F6661;
+
+} // namespace module

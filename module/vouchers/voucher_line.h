@@ -1,0 +1,38 @@
+// What must be true of a voucher's lines before it is saved.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "host/values/amount.h"
+#include "module/host_names.h"
+#include "host/values/text.h"
+
+namespace module {
+
+// A line as typed.
+struct VoucherLine {
+    std::string summary;
+    std::string account;
+    Amount debit;
+    Amount credit;
+
+    bool has_summary() const { return !trimmed(summary).empty(); }
+    bool has_account() const { return !trimmed(account).empty(); }
+    bool has_amount() const { return !debit.is_zero() || !credit.is_zero(); }
+    // A line that was only begun (a summary and nothing else) or never named stays out of the books.
+    bool is_booked() const { return has_summary() && (has_account() || has_amount()); }
+};
+
+struct LineRefusal {
+    std::string message;
+    int line = -1; // position of the line it is about; -1 for the voucher as a whole
+};
+
+// Why the voucher cannot be saved; nothing when it can. The last faulty line is named first.
+//
+//     {"收货款", "1002", 100, 0}, {"收货款", "1131", 0, 99.99}   →   借贷不平衡!
+std::optional<LineRefusal> why_not_saved(const std::vector<VoucherLine>& lines);
+
+} // namespace module
