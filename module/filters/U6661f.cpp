@@ -12,14 +12,13 @@ namespace module {
 
 TF6661F::TF6661F(TForm* parent) : TFrm_Sys_Filter(parent) {
     Caption = "凭证 · 查询条件";
-    FunctionCode = "661";
     for (TRadioButton* state : {&R1, &R2, &R3}) state->GroupIndex = 1;
     for (TRadioButton* state : {&S1, &S2, &S3}) state->GroupIndex = 2;
     PZZ_H1.Min = PZZ_H2.Min = Amount();
     BindDayCount(BDATE, EDATE, titDATE);
     BindDateMenu(btn_dateset, BDATE, EDATE);
-    layout = Rows({Columns({Field("凭证日期", BDATE, 12), Field("至：", EDATE, 12), Control(titDATE),
-                            Control(btn_dateset)}),
+    layout = Rows({Columns({Field("凭证日期", BDATE, 12), Field("至：", EDATE, 12),
+                            Control(titDATE), Control(btn_dateset)}),
                    Columns({Field("凭 证 号", PZZ_H1, 12), Field("至：", PZZ_H2, 12), Spring()}),
                    Columns({Field("凭 证 字", PZZ, 12), Spring()}),
                    Group("过帐", {Columns({Control(R1), Control(R2), Control(R3), Spring()})}),
@@ -47,24 +46,26 @@ void TF6661F::InitForm() {
     for (TRadioButton* state : {&R1, &R2, &R3, &S1, &S2, &S3}) Remember(*state);
 }
 
-void TF6661F::InitFocu() { BDATE.SetFocus(); }
+void TF6661F::InitFocu() {
+    BDATE.SetFocus();
+}
 
 // ---- checking ----
 
 void TF6661F::btn_okClick() {
     CheckDates(BDATE, EDATE);
     ResultText = condition();
-    Description = " ●凭证日期:(" + BDATE.Text.get() + " 至 " + EDATE.Text.get() + ")     ●凭 证 号:("
-                  + PZZ_H1.Text.get() + " 至 " + PZZ_H2.Text.get() + ")";
+    Description = " ●凭证日期:(" + BDATE.Text.get() + " 至 " + EDATE.Text.get() +
+                  ")     ●凭 证 号:(" + PZZ_H1.Text.get() + " 至 " + PZZ_H2.Text.get() + ")";
     TFrm_Sys_Filter::btn_okClick();
 }
 
 // ---- statements ----
 
 std::string TF6661F::condition() const {
-    std::string text = DateCondition("D6601", BDATE.value(), EDATE.value())
-                       + " AND (D6601.PZZ_H>=" + std::to_string(PZZ_H1.as_integer())
-                       + ") AND (D6601.PZZ_H<=" + std::to_string(PZZ_H2.as_integer()) + ")";
+    std::string text = DateCondition("D6601", BDATE.value(), EDATE.value()) +
+                       " AND (D6601.PZZ_H>=" + std::to_string(PZZ_H1.as_integer()) +
+                       ") AND (D6601.PZZ_H<=" + std::to_string(PZZ_H2.as_integer()) + ")";
     if (R2.Checked) text += " AND (D6601.D=1)";
     if (R3.Checked) text += " AND (D6601.D=0)";
     if (S2.Checked) text += " AND (D6601.T=1)";

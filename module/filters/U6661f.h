@@ -9,18 +9,18 @@ namespace module {
 class TF6661F : public TFrm_Sys_Filter {
 public:
     // What the user sees, from top to bottom.
-    TDateEdit BDATE{this, "BDATE", "凭证日期"};       // first day
-    TDateEdit EDATE{this, "EDATE", "至："};           // last day
-    TLabel titDATE{this, "titDATE"};                  // length of the range
+    TDateEdit BDATE{this, "BDATE", "凭证日期"}; // first day
+    TDateEdit EDATE{this, "EDATE", "至："};     // last day
+    TLabel titDATE{this, "titDATE"};            // length of the range
     TButton btn_dateset{this, "btn_dateset", "时段选择"};
-    TNumberEdit PZZ_H1{this, "PZZ_H1", "凭 证 号"};   // first number
-    TNumberEdit PZZ_H2{this, "PZZ_H2", "至："};       // last number
-    TComboBox PZZ{this, "PZZ", "凭 证 字"};           // voucher word
+    TNumberEdit PZZ_H1{this, "PZZ_H1", "凭 证 号"}; // first number
+    TNumberEdit PZZ_H2{this, "PZZ_H2", "至："};     // last number
+    TComboBox PZZ{this, "PZZ", "凭 证 字"};         // voucher word
     TRadioButton R1{this, "R1", "全部"};
-    TRadioButton R2{this, "R2", "已过帐"};            // posted
+    TRadioButton R2{this, "R2", "已过帐"}; // posted
     TRadioButton R3{this, "R3", "未过帐"};
     TRadioButton S1{this, "S1", "全部"};
-    TRadioButton S2{this, "S2", "已审核"};            // audited
+    TRadioButton S2{this, "S2", "已审核"}; // audited
     TRadioButton S3{this, "S3", "未审核"};
 
     // What the user does.

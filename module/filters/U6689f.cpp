@@ -10,7 +10,6 @@ namespace module {
 
 TF6689F::TF6689F(TForm* parent) : TFrm_Sys_Filter(parent) {
     Caption = "试算平衡表 · 查询条件";
-    FunctionCode = "689";
     EDT1.Min = Amount::from_whole(2000);
     EDT1.Max = Amount::from_whole(2099);
     EDT1.set(std::int64_t{2008});
@@ -23,8 +22,8 @@ TF6689F::TF6689F(TForm* parent) : TFrm_Sys_Filter(parent) {
     EDT3.set(std::int64_t{1});
     layout = Rows({Columns({Field("会计年度:", EDT1, 10), Text("2000 – 2099"), Spring()}),
                    Columns({Field("会计期间:", EDT2, 10), Text("1 – 12 月"), Spring()}),
-                   Columns({Field("科目级别:", EDT3, 10), Text("1 – 5，下次沿用"), Spring()}), Rule(),
-                   Control(Books), Buttons({&btn_ok, &btn_Cancel})});
+                   Columns({Field("科目级别:", EDT3, 10), Text("1 – 5，下次沿用"), Spring()}),
+                   Rule(), Control(Books), Buttons({&btn_ok, &btn_Cancel})});
 }
 
 void TF6689F::InitForm() {
@@ -43,7 +42,9 @@ void TF6689F::FormActivate() {
     Books.Caption = "帐套启用日期 " + FirstPeriod + "    当前会计期间 " + CurrentPeriod;
 }
 
-void TF6689F::InitFocu() { EDT2.SetFocus(); }
+void TF6689F::InitFocu() {
+    EDT2.SetFocus();
+}
 
 // ---- checking ----
 
@@ -69,8 +70,8 @@ void TF6689F::btn_okClick() {
     const auto period = Period::parse(text);
     if (!period) refuse("会计年度和会计期间不能为空!请选择。");
     ResultText = trial_balance_query(*period, EDT3.as_integer());
-    Description = " ●会计年度:" + EDT1.Text.get() + "    ●会计期间:" + EDT2.Text.get()
-                  + "    ●科目级别:" + EDT3.Text.get();
+    Description = " ●会计年度:" + EDT1.Text.get() + "    ●会计期间:" + EDT2.Text.get() +
+                  "    ●科目级别:" + EDT3.Text.get();
     TFrm_Sys_Filter::btn_okClick();
 }
 

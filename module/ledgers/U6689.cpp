@@ -1,4 +1,4 @@
-// Show every account's opening balance, turnover and closing balance of a period, and whether the books balance.
+// Show each account's balances and turnover of a period, and whether the books balance.
 #include "module/ledgers/U6689.h"
 
 #include "module/filters/U6689f.h"
@@ -23,16 +23,17 @@ TF6689::TF6689(TForm* parent) : TFrm_Base_Qry(parent) {
     name.Footer = FooterKind::Text;
     name.FooterText = "（仅合计一级科目,仅显示有业务数据科目）  合计：";
     name.FooterAlign = Alignment::Right;
-    add_side_by_side("期初余额", "B"); // opening balance
+    add_side_by_side("期初余额", "B");   // opening balance
     add_side_by_side("本期发生额", "C"); // turnover of the period
-    add_side_by_side("期末余额", "D"); // closing balance
+    add_side_by_side("期末余额", "D");   // closing balance
     Balanced.Visible = Unbalanced.Visible = false;
     Balanced.FontColor = blue;
     Unbalanced.FontColor = red;
-    layout = Rows({ToolBar({&Act_Locate, &Act_Refresh, nullptr, &Act_Print, &Act_Preview, &Act_Export,
-                            nullptr, &Act_Quit}),
-                   Columns({Control(ConditionLabel), Spring(), Control(Balanced), Control(Unbalanced)}),
-                   Rest(DBGridEh)});
+    layout =
+        Rows({ToolBar({&Act_Locate, &Act_Refresh, nullptr, &Act_Print, &Act_Preview, &Act_Export,
+                       nullptr, &Act_Quit}),
+              Columns({Control(ConditionLabel), Spring(), Control(Balanced), Control(Unbalanced)}),
+              Rest(DBGridEh)});
 }
 
 TF6689::~TF6689() = default;
@@ -61,7 +62,9 @@ void TF6689::InitForm(const Trecord& record) {
     Act_Locate.Execute();
 }
 
-TFrm_Sys_Filter* TF6689::Filter() { return F6689F.get(); }
+TFrm_Sys_Filter* TF6689::Filter() {
+    return F6689F.get();
+}
 
 // ---- lines ----
 

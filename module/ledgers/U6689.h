@@ -1,4 +1,4 @@
-// Show every account's opening balance, turnover and closing balance of a period, and whether the books balance.
+// Show each account's balances and turnover of a period, and whether the books balance.
 #pragma once
 
 #include <memory>

@@ -1,6 +1,8 @@
 // The statement behind the trial balance.
 #include "module/ledgers/trial_balance_query.h"
 
+#include "host/values/sql_text.h"
+
 namespace module {
 namespace {
 
@@ -18,23 +20,24 @@ const char* const with_figures =
     "and (cc1=0) and (cc2=0) and (dd1=0) and (dd2=0)) order by km_id;";
 
 std::string closing_of_the_period(const std::string& period) {
-    return "INNER JOIN (SELECT km_id,J,D FROM D6602   WHERE QJ='" + period
-           + "' AND INX=1) EN ON D6602.KM_ID=EN.KM_ID ";
+    return "INNER JOIN (SELECT km_id,J,D FROM D6602   WHERE QJ=" + period +
+           " AND INX=1) EN ON D6602.KM_ID=EN.KM_ID ";
 }
 
 // An account that is new in the period has no balance in the one before.
 std::string closing_of_the_period_before(const std::string& before) {
-    return "left join (SELECT km_id,J,D FROM D6602  WHERE QJ='" + before
-           + "' AND INX=1) BE ON D6602.KM_ID=BE.KM_ID ";
+    return "left join (SELECT km_id,J,D FROM D6602  WHERE QJ=" + before +
+           " AND INX=1) BE ON D6602.KM_ID=BE.KM_ID ";
 }
 
 } // namespace
 
 std::string trial_balance_query(Period period, std::int64_t level) {
-    const std::string current = period.to_text();
-    return columns + closing_of_the_period(current)
-           + closing_of_the_period_before(period.previous().to_text()) + "WHERE (QJ='" + current
-           + "') AND (INX=0) AND (km_j<=" + std::to_string(level) + "))t where " + with_figures;
+    const std::string current = quoted(period.to_text());
+    return columns + closing_of_the_period(current) +
+           closing_of_the_period_before(quoted(period.previous().to_text())) +
+           "WHERE (QJ=" + current + ") AND (INX=0) AND (km_j<=" + std::to_string(level) +
+           "))t where " + with_figures;
 }
 
 } // namespace module

@@ -4,6 +4,7 @@
 #include "host/values/sql_text.h"
 #include "module/masterdata/U6681_1.h"
 #include "module/masterdata/account_level.h"
+#include "module/refuse.h"
 
 namespace module {
 
@@ -12,8 +13,8 @@ TF6681* F6681 = nullptr;
 namespace {
 
 std::string accounts_of_category(int category) {
-    return "SELECT KM_ID,KM_NAME, OID  FROM D6801 where km_fl=" + std::to_string(category)
-           + " ORDER BY OID,KM_ID";
+    return "SELECT KM_ID,KM_NAME, OID  FROM D6801 where km_fl=" + std::to_string(category) +
+           " ORDER BY OID,KM_ID";
 }
 
 } // namespace
@@ -51,7 +52,8 @@ void TF6681::InitForm(const Trecord& record) {
     DeleteStatement = "delete from D6801 Where km_ID=%S";
     Uses = {{"SELECT COUNT(*) AS I FROM D6601A WHERE KM_ID=%S", "已有凭证使用该科目"},
             {"SELECT COUNT(*) AS I FROM D6601M WHERE KM_ID=%S", "已有凭证模板使用该科目"},
-            {"SELECT COUNT(*) AS I FROM D6602 WHERE KM_ID=%S AND (J<>0 OR D<>0)", "该科目已有余额或发生额"},
+            {"SELECT COUNT(*) AS I FROM D6602 WHERE KM_ID=%S AND (J<>0 OR D<>0)",
+             "该科目已有余额或发生额"},
             {"SELECT COUNT(*) AS I FROM D6804 WHERE KM_ID=%S", "已有收支类别使用该科目"}};
     F6681_1 = std::make_unique<TF6681_1>(this);
     SpeedButton1.Down = true;
@@ -59,7 +61,9 @@ void TF6681::InitForm(const Trecord& record) {
     TFrm_Base_Node::InitForm(record);
 }
 
-TFrm_Base_Node_d* TF6681::Dialog() { return F6681_1.get(); }
+TFrm_Base_Node_d* TF6681::Dialog() {
+    return F6681_1.get();
+}
 
 // ---- lines ----
 
@@ -85,18 +89,16 @@ void TF6681::Act_CopyAddExecute() {
 void TF6681::refuse_below_account_in_use() {
     const TTreeNode* node = TreeView1.Selected();
     if (level_below(node) > deepest_account_level) {
-        DISPINFO("会计科目最多五级,不能在“" + node->Text + "”下再增加下级科目!", 5);
-        Abort();
+        refuse("会计科目最多五级,不能在“" + node->Text + "”下再增加下级科目!");
     }
     if (!node->Children.empty()) return;
     const std::string code = quoted(GETCODE(node->Text));
     TClientDataSet use;
     opensql(use, FunctionCode,
-            "SELECT (SELECT COUNT(*) FROM D6601A WHERE KM_ID=" + code
-                + ")+(SELECT COUNT(*) FROM D6602 WHERE KM_ID=" + code + " AND (J<>0 OR D<>0)) AS I");
+            "SELECT (SELECT COUNT(*) FROM D6601A WHERE KM_ID=" + code +
+                ")+(SELECT COUNT(*) FROM D6602 WHERE KM_ID=" + code + " AND (J<>0 OR D<>0)) AS I");
     if (use.IsEmpty() || use.FieldByName("I").AsInteger() == 0) return;
-    DISPINFO("科目“" + node->Text + "”已有凭证或余额,不能再增加下级科目!请在同级新增科目。", 5);
-    Abort();
+    refuse("科目“" + node->Text + "”已有凭证或余额,不能再增加下级科目!请在同级新增科目。");
 }
 
 } // namespace module

@@ -4,8 +4,9 @@
 #include "host/contract/Zpy.h"
 #include "host/dataset/client_dataset.h"
 #include "host/values/sql_text.h"
-#include "module/masterdata/account_level.h"
 #include "host/values/text.h"
+#include "module/masterdata/account_level.h"
+#include "module/refuse.h"
 
 namespace module {
 
@@ -13,7 +14,6 @@ namespace module {
 
 TF6681_1::TF6681_1(TForm* parent) : TFrm_Base_Node_d(parent) {
     Caption = "会计科目";
-    FunctionCode = "681";
     t0.MaxLength = 50;
     t0.UpperCase = true;
     t1.MaxLength = 100;
@@ -26,7 +26,9 @@ TF6681_1::TF6681_1(TForm* parent) : TFrm_Base_Node_d(parent) {
                    Control(CK1), Buttons({&btn_ok, &btn_Cancel})});
 }
 
-void TF6681_1::initbtn(const TSpeedButton& category) { category_ = category.Tag; }
+void TF6681_1::initbtn(const TSpeedButton& category) {
+    category_ = category.Tag;
+}
 
 void TF6681_1::RefreshData() {
     CK1.Checked = false;
@@ -46,8 +48,7 @@ void TF6681_1::load_selected_account() {
     opensql(account, FunctionCode,
             "SELECT *  FROM D6801 WHERE (KM_ID=" + quoted(selected_code()) + ")");
     if (account.IsEmpty()) {
-        DISPINFO("科目“" + selected_code() + "”已被删除!请刷新后再试。", 5);
-        Abort();
+        refuse("科目“" + selected_code() + "”已被删除!请刷新后再试。");
     }
     t0.Text = account.FieldByName("km_id").AsText();
     t1.Text = account.FieldByName("km_name").AsText();
@@ -69,12 +70,6 @@ void TF6681_1::t1Exit() {
 
 // ---- checking ----
 
-bool TF6681_1::CheckAll() {
-    if (adding()) check_code();
-    CheckBlank(t1, "科目名称");
-    return true;
-}
-
 void TF6681_1::check_code() {
     CheckBlankInstr(t0, "科目代号");
     CheckBlank(t0, "科目代号");
@@ -82,25 +77,25 @@ void TF6681_1::check_code() {
     TClientDataSet known;
     opensql(known, FunctionCode, "select km_id from D6801  where km_id=" + quoted(t0.Text.get()));
     if (known.IsEmpty()) return;
-    DISPINFO("科目代号 已登记!", 5);
     t0.SetFocus();
-    Abort();
+    refuse("科目代号 已登记!");
 }
 
 // ---- statements ----
 
 std::string TF6681_1::insert_account(const std::string& level) const {
-    return "insert into D6801 (KM_ID, KM_NAME, FX, OID, PYM, KM_FL, KM_J, KM_K) ValueS("
-           + quoted(t0.Text.get()) + "," + quoted(t1.Text.get()) + "," + quoted(side()) + ","
-           + quoted(parent_code()) + "," + quoted(GetPY(trimmed(t1.Text))) + ","
-           + quoted(std::to_string(category_)) + "," + quoted(level) + ","
-           + quoted(boltos(CK1.Checked)) + ")";
+    return "insert into D6801 (KM_ID, KM_NAME, FX, OID, PYM, KM_FL, KM_J, KM_K) ValueS(" +
+           quoted(t0.Text.get()) + "," + quoted(t1.Text.get()) + "," + quoted(side()) + "," +
+           quoted(parent_code()) + "," + quoted(GetPY(trimmed(t1.Text.get()))) + "," +
+           quoted(std::to_string(category_)) + "," + quoted(level) + "," +
+           quoted(boltos(CK1.Checked)) + ")";
 }
 
 std::string TF6681_1::update_account(const std::string& level) const {
-    return "UPDATE D6801 SET  km_NAME = " + quoted(t1.Text.get()) + ",km_J= " + quoted(level)
-           + ",km_k= " + quoted(boltos(CK1.Checked)) + ",fx= " + quoted(side())
-           + ",PYM=" + quoted(GetPY(trimmed(t1.Text))) + " where km_id=" + quoted(selected_code());
+    return "UPDATE D6801 SET  km_NAME = " + quoted(t1.Text.get()) + ",km_J= " + quoted(level) +
+           ",km_k= " + quoted(boltos(CK1.Checked)) + ",fx= " + quoted(side()) +
+           ",PYM=" + quoted(GetPY(trimmed(t1.Text.get()))) +
+           " where km_id=" + quoted(selected_code());
 }
 
 // ---- saving ----
@@ -129,7 +124,7 @@ std::string TF6681_1::parent_code() const {
 void TF6681_1::show_in_tree() {
     TTreeNode* node = Tree->Selected();
     if (Mode == "Edit") {
-        Tree->SetText(node, trimmed(t0.Text) + " " + trimmed(t1.Text));
+        Tree->SetText(node, trimmed(t0.Text.get()) + " " + trimmed(t1.Text.get()));
         return;
     }
     const std::string text = t0.Text.get() + " " + t1.Text.get();

@@ -9,10 +9,10 @@ namespace module {
 class TF6681_1 : public TFrm_Base_Node_d {
 public:
     // What the user sees, from top to bottom.
-    TEdit t0{this, "t0", "科目代号"};         // account code, unique
-    TEdit t1{this, "t1", "科目名称"};         // account name
-    TRadioButton RB1{this, "RB1", "借"};      // balance side debit
-    TRadioButton RB2{this, "RB2", "贷"};      // balance side credit
+    TEdit t0{this, "t0", "科目代号"};                                  // account code, unique
+    TEdit t1{this, "t1", "科目名称"};                                  // account name
+    TRadioButton RB1{this, "RB1", "借"};                               // balance side debit
+    TRadioButton RB2{this, "RB2", "贷"};                               // balance side credit
     TCheckBox CK1{this, "CK1", "核算现金流量(1001-1009之间科目生效)"}; // cash-flow accounting
 
     // What the user does.
@@ -25,7 +25,6 @@ public:
     // Steps of every tree dialog that differ here.
     void RefreshData() override;
     void SaveData() override;
-    bool CheckAll() override;
 
 private:
     // This form's own rules.

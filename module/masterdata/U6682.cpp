@@ -12,7 +12,7 @@ TF6682* F6682 = nullptr;
 
 TF6682::TF6682(TForm* parent) : TFrm_Base_Outer(parent) {
     Caption = "凭证字";
-    AddColumn("PZZ", "凭证字", 10);       // voucher word
+    AddColumn("PZZ", "凭证字", 10);         // voucher word
     AddColumn("PZZ_PRINT", "打印标题", 24); // printed title
     AddColumn("T", "是否默认", 8).Align = Alignment::Center;
     layout = code_list_layout(*this);
@@ -30,6 +30,8 @@ void TF6682::InitForm(const Trecord& record) {
     TFrm_Base_Outer::InitForm(record);
 }
 
-TFrm_Base_Detail* TF6682::Dialog() { return F6682_1.get(); }
+TFrm_Base_Detail* TF6682::Dialog() {
+    return F6682_1.get();
+}
 
 } // namespace module

@@ -4,8 +4,9 @@
 #include "host/contract/Zpy.h"
 #include "host/dataset/client_dataset.h"
 #include "host/values/sql_text.h"
-#include "module/masterdata/list_row.h"
 #include "host/values/text.h"
+#include "module/masterdata/list_row.h"
+#include "module/refuse.h"
 
 namespace module {
 
@@ -13,7 +14,6 @@ namespace module {
 
 TF6682_1::TF6682_1(TForm* parent) : TFrm_Base_Detail(parent) {
     Caption = "凭证字";
-    FunctionCode = "682";
     Edit1.MaxLength = 10;
     PZZ_PRINT.MaxLength = 20;
     Edit1.OnExit = [this] { Edit1Exit(); };
@@ -44,12 +44,6 @@ void TF6682_1::PZZ_PRINTExit() {
 
 // ---- checking ----
 
-bool TF6682_1::CheckAll() {
-    if (adding()) check_word();
-    CheckBlank(PZZ_PRINT, "打印标题");
-    return true;
-}
-
 void TF6682_1::check_word() {
     CheckBlankInstr(Edit1, "凭证字");
     CheckBlank(Edit1, "凭证字");
@@ -57,24 +51,23 @@ void TF6682_1::check_word() {
     TClientDataSet known;
     opensql(known, FunctionCode, "select pzz from d6802 where pzz=" + quoted(Edit1.Text.get()));
     if (known.IsEmpty()) return;
-    DISPINFO("凭证字已登记!", 5);
     Edit1.SetFocus();
-    Abort();
+    refuse("凭证字已登记!");
 }
 
 // ---- statements ----
 
 std::string TF6682_1::save_word() const {
     const std::string title = quoted(PZZ_PRINT.Text.get());
-    const std::string pinyin = quoted(GetPY(trimmed(PZZ_PRINT.Text)));
+    const std::string pinyin = quoted(GetPY(trimmed(PZZ_PRINT.Text.get())));
     const std::string flag = T.Checked ? "1" : "0";
     const std::string clear_the_default = T.Checked ? "update d6802 set t=0;" : "";
     if (adding()) {
-        return clear_the_default + "insert into d6802 (PZZ,PZZ_PRINT,T,pym)ValueS("
-               + quoted(Edit1.Text.get()) + "," + title + "," + flag + "," + pinyin + ")";
+        return clear_the_default + "insert into d6802 (PZZ,PZZ_PRINT,T,pym)ValueS(" +
+               quoted(Edit1.Text.get()) + "," + title + "," + flag + "," + pinyin + ")";
     }
-    return clear_the_default + "update d6802 set PZZ_PRINT=" + title + ",PYM=" + pinyin
-           + ",T=" + flag + " where PZZ=" + quoted(List->FieldByName("PZZ").AsText());
+    return clear_the_default + "update d6802 set PZZ_PRINT=" + title + ",PYM=" + pinyin +
+           ",T=" + flag + " where PZZ=" + quoted(List->FieldByName("PZZ").AsText());
 }
 
 // ---- saving ----

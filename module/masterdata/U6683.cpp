@@ -27,6 +27,8 @@ void TF6683::InitForm(const Trecord& record) {
     TFrm_Base_Outer::InitForm(record);
 }
 
-TFrm_Base_Detail* TF6683::Dialog() { return F6683_1.get(); }
+TFrm_Base_Detail* TF6683::Dialog() {
+    return F6683_1.get();
+}
 
 } // namespace module

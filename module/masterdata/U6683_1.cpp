@@ -12,7 +12,6 @@ namespace module {
 
 TF6683_1::TF6683_1(TForm* parent) : TFrm_Base_Detail(parent) {
     Caption = "常用摘要";
-    FunctionCode = "683";
     ID.Visible = false;
     ZY.MaxLength = 100;
     ZY.OnExit = [this] { ZYExit(); };
@@ -32,24 +31,17 @@ void TF6683_1::ZYExit() {
     if (!leaving_by_cancel()) CheckBlank(ZY, "摘要");
 }
 
-// ---- checking ----
-
-bool TF6683_1::CheckAll() {
-    CheckBlank(ZY, "摘要");
-    return true;
-}
-
 // ---- statements ----
 
 std::string TF6683_1::save_summary() const {
     const std::string summary = quoted(ZY.Text.get());
     const std::string pinyin = quoted(GetPY(ZY.Text));
     if (adding()) {
-        return "insert into d6803 (GUID,ZY,pym)ValueS(" + quoted(ID.Text.get()) + "," + summary + ","
-               + pinyin + ")";
+        return "insert into d6803 (GUID,ZY,pym)ValueS(" + quoted(ID.Text.get()) + "," + summary +
+               "," + pinyin + ")";
     }
-    return "update d6803 set ZY=" + summary + ",pym=" + pinyin
-           + " where GUID=" + quoted(List->FieldByName("GUID").AsText());
+    return "update d6803 set ZY=" + summary + ",pym=" + pinyin +
+           " where GUID=" + quoted(List->FieldByName("GUID").AsText());
 }
 
 // ---- saving ----

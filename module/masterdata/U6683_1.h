@@ -20,7 +20,6 @@ public:
     // Steps of every edit dialog that differ here.
     void RefreshData() override;
     void SaveData() override;
-    bool CheckAll() override;
 
 private:
     // This form's own rules.

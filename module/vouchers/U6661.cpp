@@ -32,12 +32,12 @@ TF6661::TF6661(TForm* parent) : TFrm_Base_Entry_Head(parent) {
 TF6661::~TF6661() = default;
 
 void TF6661::build_columns() {
-    AddColumn("PZQJ", "期间", 9);             // accounting period
+    AddColumn("PZQJ", "期间", 9); // accounting period
     AddColumn("PZZ", "凭证字", 7).Align = Alignment::Center;
     AddColumn("PZZ_H", "号", 6).Align = Alignment::Right;
     AddColumn("PZZ_Z", "附单据(张)", 9).Align = Alignment::Right;
     AddColumn("BDATE", "日期", 11);
-    AddColumn("USER_ID", "用户号", 9);        // maker
+    AddColumn("USER_ID", "用户号", 9); // maker
     AddColumn("USER_NAME", "制单人", 11);
     AddColumn("sk", "审核人", 11);
     AddColumn("sdate", "审核日期", 11);
@@ -59,7 +59,10 @@ void TF6661::build_columns() {
     name.Footer = FooterKind::Text;
     name.FooterText = "合计";
     DBGridEhLine.Columns = {{.FieldName = "ZY", .Title = "摘要", .Width = 32},
-                            {.FieldName = "KM_ID", .Title = "科目", .Width = 12}, name, debit, credit};
+                            {.FieldName = "KM_ID", .Title = "科目", .Width = 12},
+                            name,
+                            debit,
+                            credit};
     for (const char* side : {"J", "D"}) {
         AdoQry_Line.DefineField(side, FieldType::Amount).DisplayFormat = "0.00";
     }
@@ -68,7 +71,8 @@ void TF6661::build_columns() {
 void TF6661::build_layout(bool audit) {
     Act_Audit.Visible = audit;
     Act_UnAudit.Visible = audit;
-    for (TAction* action : {&Act_Add, &Act_CopyAdd, &Act_Delete, &Action1}) action->Visible = !audit;
+    for (TAction* action : {&Act_Add, &Act_CopyAdd, &Act_Delete, &Action1})
+        action->Visible = !audit;
     Act_Modify.Caption = audit ? "查看凭证" : "修改";
     std::vector<TAction*> own = {&Act_Add, &Act_CopyAdd, &Act_Modify, &Act_Delete};
     if (audit) own = {&Act_Audit, &Act_UnAudit, nullptr, &Act_Modify};
@@ -77,8 +81,9 @@ void TF6661::build_layout(bool audit) {
     }
     if (!audit) own.insert(own.end(), {nullptr, &Action1});
     own.insert(own.end(), {nullptr, &Act_Print, &Act_Preview, &Act_Export, nullptr, &Act_Quit});
-    layout = Rows({ToolBar(own), Columns({Control(ConditionLabel), Spring(), Control(CountLabel)}),
-                   Splitter(Rest(DBGridEh), Rows({Control(SelectedLabel), Rest(DBGridEhLine)}), 65)});
+    layout =
+        Rows({ToolBar(own), Columns({Control(ConditionLabel), Spring(), Control(CountLabel)}),
+              Splitter(Rest(DBGridEh), Rows({Control(SelectedLabel), Rest(DBGridEhLine)}), 65)});
 }
 
 void TF6661::InitForm(const Trecord& record) {
@@ -96,15 +101,19 @@ void TF6661::InitForm(const Trecord& record) {
                 .period_field = "PZQJ"};
     build_layout(audit);
     F6661_1 = std::make_unique<TF6661_1>(this);
-    F6661_1->FunctionCode = FunctionCode;
+    F6661_1->FreeOnClose = false; // the list keeps it
     F6661F = std::make_unique<TF6661F>(this);
     F6661F->InitForm();
     TFrm_Base_Entry_Head::InitForm(record);
 }
 
-TFrm_Sys_Filter* TF6661::Filter() { return F6661F.get(); }
+TFrm_Sys_Filter* TF6661::Filter() {
+    return F6661F.get();
+}
 
-Tfrm_Base_Entry_Body* TF6661::EntryForm() { return F6661_1.get(); }
+Tfrm_Base_Entry_Body* TF6661::EntryForm() {
+    return F6661_1.get();
+}
 
 // ---- lines ----
 
@@ -125,8 +134,9 @@ void TF6661::show_counts() {
         if (!audited->AsBoolean()) ++open;
         if (audited->AsBoolean() && !posted->AsBoolean()) ++to_post;
     }
-    CountLabel.Caption = "未审核 " + std::to_string(open) + " 张    已审未登帐 " + std::to_string(to_post)
-                         + " 张    共 " + std::to_string(AdoQry_Main.RecordCount()) + " 张";
+    CountLabel.Caption = "未审核 " + std::to_string(open) + " 张    已审未登帐 " +
+                         std::to_string(to_post) + " 张    共 " +
+                         std::to_string(AdoQry_Main.RecordCount()) + " 张";
 }
 
 void TF6661::show_selected() {
@@ -134,9 +144,12 @@ void TF6661::show_selected() {
         SelectedLabel.Caption = "";
         return;
     }
-    const auto text = [this](const char* field) { return AdoQry_Main.FieldByName(field).DisplayText(); };
-    SelectedLabel.Caption = text("PZZ") + "-" + text("PZZ_H") + "    " + text("BDATE") + "    制单人 "
-                            + text("USER_NAME") + "    附单据 " + text("PZZ_Z") + " 张";
+    const auto text = [this](const char* field) {
+        return AdoQry_Main.FieldByName(field).DisplayText();
+    };
+    SelectedLabel.Caption = text("PZZ") + "-" + text("PZZ_H") + "    " + text("BDATE") +
+                            "    制单人 " + text("USER_NAME") + "    附单据 " + text("PZZ_Z") +
+                            " 张";
 }
 
 void TF6661::DBGridEhGetCellParams(TField& field, CellParams& params) {

@@ -2,6 +2,7 @@
 #include "module/vouchers/U6661_1.h"
 
 #include "host/ports/host.h"
+#include "host/values/period.h"
 #include "host/values/sql_text.h"
 #include "module/refuse.h"
 #include "module/vouchers/U6661_2.h"
@@ -56,8 +57,8 @@ void TF6661_1::bind_events() {
         return suggest(column, typed);
     };
     PZZ.OnChange = [this] { PZZChange(); };
-    for (TEdit* edit : {static_cast<TEdit*>(&PZZ_H), static_cast<TEdit*>(&PZZ_Z),
-                        static_cast<TEdit*>(&BDATE)}) {
+    for (TEdit* edit :
+         {static_cast<TEdit*>(&PZZ_H), static_cast<TEdit*>(&PZZ_Z), static_cast<TEdit*>(&BDATE)}) {
         edit->OnChange = [this] { Touch(); };
     }
     Act_xj.OnExecute = [this] { Act_xjExecute(); };
@@ -181,14 +182,14 @@ const LeafAccount& TF6661_1::account_meant_by(const std::string& typed) {
     TClientDataSet parent;
     opensql(parent, FunctionCode, "SELECT KM_NAME_NEW FROM V6801 WHERE KM_ID=" + quoted(typed));
     if (!parent.IsEmpty()) {
-        refuse("科目 " + typed + " " + parent.FieldByName("KM_NAME_NEW").AsText()
-               + " 还有下级科目,不能直接记帐!请录入它的末级科目。");
+        refuse("科目 " + typed + " " + parent.FieldByName("KM_NAME_NEW").AsText() +
+               " 还有下级科目,不能直接记帐!请录入它的末级科目。");
     }
     const auto found = leaf_accounts_.matching(typed);
     if (found.size() == 1) return *found.front();
     if (found.empty()) refuse("科目 " + typed + " 不存在!请按 F4 选择科目,或先在会计科目中新增。");
-    refuse("有 " + std::to_string(found.size()) + " 个科目与“" + typed
-           + "”相符!请录入完整的科目代号,或按 F4 选择。");
+    refuse("有 " + std::to_string(found.size()) + " 个科目与“" + typed +
+           "”相符!请录入完整的科目代号,或按 F4 选择。");
 }
 
 void TF6661_1::SetFloatText(TField& field, const std::string& typed) {
@@ -244,7 +245,8 @@ void TF6661_1::refresh_totals() {
     CreditTotal.Caption = grid_.credit().to_text();
     Difference.Caption = difference.is_zero() ? "" : "差额 " + difference_text(difference);
     Difference.Visible = !difference.is_zero();
-    GridColumn& name = DBGridEh.Columns[static_cast<std::size_t>(DBGridEh.column_index("KM_NAME_NEW"))];
+    GridColumn& name =
+        DBGridEh.Columns[static_cast<std::size_t>(DBGridEh.column_index("KM_NAME_NEW"))];
     const std::string words = grid_.debit().is_zero() ? "" : capital_numerals(grid_.debit());
     if (name.FooterText == words) return;
     name.FooterText = words;
@@ -255,7 +257,9 @@ void TF6661_1::refresh_title() {
     SetTabTitle(Caption.get() + " " + PZZ.Text.get() + "-" + PZZ_H.Text.get());
 }
 
-void TF6661_1::Act_OtherExecute() { DISPINFO("模块暂不开放!", 5); }
+void TF6661_1::Act_OtherExecute() {
+    DISPINFO("模块暂不开放!", 5);
+}
 
 void TF6661_1::Act_xjExecute() {
     TClientDataSet lines;
@@ -266,7 +270,9 @@ void TF6661_1::Act_xjExecute() {
     DISPINFO("当前凭证没有现金流量核算的科目存在!不需要进行现金流量的分配!", 5);
 }
 
-void TF6661_1::PoPMenuPopup() { N2.Enabled = !Key.empty() && !AdoQry_Main.IsEmpty(); }
+void TF6661_1::PoPMenuPopup() {
+    N2.Enabled = !Key.empty() && !AdoQry_Main.IsEmpty();
+}
 
 void TF6661_1::N2Click() {
     if (AdoQry_Main.IsEmpty()) return;
@@ -296,8 +302,8 @@ void TF6661_1::check_head() {
     const auto day = BDATE.date();
     if (!period || (day && period->contains(*day))) return;
     BDATE.SetFocus();
-    refuse("凭证日期 " + BDATE.Text.get() + " 不在当前会计期间 " + period_ + " 内!请改为 "
-           + period->first_day().to_text() + " 至 " + period->last_day().to_text() + " 之间的日期。");
+    refuse("凭证日期 " + BDATE.Text.get() + " 不在当前会计期间 " + period_ + " 内!请改为 " +
+           period->first_day().to_text() + " 至 " + period->last_day().to_text() + " 之间的日期。");
 }
 
 // A copied voucher may name accounts that were closed or divided since.
@@ -326,7 +332,8 @@ std::string TF6661_1::voucher_as_stored(const std::string& key) {
         TClientDataSet rows;
         opensql(rows, FunctionCode, query);
         for (int row = 0; row < rows.RecordCount(); ++row) {
-            for (const auto& field : rows.Fields()) text += rows.text_at(row, field->index()) + '\x1f';
+            for (const auto& field : rows.Fields())
+                text += rows.text_at(row, field->index()) + '\x1f';
         }
     }
     return text;
@@ -351,9 +358,9 @@ void TF6661_1::SaveData() {
         refuse("凭证:" + head.word + "-" + head.number + "已存在!");
     }
     Tfrm_Base_Entry_Body::SaveData();
-    const std::string batch = (own_key.empty() ? "" : delete_voucher(own_key))
-                              + insert_voucher_head(head)
-                              + insert_voucher_lines(head.key, grid_.read());
+    const std::string batch = (own_key.empty() ? "" : delete_voucher(own_key)) +
+                              insert_voucher_head(head) +
+                              insert_voucher_lines(head.key, grid_.read());
     const std::string answer =
         ExecSql(FunctionCode, head.key, Mode, batch, 65535, false, true, false, true);
     if (answer == "Y") Saved(head.key);

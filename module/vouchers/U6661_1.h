@@ -17,28 +17,28 @@ class TF6661_3;
 class TF6661_1 : public Tfrm_Base_Entry_Body {
 public:
     // What the user sees, from top to bottom.
-    TComboBox PZZ{this, "PZZ", "凭证字"};             // voucher word
-    TNumberEdit PZZ_H{this, "PZZ_H", " 号"};          // number within period and word
-    TLabel PZQJ{this, "PZQJ"};                        // accounting period
-    TDateEdit BDATE{this, "BDATE", "日期"};           // voucher date, within the period
-    TNumberEdit PZZ_Z{this, "PZZ_Z", "附单据(张)"};   // number of attached documents
-    TLabel USER_ID{this, "USER_ID"};                  // maker's name
-    TLabel AuditState{this, "AuditState"};            // not audited, audited by, posted
-    TLabel EDATE{this, "EDATE"};                      // audit date
+    TComboBox PZZ{this, "PZZ", "凭证字"};           // voucher word
+    TNumberEdit PZZ_H{this, "PZZ_H", " 号"};        // number within period and word
+    TLabel PZQJ{this, "PZQJ"};                      // accounting period
+    TDateEdit BDATE{this, "BDATE", "日期"};         // voucher date, within the period
+    TNumberEdit PZZ_Z{this, "PZZ_Z", "附单据(张)"}; // number of attached documents
+    TLabel USER_ID{this, "USER_ID"};                // maker's name
+    TLabel AuditState{this, "AuditState"};          // not audited, audited by, posted
+    TLabel EDATE{this, "EDATE"};                    // audit date
     TLabel DebitTotal{this, "DebitTotal"};
     TLabel CreditTotal{this, "CreditTotal"};
-    TLabel Difference{this, "Difference"};            // which side is more, and by how much
+    TLabel Difference{this, "Difference"};                 // which side is more, and by how much
     TAction Act_xj{this, "Act_xj", "分配", "F8", "split"}; // cash-flow allocation
-    TMenuItem N2{this, "N2", "存为模板"};             // save as template
+    TMenuItem N2{this, "N2", "存为模板"};                  // save as template
     TPopupMenu PoPMenu{this, "PoPMenu"};
 
     // What the user does.
     explicit TF6661_1(TForm* parent);
     ~TF6661_1() override;
     const char* ClassName() const override { return "TF6661_1"; }
-    void PZZChange();      // another word has its own numbers
-    void N2Click();        // the saved lines become a template
-    void Act_xjExecute();  // cash lines are allocated to cash-flow items
+    void PZZChange();     // another word has its own numbers
+    void N2Click();       // the saved lines become a template
+    void Act_xjExecute(); // cash lines are allocated to cash-flow items
     void PoPMenuPopup();
 
     // Steps of every document that differ here.
@@ -81,9 +81,9 @@ private:
 
     VoucherGrid grid_{AdoQry_Main};
     LeafAccounts leaf_accounts_;
-    std::string period_;         // current period of the books
-    bool single_word_ = false;   // all vouchers carry one word
-    std::string as_opened_;      // what was stored when the voucher was opened
+    std::string period_;       // current period of the books
+    bool single_word_ = false; // all vouchers carry one word
+    std::string as_opened_;    // what was stored when the voucher was opened
     std::unique_ptr<TF6661_2> F6661_2;
     std::unique_ptr<TF6661_3> F6661_3;
 };

@@ -21,8 +21,8 @@ TF6661_2::TF6661_2(TForm* parent) : TFrm_Base_Dialog(parent) {
     wl_name.OnChange = [this] { wl_nameChange(); };
     BTN_INS.OnClick = [this] { BTN_INSClick(); };
     DBGridEh.OnDblClick = [this] { btn_ok.Click(); };
-    layout = Rows({Field("摘要", wl_name, 32), Rest(DBGridEh),
-                   Buttons({&BTN_INS, &btn_ok, &btn_Cancel})});
+    layout = Rows(
+        {Field("摘要", wl_name, 32), Rest(DBGridEh), Buttons({&BTN_INS, &btn_ok, &btn_Cancel})});
 }
 
 void TF6661_2::init(TClientDataSet& lines, const std::string& function) {
@@ -70,7 +70,9 @@ void TF6661_2::hand_over() {
     lines_->FieldByName("ZY").SetText(AdoQry_Main.FieldByName("ZY").AsText());
 }
 
-void TF6661_2::BTN_INSClick() { hand_over(); }
+void TF6661_2::BTN_INSClick() {
+    hand_over();
+}
 
 void TF6661_2::btn_okClick() {
     hand_over();

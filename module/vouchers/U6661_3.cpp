@@ -16,17 +16,19 @@ TF6661_3::TF6661_3(TForm* parent) : TFrm_Base_Dialog(parent) {
     AdoQry_Main.DefineField("km_name_new", FieldType::Text, 610);
     AdoQry_Main.DefineField("pym", FieldType::Text, 100);
     AdoQry_Main.Open();
-    DBGridEh.Columns = {{.FieldName = "km_ID", .Title = "科目", .Width = 14, .ReadOnly = true},
-                        {.FieldName = "km_name_new", .Title = "会计科目", .Width = -1, .ReadOnly = true},
-                        {.FieldName = "pym", .Title = "拼音码", .Width = 12, .ReadOnly = true}};
+    DBGridEh.Columns = {
+        {.FieldName = "km_ID", .Title = "科目", .Width = 14, .ReadOnly = true},
+        {.FieldName = "km_name_new", .Title = "会计科目", .Width = -1, .ReadOnly = true},
+        {.FieldName = "pym", .Title = "拼音码", .Width = 12, .ReadOnly = true}};
     DBGridEh.AppendOnEnter = false;
     DBGridEh.EmptyText = "没有相符的科目";
     btn_ins.KeyHint = "Insert";
     wl_id.OnChange = [this] { WL_IDChange(); };
     btn_ins.OnClick = [this] { BTN_INSClick(); };
     DBGridEh.OnDblClick = [this] { btn_ok.Click(); };
-    layout = Rows({Field("科目", wl_id, 32), Text("提示：您可以录入科目代号，科目名称，拼音码  进行检索"),
-                   Rest(DBGridEh), Buttons({&btn_ins, &btn_ok, &btn_Cancel})});
+    layout = Rows({Field("科目", wl_id, 32),
+                   Text("提示：您可以录入科目代号，科目名称，拼音码  进行检索"), Rest(DBGridEh),
+                   Buttons({&btn_ins, &btn_ok, &btn_Cancel})});
 }
 
 void TF6661_3::init(TClientDataSet& lines, TLinkEdit* edit, const std::string& function,
@@ -91,7 +93,9 @@ void TF6661_3::hand_over() {
     lines_->FieldByName(code_field_).SetText(code);
 }
 
-void TF6661_3::BTN_INSClick() { hand_over(); }
+void TF6661_3::BTN_INSClick() {
+    hand_over();
+}
 
 void TF6661_3::btn_okClick() {
     hand_over();

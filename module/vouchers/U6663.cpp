@@ -32,7 +32,6 @@ TF6663::TF6663(TForm* parent) : TFrm_Base_Dialog(parent) {
     R1.GroupIndex = R2.GroupIndex = 1;
     restore_choice();
     R1.OnClick = R2.OnClick = [this] { remember_choice(); };
-    BDATE.Visible = true;
     layout = Rows({Columns({Text("当前会计年份及月份为:"), Control(BDATE), Spring()}),
                    Columns({Text("已审未登帐"), Control(AuditedCount), Spring(), Text("未审凭证"),
                             Control(NotAuditedCount), Spring()}),
@@ -42,8 +41,7 @@ TF6663::TF6663(TForm* parent) : TFrm_Base_Dialog(parent) {
 }
 
 void TF6663::InitForm(const Trecord& record) {
-    FunctionCode = "663";
-    record_ = record;
+    OpenFunction(record);
     read_counts();
 }
 
@@ -88,7 +86,9 @@ bool TF6663::numbers_run_on(const std::string& period) {
 
 // ---- saving ----
 
-void TF6663::btn_okClick() { btn_okClick(btn_ok); }
+void TF6663::btn_okClick() {
+    btn_okClick(btn_ok);
+}
 
 void TF6663::btn_okClick(const TButton& sender) {
     InitForm(record_);

@@ -9,8 +9,8 @@ namespace module {
 class TF6663 : public TFrm_Base_Dialog {
 public:
     // What the user sees, from top to bottom.
-    TLabel BDATE{this, "BDATE"};             // current period
-    TLabel AuditedCount{this, "AuditedCount"};     // audited, not yet posted
+    TLabel BDATE{this, "BDATE"};               // current period
+    TLabel AuditedCount{this, "AuditedCount"}; // audited, not yet posted
     TLabel NotAuditedCount{this, "NotAuditedCount"};
     TRadioButton R1{this, "R1", "发现凭证号不连续时终止登帐"};
     TRadioButton R2{this, "R2", "允许凭证号不连续的凭证登帐"};
@@ -30,7 +30,6 @@ private:
     void restore_choice();
     bool numbers_run_on(const std::string& period);
     std::string period_;
-    Trecord record_;
 };
 
 extern TF6663* F6663;

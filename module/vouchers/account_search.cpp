@@ -16,9 +16,10 @@ std::string select_leaf_accounts(const std::string& period) {
     const std::string before = current ? current->previous().to_text() : "";
     return "SELECT A.KM_ID,A.KM_NAME_NEW,A.PYM,A.FX,A.KM_K,"
            "ISNULL(N.J,ISNULL(B.J,0.00)) AS J,ISNULL(N.D,ISNULL(B.D,0.00)) AS D FROM V6801 A "
-           "LEFT JOIN D6602 N ON N.KM_ID=A.KM_ID AND N.INX=1 AND N.QJ=" + quoted(period)
-           + " LEFT JOIN D6602 B ON B.KM_ID=A.KM_ID AND B.INX=1 AND B.QJ=" + quoted(before)
-           + " WHERE A.ISEND=1 ORDER BY A.KM_ID";
+           "LEFT JOIN D6602 N ON N.KM_ID=A.KM_ID AND N.INX=1 AND N.QJ=" +
+           quoted(period) +
+           " LEFT JOIN D6602 B ON B.KM_ID=A.KM_ID AND B.INX=1 AND B.QJ=" + quoted(before) +
+           " WHERE A.ISEND=1 ORDER BY A.KM_ID";
 }
 
 } // namespace

@@ -12,10 +12,10 @@ namespace module {
 
 struct LeafAccount {
     std::string code;
-    std::string name;   // full name
+    std::string name; // full name
     std::string pinyin;
-    std::string side;   // 借 or 贷
-    Amount balance;     // as last posted, signed on the account's side
+    std::string side; // 借 or 贷
+    Amount balance;   // as last posted, signed on the account's side
     bool cash_flow = false;
 };
 

@@ -50,8 +50,8 @@ std::string capital_numerals(Amount amount) {
     const std::int64_t cents = (units < 0 ? -units : units) / (Amount::scale / 100);
     const std::int64_t yuan = cents / 100;
     const int rest = static_cast<int>(cents % 100);
-    return std::string(units < 0 ? "负" : "") + (yuan ? whole_yuan(yuan) + "元" : "")
-           + jiao_and_fen(rest / 10, rest % 10, yuan != 0);
+    return std::string(units < 0 ? "负" : "") + (yuan ? whole_yuan(yuan) + "元" : "") +
+           jiao_and_fen(rest / 10, rest % 10, yuan != 0);
 }
 
 } // namespace module

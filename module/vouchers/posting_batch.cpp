@@ -9,29 +9,31 @@ namespace {
 // Enough to carry a leaf's figures from the deepest level of the chart to the top.
 constexpr int roll_up_passes = 6;
 
+// Periods are given as quoted texts.
 // Every account of the chart gets a row of the kind (0 movements, 1 closing balance).
 std::string add_missing_balance_rows(const std::string& kind, const std::string& period) {
-    return "INSERT INTO D6602 (INX,QJ,KM_ID) SELECT " + kind + " as INX,'" + period
-           + "',D6801.KM_ID  FROM  D6801 left OUTER JOIN "
-             "D6602 ON D6602.KM_ID = D6801.KM_ID and (D6602.INX = " + kind
-           + ") AND (D6602.QJ = '" + period + "') where d6602.km_id is null;";
+    return "INSERT INTO D6602 (INX,QJ,KM_ID) SELECT " + kind + " as INX," + period +
+           ",D6801.KM_ID  FROM  D6801 left OUTER JOIN "
+           "D6602 ON D6602.KM_ID = D6801.KM_ID and (D6602.INX = " +
+           kind + ") AND (D6602.QJ = " + period + ") where d6602.km_id is null;";
 }
 
 std::string set_movements_from_vouchers(const std::string& period) {
     return "UPDATE D6602 SET D6602.J=T.J,D6602.D=T.D FROM ( "
            "SELECT D6601A.KM_ID, SUM(D6601A.J) AS J, SUM(D6601A.D) AS D "
            "FROM D6601A INNER JOIN D6601 ON D6601A.NOID = D6601.NOID "
-           "WHERE D6601.T=1 AND (D6601.PZQJ = '" + period
-           + "') GROUP BY D6601A.KM_ID, D6601.PZQJ) T WHERE D6602.INX=0 AND D6602.QJ='" + period
-           + "' AND D6602.KM_ID=T.KM_ID;";
+           "WHERE D6601.T=1 AND (D6601.PZQJ = " +
+           period +
+           ") GROUP BY D6601A.KM_ID, D6601.PZQJ) T WHERE D6602.INX=0 AND D6602.QJ=" + period +
+           " AND D6602.KM_ID=T.KM_ID;";
 }
 
 // 3131 is the profit of the current year: a voucher that touches it carries forward.
 std::string mark_carry_forward_vouchers(const std::string& period) {
     return "UPDATE D6601 SET T_SY =1 FROM (SELECT D6601A.NOID, D6601.PZQJ "
            "FROM D6601A INNER JOIN D6601 ON D6601A.NOID = D6601.NOID "
-           "WHERE (D6601A.KM_ID = '3131') AND (D6601.PZQJ = '" + period
-           + "')) A WHERE D6601.NOID=A.NOID ;";
+           "WHERE (D6601A.KM_ID = '3131') AND (D6601.PZQJ = " +
+           period + ")) A WHERE D6601.NOID=A.NOID ;";
 }
 
 // The sides are swapped: what carries a profit account forward stands on its other side, and the
@@ -40,9 +42,10 @@ std::string set_carried_forward_amounts(const std::string& period) {
     return "UPDATE D6602 SET D6602.SY_J=T.J,D6602.SY_D=T.D FROM ( "
            "SELECT D6601A.KM_ID, SUM(D6601A.J) AS D, SUM(D6601A.D) AS J "
            "FROM D6601A INNER JOIN D6601 ON D6601A.NOID = D6601.NOID "
-           "WHERE D6601.T=1 AND D6601.T_SY = 1 AND (D6601.PZQJ = '" + period
-           + "') GROUP BY D6601A.KM_ID, D6601.PZQJ) T WHERE D6602.INX=0 AND D6602.QJ='" + period
-           + "' AND D6602.KM_ID=T.KM_ID;";
+           "WHERE D6601.T=1 AND D6601.T_SY = 1 AND (D6601.PZQJ = " +
+           period +
+           ") GROUP BY D6601A.KM_ID, D6601.PZQJ) T WHERE D6602.INX=0 AND D6602.QJ=" + period +
+           " AND D6602.KM_ID=T.KM_ID;";
 }
 
 // `prefix` "" rolls up the movements, "SY_" the carried-forward part.
@@ -50,10 +53,10 @@ std::string roll_up_to_parents(const std::string& prefix, const std::string& per
     const std::string debit = prefix + "J";
     const std::string credit = prefix + "D";
     const std::string pass =
-        "UPDATE D6602 SET " + debit + "=T.J," + credit + "=T.D FROM (SELECT OID,SUM(" + debit
-        + ") AS J,SUM(" + credit
-        + ") AS D FROM D6602 INNER JOIN D6801 ON D6602.KM_ID=D6801.KM_ID WHERE QJ ='" + period
-        + "'  AND INX = 0 GROUP BY OID) T WHERE D6602.KM_ID=T.OID AND D6602.QJ ='" + period + "';";
+        "UPDATE D6602 SET " + debit + "=T.J," + credit + "=T.D FROM (SELECT OID,SUM(" + debit +
+        ") AS J,SUM(" + credit +
+        ") AS D FROM D6602 INNER JOIN D6801 ON D6602.KM_ID=D6801.KM_ID WHERE QJ =" + period +
+        "  AND INX = 0 GROUP BY OID) T WHERE D6602.KM_ID=T.OID AND D6602.QJ =" + period + ";";
     std::string passes;
     for (int i = 0; i < roll_up_passes; ++i) passes += pass;
     return passes;
@@ -65,38 +68,39 @@ std::string set_closing_balances(const std::string& period, const std::string& b
            "CASE D6801.FX WHEN '借' then ISNULL(BE.J, 0.00)+D6602.J-D6602.D else 0.00 end AS J, "
            "CASE D6801.FX WHEN '借' then 0.00 else ISNULL(BE.D, 0.00)+D6602.D-D6602.J end AS D "
            "FROM D6602 INNER JOIN D6801 ON D6602.KM_ID = D6801.KM_ID LEFT OUTER JOIN "
-           "(SELECT KM_ID, J, D FROM D6602 WHERE QJ = '" + before
-           + "' AND INX = 1) BE ON D6602.KM_ID = BE.KM_ID "
-             "WHERE (D6602.INX = 0) AND (D6602.QJ = '" + period
-           + "')) T WHERE D6602.INX=1 AND D6602.QJ='" + period + "' AND D6602.KM_ID=T.KM_ID;";
+           "(SELECT KM_ID, J, D FROM D6602 WHERE QJ = " +
+           before +
+           " AND INX = 1) BE ON D6602.KM_ID = BE.KM_ID "
+           "WHERE (D6602.INX = 0) AND (D6602.QJ = " +
+           period + ")) T WHERE D6602.INX=1 AND D6602.QJ=" + period + " AND D6602.KM_ID=T.KM_ID;";
 }
 
 std::string mark_audited_vouchers_posted(const std::string& period) {
-    return "update D6601 set d=1 WHERE (D6601.PZQJ = '" + period + "') and D6601.D=0 and t=1;";
+    return "update D6601 set d=1 WHERE (D6601.PZQJ = " + period + ") and D6601.D=0 and t=1;";
 }
 
 std::string mark_vouchers_unposted(const std::string& period) {
-    return "update D6601 set d=0 WHERE (D6601.PZQJ = '" + period + "') and D6601.D=1;";
+    return "update D6601 set d=0 WHERE (D6601.PZQJ = " + period + ") and D6601.D=1;";
 }
 
 std::string delete_balances(const std::string& period) {
-    return "delete from d6602 WHERE (QJ = '" + period + "');";
+    return "delete from d6602 WHERE (QJ = " + period + ");";
 }
 
 } // namespace
 
 std::string posting_batch(Period period) {
-    const std::string current = escaped(period.to_text());
-    const std::string before = escaped(period.previous().to_text());
-    return add_missing_balance_rows("0", current) + add_missing_balance_rows("1", current)
-           + set_movements_from_vouchers(current) + mark_carry_forward_vouchers(current)
-           + set_carried_forward_amounts(current) + roll_up_to_parents("", current)
-           + roll_up_to_parents("SY_", current) + set_closing_balances(current, before)
-           + mark_audited_vouchers_posted(current);
+    const std::string current = quoted(period.to_text());
+    const std::string before = quoted(period.previous().to_text());
+    return add_missing_balance_rows("0", current) + add_missing_balance_rows("1", current) +
+           set_movements_from_vouchers(current) + mark_carry_forward_vouchers(current) +
+           set_carried_forward_amounts(current) + roll_up_to_parents("", current) +
+           roll_up_to_parents("SY_", current) + set_closing_balances(current, before) +
+           mark_audited_vouchers_posted(current);
 }
 
 std::string unposting_batch(Period period) {
-    const std::string current = escaped(period.to_text());
+    const std::string current = quoted(period.to_text());
     return mark_vouchers_unposted(current) + delete_balances(current);
 }
 

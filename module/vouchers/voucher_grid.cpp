@@ -4,7 +4,9 @@
 namespace module {
 namespace {
 
-const char* opposite(const std::string& side) { return side == "J" ? "D" : "J"; }
+const char* opposite(const std::string& side) {
+    return side == "J" ? "D" : "J";
+}
 
 } // namespace
 

@@ -52,10 +52,10 @@ std::vector<TDBGridEh::Suggestion> suggest_accounts(const LeafAccounts& accounts
     std::vector<TDBGridEh::Suggestion> suggestions;
     for (const LeafAccount* account : accounts.matching(typed)) {
         const std::string side = account->balance.is_zero() ? "平" : account->side;
-        suggestions.push_back({account->code,
-                               {account->code, account->name, account->pinyin, side,
-                                account->balance.to_text()},
-                               account->code});
+        suggestions.push_back(
+            {account->code,
+             {account->code, account->name, account->pinyin, side, account->balance.to_text()},
+             account->code});
     }
     return suggestions;
 }
@@ -68,7 +68,8 @@ std::vector<TDBGridEh::Suggestion> suggest_summaries(const std::string& function
     for (summaries.First(); !summaries.Eof(); summaries.Next()) {
         const std::string text = summaries.FieldByName("ZY").AsText();
         const std::string pinyin = summaries.FieldByName("PYM").AsText();
-        if (!contains_text(text, trimmed(typed)) && !contains_text(pinyin, trimmed(typed))) continue;
+        if (!contains_text(text, trimmed(typed)) && !contains_text(pinyin, trimmed(typed)))
+            continue;
         suggestions.push_back({text, {text, pinyin}, text});
     }
     return suggestions;

@@ -37,7 +37,8 @@ std::optional<LineRefusal> why_not_saved(const std::vector<VoucherLine>& lines) 
     if (!balanced(lines, false) || !balanced(lines, true)) return LineRefusal{"借贷不平衡!"};
     for (int i = 0; i < count; ++i) {
         if (lines[i].is_booked() && !lines[i].has_account()) {
-            return LineRefusal{"第 " + std::to_string(i + 1) + " 行没有科目!请录入科目代号,或删除该行。", i};
+            return LineRefusal{
+                "第 " + std::to_string(i + 1) + " 行没有科目!请录入科目代号,或删除该行。", i};
         }
     }
     return std::nullopt;

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "host/values/amount.h"
-#include "module/host_names.h"
 #include "host/values/text.h"
+#include "module/host_names.h"
 
 namespace module {
 
@@ -21,7 +21,8 @@ struct VoucherLine {
     bool has_summary() const { return !trimmed(summary).empty(); }
     bool has_account() const { return !trimmed(account).empty(); }
     bool has_amount() const { return !debit.is_zero() || !credit.is_zero(); }
-    // A line that was only begun (a summary and nothing else) or never named stays out of the books.
+    // A line that was only begun (a summary and nothing else) or never named stays out of the
+    // books.
     bool is_booked() const { return has_summary() && (has_account() || has_amount()); }
 };
 

@@ -20,8 +20,8 @@ std::int64_t next_voucher_number(const std::string& function, const std::string&
     TClientDataSet number;
     opensql(number, function,
             "SELECT * FROM ( SELECT 1 AS I  UNION ALL SELECT MAX(PZZ_H)+1 AS I  FROM D6601 "
-            "WHERE (PZQJ = " + quoted(period) + ") AND (PZZ = " + quoted(word)
-                + ")) A ORDER BY I DESC ");
+            "WHERE (PZQJ = " +
+                quoted(period) + ") AND (PZZ = " + quoted(word) + ")) A ORDER BY I DESC ");
     return number.FieldByName("I").AsInteger();
 }
 
@@ -35,8 +35,8 @@ bool voucher_key_taken(const std::string& function, const std::string& key,
     const bool changing = !own_key.empty();
     TClientDataSet vouchers;
     opensql(vouchers, function,
-            "SELECT NOID FROM D6601 WHERE (NOID=" + quoted(key) + ")"
-                + (changing ? "or  (NOID=" + quoted(own_key) + ")" : ""));
+            "SELECT NOID FROM D6601 WHERE (NOID=" + quoted(key) + ")" +
+                (changing ? "or  (NOID=" + quoted(own_key) + ")" : ""));
     return vouchers.RecordCount() > (changing ? 1 : 0);
 }
 

@@ -28,10 +28,10 @@ std::string delete_voucher(const std::string& key) {
 }
 
 std::string insert_voucher_head(const VoucherHead& head) {
-    return "INSERT INTO D6601 (NOID, PZQJ, PZZ, PZZ_H, PZZ_Z, BDATE, USER_ID) VALUES ("
-           + quoted(head.key) + "," + quoted(head.period) + "," + quoted(head.word) + ","
-           + quoted(head.number) + "," + quoted(head.attachments) + "," + quoted(head.date) + ","
-           + quoted(head.maker) + ");";
+    return "INSERT INTO D6601 (NOID, PZQJ, PZZ, PZZ_H, PZZ_Z, BDATE, USER_ID) VALUES (" +
+           quoted(head.key) + "," + quoted(head.period) + "," + quoted(head.word) + "," +
+           quoted(head.number) + "," + quoted(head.attachments) + "," + quoted(head.date) + "," +
+           quoted(head.maker) + ");";
 }
 
 std::string insert_voucher_lines(const std::string& key, const std::vector<VoucherLine>& lines) {
@@ -39,10 +39,10 @@ std::string insert_voucher_lines(const std::string& key, const std::vector<Vouch
     int order = 0;
     for (const VoucherLine& line : lines) {
         if (!line.is_booked()) continue;
-        batch += "INSERT INTO D6601A (NOID, ZY, KM_ID, J, D, INX)  VALUES (" + quoted(key) + ","
-                 + quoted(line.summary) + "," + quoted(line.account) + ","
-                 + quoted(FormatAmount(line.debit)) + "," + quoted(FormatAmount(line.credit)) + ","
-                 + std::to_string(order++) + ");";
+        batch += "INSERT INTO D6601A (NOID, ZY, KM_ID, J, D, INX)  VALUES (" + quoted(key) + "," +
+                 quoted(line.summary) + "," + quoted(line.account) + "," +
+                 quoted(FormatAmount(line.debit)) + "," + quoted(FormatAmount(line.credit)) + "," +
+                 std::to_string(order++) + ");";
     }
     return batch;
 }

@@ -8,7 +8,8 @@
 
 namespace module {
 
-// Scheme "1": 记 alone and fixed. "2": 收 付 转. "3": 现收 现付 银收 银付 转. Books that say nothing use 记.
+// Scheme "1": 记 alone and fixed. "2": 收 付 转. "3": 现收 现付 银收 银付 转. Books that say
+// nothing use 记.
 struct VoucherWords {
     std::vector<std::string> words;
     bool fixed = false; // the word cannot be chosen

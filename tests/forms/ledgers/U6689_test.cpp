@@ -1,0 +1,141 @@
+// The trial balance: its condition dialog, its footers, its verdict.
+#include <gtest/gtest.h>
+
+#include "tests/forms/small_books.h"
+#include "tests/support/person.h"
+
+namespace tests {
+namespace {
+
+class TrialBalance : public testing::Test {
+protected:
+    void SetUp() override {
+        answer_current_period(data, "2024-03");
+        answer_rows("585.00");
+    }
+    // Cash and receivables; the receivable's closing balance as given.
+    void answer_rows(const std::string& receivable) {
+        data.answer("select * from (SELECT D6602.KM_ID",
+                    {"KM_ID text", "KM_NAME text", "OID text", "KM_J int", "B1 money", "B2 money",
+                     "C1 money", "C2 money", "D1 money", "D2 money", "BB1 money", "BB2 money",
+                     "CC1 money", "CC2 money", "DD1 money", "DD2 money"},
+                    {{"1001", "现金", "Z", "1", "0", "0", "585", "0", "585", "0", "0", "0", "585",
+                      "0", "585", "0"},
+                     {"1131", "应收帐款", "Z", "1", "0", "0", "0", "585", "0", receivable, "0", "0",
+                      "0", "585", "0", receivable},
+                     {"113101", "应收帐款-东方", "1131", "2", "0", "0", "0", "585", "-3", "585",
+                      "0", "0", "0", "0", "0", "0"}});
+    }
+    Person& person() {
+        if (!anna_) {
+            anna_ = std::make_unique<Person>(data);
+            anna_->open(689);
+        }
+        return *anna_;
+    }
+    FakeData data;
+    std::unique_ptr<Person> anna_;
+};
+
+TEST_F(TrialBalance, asks_for_the_current_period_as_soon_as_it_opens) {
+    Person& anna = person();
+    anna.expect_active("TF6689F");
+    EXPECT_EQ(anna.value("EDT1"), "2024");
+    EXPECT_EQ(anna.value("EDT2"), "3");
+    EXPECT_EQ(anna.value("EDT3"), "1");
+    EXPECT_EQ(anna.focused(), "EDT2");
+}
+
+TEST_F(TrialBalance, cancelled_it_shows_nothing_and_refresh_says_why) {
+    Person& anna = person();
+    anna.click("btn_Cancel");
+    anna.expect_active("TF6689");
+    EXPECT_EQ(anna.row_count(), 0);
+    EXPECT_FALSE(anna.visible("Balanced"));
+    EXPECT_FALSE(anna.visible("Unbalanced"));
+    EXPECT_FALSE(anna.visible("Act_Add"));
+    anna.click("Act_Refresh");
+    anna.expect_message("您还没选择任何查询参数,请按【F3】呼出查询选项!");
+}
+
+TEST_F(TrialBalance, shows_the_conditions_and_sums_top_level_accounts_only) {
+    Person& anna = person();
+    anna.set("EDT3", "2");
+    anna.mark();
+    anna.click("btn_ok");
+    EXPECT_EQ(anna.value("ConditionLabel"), " ●会计年度:2024    ●会计期间:3    ●科目级别:2");
+    EXPECT_EQ(anna.footer("C1"), "585.00");
+    EXPECT_EQ(anna.footer("C2"), "585.00");
+    EXPECT_EQ(anna.footer("D1"), "585.00");
+    EXPECT_EQ(anna.footer("KM_NAME"), "（仅合计一级科目,仅显示有业务数据科目）  合计：");
+    EXPECT_TRUE(anna.visible("Balanced"));
+    EXPECT_FALSE(anna.visible("Unbalanced"));
+    const auto sent = anna.sent_texts();
+    EXPECT_NE(sent.back().find("WHERE QJ='2024-02' AND INX=1) BE"), std::string::npos);
+    EXPECT_NE(sent.back().find("(km_j<=2))t where"), std::string::npos);
+}
+
+TEST_F(TrialBalance, a_cent_is_enough_to_be_out_of_balance) {
+    answer_rows("585.01");
+    Person& anna = person();
+    anna.click("btn_ok");
+    EXPECT_FALSE(anna.visible("Balanced"));
+    EXPECT_TRUE(anna.visible("Unbalanced"));
+    answer_rows("585.00");
+    anna.click("Act_Refresh");
+    EXPECT_TRUE(anna.visible("Balanced"));
+}
+
+TEST_F(TrialBalance, amounts_below_zero_are_red) {
+    Person& anna = person();
+    anna.click("btn_ok");
+    EXPECT_EQ(anna.colors(2).at("D1").at("font"), 255);
+    EXPECT_FALSE(anna.colors(2).contains("D2"));
+}
+
+TEST_F(TrialBalance, the_period_lies_within_the_books) {
+    struct Attempt {
+        const char* year;
+        const char* month;
+        const char* verdict;
+    };
+    const Attempt attempts[] = {
+        {"2024", "3", ""},
+        {"2024", "1", ""},
+        {"2024", "4", "开始期间不能大于当前会计期间!当前会计期间:2024-03"},
+        {"2025", "1", "开始期间不能大于当前会计期间!当前会计期间:2024-03"},
+        {"2023", "12", "开始期间不能 小于 帐套启用日期!帐套启用日期为:2024-01"},
+    };
+    for (const Attempt& attempt : attempts) {
+        anna_.reset();
+        Person& anna = person();
+        anna.set("EDT1", attempt.year);
+        anna.set("EDT2", attempt.month);
+        anna.click("btn_ok");
+        if (*attempt.verdict) {
+            anna.expect_message(attempt.verdict);
+            anna.expect_active("TF6689F");
+            EXPECT_EQ(anna.focused(), "EDT2");
+        } else {
+            anna.expect_active("TF6689");
+        }
+    }
+}
+
+TEST_F(TrialBalance, the_level_is_kept_for_next_time) {
+    Person& anna = person();
+    anna.set("EDT3", "4");
+    anna.click("btn_ok");
+    anna.open(689);
+    EXPECT_EQ(anna.value("EDT3"), "4");
+}
+
+TEST_F(TrialBalance, books_that_were_not_set_up_have_none) {
+    answer_current_period(data, "");
+    Person& anna = person();
+    anna.expect_message("读取会计期间错误!请确认是否进行初始建帐!");
+    EXPECT_FALSE(anna.enabled("btn_ok"));
+}
+
+} // namespace
+} // namespace tests

@@ -1,0 +1,150 @@
+// Posting a period and taking the posting back.
+#include <gtest/gtest.h>
+
+#include "tests/support/fake_data.h"
+#include "tests/support/person.h"
+
+namespace tests {
+namespace {
+
+class Posting : public testing::Test {
+protected:
+    void SetUp() override {
+        answer_counts("2024-03", "2", "1");
+        answer_numbers({"1", "2"});
+    }
+    void answer_counts(const std::string& period, const std::string& to_post,
+                       const std::string& not_audited) {
+        data.answer("SELECT param,(SELECT COUNT(*)", {"param text", "I int", "J int"},
+                    {{period, to_post, not_audited}});
+    }
+    void answer_numbers(const std::vector<std::string>& numbers) {
+        std::vector<FakeData::Cells> rows;
+        for (const std::string& number : numbers) rows.push_back({number});
+        data.answer("select pzz_h from d6601", {"pzz_h int"}, rows);
+    }
+    Person& person() {
+        if (!anna_) {
+            anna_ = std::make_unique<Person>(data);
+            anna_->open(663);
+        }
+        return *anna_;
+    }
+    FakeData data;
+    std::unique_ptr<Person> anna_;
+};
+
+TEST_F(Posting, shows_the_period_and_what_waits) {
+    Person& anna = person();
+    anna.expect_active("TF6663");
+    EXPECT_EQ(anna.value("BDATE"), "2024-03");
+    EXPECT_EQ(anna.value("AuditedCount"), "2");
+    EXPECT_EQ(anna.value("NotAuditedCount"), "1");
+    EXPECT_TRUE(anna.checked("R1"));
+    EXPECT_EQ(
+        anna.sent_texts().front(),
+        "SELECT param,(SELECT COUNT(*) AS I FROM D6601 WHERE (D = 0) and (t = 1) AND (PZQJ "
+        "=(SELECT PARAM FROM D6600 WHERE ID=2))) AS I,(SELECT COUNT(*) AS j FROM D6601 WHERE "
+        "(t = 0) AND (PZQJ =(SELECT PARAM FROM D6600 WHERE ID=2))) AS J FROM d6600 where id=2");
+}
+
+TEST_F(Posting, posts_in_one_batch) {
+    Person& anna = person();
+    anna.click("btn_ok");
+    anna.expect_message("登帐完成!");
+    ASSERT_EQ(data.executed().size(), 1u);
+    const auto& executed = data.executed().front();
+    EXPECT_TRUE(executed.batch.starts_with("INSERT INTO D6602 (INX,QJ,KM_ID) SELECT 0 as INX,"));
+    EXPECT_NE(executed.batch.find("WHERE QJ = '2024-02' AND INX = 1"), std::string::npos);
+    EXPECT_EQ(executed.log.function, "663");
+    EXPECT_EQ(executed.log.key, "2024-03");
+    EXPECT_EQ(executed.log.operation, "Edit");
+}
+
+TEST_F(Posting, is_taken_back) {
+    Person& anna = person();
+    anna.click("btn_re");
+    anna.expect_message("反登帐完成!");
+    EXPECT_EQ(data.executed().front().batch,
+              "update D6601 set d=0 WHERE (D6601.PZQJ = '2024-03') and D6601.D=1;delete from d6602 "
+              "WHERE (QJ = '2024-03');");
+}
+
+TEST_F(Posting, numbers_run_on_from_one_and_the_last_is_not_compared) {
+    struct Attempt {
+        std::vector<std::string> numbers;
+        bool posted;
+    };
+    const Attempt attempts[] = {
+        {{}, true},
+        {{"4"}, true},
+        {{"1", "2", "3"}, true},
+        {{"1", "2", "3", "5"}, true},
+        {{"1", "3", "4"}, false},
+        {{"2", "3"}, false},
+        {{"1", "1", "2"}, false}, // two words count together
+    };
+    for (const char* button : {"btn_ok", "btn_re"}) {
+        for (const Attempt& attempt : attempts) {
+            answer_numbers(attempt.numbers);
+            const std::size_t before = data.executed().size();
+            person().click(button);
+            const bool posted = data.executed().size() > before;
+            EXPECT_EQ(posted, attempt.posted) << testing::PrintToString(attempt.numbers);
+            if (posted) {
+                person().forget_messages();
+            } else {
+                person().expect_message("凭证号不连续!");
+            }
+        }
+    }
+    EXPECT_NE(std::find(data.queries().begin(), data.queries().end(),
+                        "select pzz_h from d6601 WHERE (D6601.PZQJ = '2024-03')  order by pzz_h "),
+              data.queries().end());
+}
+
+TEST_F(Posting, gaps_may_be_allowed_and_the_choice_is_kept) {
+    answer_numbers({"1", "3", "4"});
+    Person& anna = person();
+    anna.check("R2");
+    anna.click("btn_ok");
+    anna.expect_message("登帐完成!");
+    anna.click("btn_Cancel");
+    anna.open(663);
+    EXPECT_TRUE(anna.checked("R2"));
+    EXPECT_FALSE(anna.checked("R1"));
+}
+
+TEST_F(Posting, books_that_were_not_set_up_offer_nothing) {
+    answer_counts("", "0", "0");
+    Person& anna = person();
+    EXPECT_EQ(anna.value("BDATE"), "没有初始建帐!请从  [会计科目初始]  模块进行首次建帐!");
+    EXPECT_FALSE(anna.enabled("btn_ok"));
+    EXPECT_FALSE(anna.enabled("btn_re"));
+}
+
+TEST_F(Posting, books_reset_meanwhile_are_not_posted) {
+    Person& anna = person();
+    answer_counts("", "0", "0");
+    anna.click("btn_ok");
+    anna.expect_message("没有初始建帐!请从[会计科目初始]模块进行首次建帐!");
+    EXPECT_TRUE(data.executed().empty());
+}
+
+TEST_F(Posting, what_the_database_refuses_is_not_announced_as_done) {
+    Person& anna = person();
+    data.refuse_next_batch("磁盘已满!");
+    anna.click("btn_ok");
+    anna.expect_message("磁盘已满!");
+}
+
+TEST_F(Posting, opens_as_often_as_it_is_picked) {
+    Person& anna = person();
+    anna.click("btn_Cancel");
+    EXPECT_EQ(anna.active(), "");
+    anna.open(663);
+    anna.expect_active("TF6663");
+}
+
+} // namespace
+} // namespace tests
