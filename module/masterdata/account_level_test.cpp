@@ -8,7 +8,7 @@ TEST(AccountLevel, cash_and_bank_accounts_keep_the_cash_flow_mark_by_comparing_t
     const std::pair<const char*, bool> codes[] = {
         // code, keeps the mark
         {"1001", true},  {"1002", true},  {"1009", true},  {"10021", true}, {"100901", true},
-        {"1010", false}, {"1101", false}, {"2001", false}, {"101", false}};
+        {"1010", false}, {"1101", false}, {"2001", false}, {"101", true}};
     for (const auto& [code, keeps] : codes) EXPECT_EQ(may_allocate_cash_flow(code), keeps) << code;
 }
 

@@ -26,6 +26,10 @@ TF6661::TF6661(TForm* parent) : TFrm_Base_Entry_Head(parent) {
         if (scrolled) scrolled();
         show_selected();
     };
+    AdoQry_Main.AfterPost = AdoQry_Main.AfterDelete = [this] {
+        show_counts();
+        show_selected();
+    };
     build_columns();
 }
 
@@ -43,6 +47,8 @@ void TF6661::build_columns() {
     AddColumn("sdate", "审核日期", 11);
     AddColumn("T", "审核", 6).Align = Alignment::Center;
     AddColumn("D", "登帐", 6).CheckBox = true; // posted
+    AdoQry_Main.DefineField("T", FieldType::Integer);
+    AdoQry_Main.DefineField("D", FieldType::Boolean);
     AdoQry_Main.DefineField("BDATE", FieldType::DateTime).DisplayFormat = "yyyy-mm-dd";
     AdoQry_Main.DefineField("sdate", FieldType::DateTime).DisplayFormat = "yyyy-mm-dd";
     DBGridEh.MultiSelect = true;
@@ -101,7 +107,6 @@ void TF6661::InitForm(const Trecord& record) {
                 .period_field = "PZQJ"};
     build_layout(audit);
     F6661_1 = std::make_unique<TF6661_1>(this);
-    F6661_1->FreeOnClose = false; // the list keeps it
     F6661F = std::make_unique<TF6661F>(this);
     F6661F->InitForm();
     TFrm_Base_Entry_Head::InitForm(record);
@@ -119,24 +124,32 @@ Tfrm_Base_Entry_Body* TF6661::EntryForm() {
 
 void TF6661::GetData() {
     TFrm_Base_Entry_Head::GetData();
+    count_posted();
     show_counts();
     show_selected();
 }
 
-void TF6661::show_counts() {
-    const TField* audited = AdoQry_Main.FindField("T");
-    const TField* posted = AdoQry_Main.FindField("D");
-    if (!audited || !posted) return;
-    int open = 0;
-    int to_post = 0;
+// Posting happens elsewhere: it shows when the list is read again.
+void TF6661::count_posted() {
+    posted_ = 0;
+    const int field = AdoQry_Main.FieldByName("D").index();
     for (int row = 0; row < AdoQry_Main.RecordCount(); ++row) {
-        const TClientDataSet::Peek peek(AdoQry_Main, row);
-        if (!audited->AsBoolean()) ++open;
-        if (audited->AsBoolean() && !posted->AsBoolean()) ++to_post;
+        if (AdoQry_Main.text_at(row, field) == "True") ++posted_;
     }
-    CountLabel.Caption = "未审核 " + std::to_string(open) + " 张    已审未登帐 " +
-                         std::to_string(to_post) + " 张    共 " +
-                         std::to_string(AdoQry_Main.RecordCount()) + " 张";
+}
+
+void TF6661::show_counts() {
+    const std::int64_t audited = AdoQry_Main.Sum("T").units() / Amount::scale;
+    const std::int64_t all = AdoQry_Main.RecordCount();
+    CountLabel.Caption = "未审核 " + std::to_string(all - audited) + " 张    已审未登帐 " +
+                         std::to_string(audited - posted_) + " 张    共 " + std::to_string(all) +
+                         " 张";
+}
+
+std::string TF6661::DocumentName() {
+    const auto text = [this](const char* field) { return AdoQry_Main.FieldByName(field).AsText(); };
+    if (AdoQry_Main.IsEmpty()) return "";
+    return text("PZQJ") + " " + text("PZZ") + "-" + text("PZZ_H");
 }
 
 void TF6661::show_selected() {

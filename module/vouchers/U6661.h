@@ -27,6 +27,7 @@ public:
     // Steps of every document list that differ here.
     void InitForm(const Trecord& record) override;
     void GetData() override;
+    std::string DocumentName() override; // "2024-03 记-7"
 
 protected:
     TFrm_Sys_Filter* Filter() override;
@@ -37,8 +38,10 @@ private:
     // This form's own rules.
     void build_columns();
     void build_layout(bool audit);
+    void count_posted();
     void show_counts();
     void show_selected();
+    std::int64_t posted_ = 0; // vouchers of the list that are posted
     std::unique_ptr<TF6661F> F6661F;
     std::unique_ptr<TF6661_1> F6661_1;
 };

@@ -56,11 +56,6 @@ void TF6661_1::bind_events() {
     DBGridEh.OnSuggest = [this](const GridColumn& column, const std::string& typed) {
         return suggest(column, typed);
     };
-    PZZ.OnChange = [this] { PZZChange(); };
-    for (TEdit* edit :
-         {static_cast<TEdit*>(&PZZ_H), static_cast<TEdit*>(&PZZ_Z), static_cast<TEdit*>(&BDATE)}) {
-        edit->OnChange = [this] { Touch(); };
-    }
     Act_xj.OnExecute = [this] { Act_xjExecute(); };
     N2.OnExecute = [this] { N2Click(); };
     PoPMenu.OnPopup = [this] { PoPMenuPopup(); };
@@ -89,6 +84,7 @@ void TF6661_1::read_books() {
 }
 
 void TF6661_1::RefreshData() {
+    PZZ.OnChange = nullptr; // the number is read below, once
     read_books();
     if (new_voucher()) {
         number_new_voucher();
@@ -96,10 +92,11 @@ void TF6661_1::RefreshData() {
         show_stored_head();
     }
     Tfrm_Base_Entry_Body::RefreshData();
-    PZZ.Enabled = PZZ.Enabled && !single_word_;
+    PZZ.Enabled = !read_only() && !single_word_;
     grid_.fill_up();
     refresh_totals();
     refresh_title();
+    PZZ.OnChange = [this] { PZZChange(); };
     Act_Save.Enabled = false;
     Act_Other.Enabled = FunctionCode == "661" && new_voucher();
 }
@@ -136,7 +133,6 @@ void TF6661_1::PZZChange() {
     if (new_voucher() && !period_.empty()) {
         PZZ_H.set(next_voucher_number(FunctionCode, period_, PZZ.Text));
     }
-    Touch();
     refresh_title();
 }
 

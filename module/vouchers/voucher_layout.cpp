@@ -38,7 +38,7 @@ LayoutNode voucher_layout(TF6661_1& form) {
                   Rows({Title("记帐凭证"),
                         Columns({Spring(), Text("第"), Control(form.PZQJ), Text("期"), Spring()})}),
                   Spring(), Field("日期", form.BDATE, 12), Field("附单据(张)", form.PZZ_Z, 5)}),
-         Rest(form.DBGridEh),
+         Control(form.LockReason), Rest(form.DBGridEh),
          Columns({Text("制单人:"), Control(form.USER_ID), Space(3), Text("审核"),
                   Control(form.AuditState), Control(form.EDATE), Spring(), Text("借方"),
                   Control(form.DebitTotal), Space(2), Text("贷方"), Control(form.CreditTotal),

@@ -23,6 +23,8 @@ void answer_vouchers(FakeData& data) {
     data.answer(heads + " where d6601.noid='2024-03记007'", head_columns, {voucher_7});
     data.answer(heads + " where d6601.noid='2024-03记008'", head_columns, {voucher_8});
     data.answer(heads + " where d6601.noid=", head_columns, {});
+    data.answer(heads + " WHERE D6601.NOID='2024-03记007'", head_columns, {voucher_7});
+    data.answer(heads + " WHERE D6601.NOID='2024-03记008'", head_columns, {voucher_8});
     data.answer(heads, head_columns, {voucher_7, voucher_8});
     const std::vector<std::string> line_columns = {"NOID text",        "ZY text", "KM_ID text",
                                                    "J money",          "D money", "INX int",

@@ -95,8 +95,6 @@ TEST_F(Chart, a_sub_account_gets_the_level_below_and_its_parent) {
         last_batch(),
         "insert into D6801 (KM_ID, KM_NAME, FX, OID, PYM, KM_FL, KM_J, KM_K) ValueS('10020101',"
         "'园区支行','贷','100201','YQZH','1','3','1')");
-    anna.click("btn_Cancel");
-    anna.forget_messages();
     EXPECT_EQ(anna.tree()[3], "    10020101 园区支行");
 }
 
@@ -174,7 +172,7 @@ TEST_F(Chart, blank_code_or_name_is_refused) {
     EXPECT_NE(anna.next_message().find("科目代号"), std::string::npos);
     anna.forget_messages();
     anna.set("t0", "1003");
-    anna.refused({{"op", "click"}, {"control", "btn_ok"}});
+    anna.click("btn_ok");
     EXPECT_NE(anna.next_message().find("科目名称"), std::string::npos);
     anna.forget_messages();
     EXPECT_TRUE(data.executed().empty());
