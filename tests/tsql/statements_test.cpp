@@ -19,8 +19,8 @@ std::string refusal_of(std::string_view text) {
 
 TEST(Statements, each_statement_of_the_forms_is_read) {
     std::size_t count = 0;
-    for (const std::string& path : support::files_below(
-             std::string(ZF_SOURCE_DIR) + "/tests/tsql/statements", ".case")) {
+    for (const std::string& path :
+         support::files_below(std::string(ZF_SOURCE_DIR) + "/tests/tsql/statements", ".case")) {
         for (const support::Case& one : support::read_case_file(path, {}).cases) {
             EXPECT_EQ(refusal_of(one.text), "") << path << ":" << one.line;
             ++count;

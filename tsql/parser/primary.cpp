@@ -24,28 +24,23 @@ ExpressionPtr parse_case(TokenCursor& cursor) {
     return result;
 }
 
-ExpressionPtr parse_cast(TokenCursor& cursor) {
+// CAST(x AS t) and CONVERT(t, x[, style]), plain or TRY_.
+ExpressionPtr parse_conversion(TokenCursor& cursor) {
     const Token& word = cursor.take();
+    const bool converts = word.keyword == Keyword::Convert || word.keyword == Keyword::TryConvert;
     auto cast = std::make_unique<Cast>();
-    cast->is_try = word.keyword == Keyword::TryCast;
+    cast->is_try = word.keyword == Keyword::TryCast || word.keyword == Keyword::TryConvert;
     cursor.expect(TokenKind::LeftParenthesis);
-    cast->operand = parse_value(cursor);
-    cursor.expect(Keyword::As);
-    cast->type = parse_type(cursor);
-    cursor.expect(TokenKind::RightParenthesis);
-    cast->at = cursor.since(word.at);
-    return cast;
-}
-
-ExpressionPtr parse_convert(TokenCursor& cursor) {
-    const Token& word = cursor.take();
-    auto cast = std::make_unique<Cast>();
-    cast->is_try = word.keyword == Keyword::TryConvert;
-    cursor.expect(TokenKind::LeftParenthesis);
-    cast->type = parse_type(cursor);
-    cursor.expect(TokenKind::Comma);
-    cast->operand = parse_value(cursor);
-    if (cursor.accept(TokenKind::Comma)) cast->style = parse_value(cursor);
+    if (converts) {
+        cast->type = parse_type(cursor);
+        cursor.expect(TokenKind::Comma);
+        cast->operand = parse_value(cursor);
+        if (cursor.accept(TokenKind::Comma)) cast->style = parse_value(cursor);
+    } else {
+        cast->operand = parse_value(cursor);
+        cursor.expect(Keyword::As);
+        cast->type = parse_type(cursor);
+    }
     cursor.expect(TokenKind::RightParenthesis);
     cast->at = cursor.since(word.at);
     return cast;
@@ -128,9 +123,9 @@ ExpressionPtr parse_word(TokenCursor& cursor) {
     case Keyword::Case: return parse_case(cursor);
     case Keyword::Exists: return parse_exists(cursor);
     case Keyword::Convert:
-    case Keyword::TryConvert: return parse_convert(cursor);
+    case Keyword::TryConvert: return parse_conversion(cursor);
     case Keyword::Cast:
-    case Keyword::TryCast: return call ? parse_cast(cursor) : parse_named(cursor);
+    case Keyword::TryCast: return call ? parse_conversion(cursor) : parse_named(cursor);
     case Keyword::Parse:
     case Keyword::TryParse:
         if (call) cursor.refuse_unsupported("PARSE", cursor.peek().at);
