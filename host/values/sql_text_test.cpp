@@ -30,11 +30,11 @@ TEST(Quoting, what_was_typed_arrives_unchanged) {
     for (const std::string& text :
          {std::string("O'Brien"), std::string("'"), std::string("''"), std::string("a;b--c"),
           std::string("'; DROP TABLE D6601; --"), std::string("😀\\"), std::string(), long_text})
-        EXPECT_EQ(read_back(host::quoted(text)), text);
+        EXPECT_EQ(read_back(quoted(text)), text);
 }
 
 TEST(Quoting, quotes_are_doubled) {
-    EXPECT_EQ(host::quoted("O'Brien"), "'O''Brien'");
+    EXPECT_EQ(quoted("O'Brien"), "'O''Brien'");
     EXPECT_EQ("like '%" + escaped("a'b") + "%'", "like '%a''b%'");
 }
 
