@@ -23,7 +23,7 @@ public:
     BoundDelete bind_delete(const Delete& statement);
     std::shared_ptr<CatalogTable> bind_table(const std::string& name,
                                              const TableDefinition& definition,
-                                             std::string_view text, int literal_base);
+                                             std::string_view text);
 
     // ---- expressions
     BoundPtr bind_value(const Expression& expression, Scope& scope);
@@ -31,6 +31,10 @@ public:
     BoundPtr convert(BoundPtr value, const Type& target, ConvertMode mode = ConvertMode::Cast,
                      int style = 0);
     Type bind_type(const TypeName& name, int default_length);
+    // The result of an operator on two bound values.
+    BoundPtr combine(BinaryOperator op, BoundPtr left, BoundPtr right, SourceRange at) {
+        return arithmetic(op, std::move(left), std::move(right), at);
+    }
     BoundPtr literal_int(std::int64_t value, SourceRange at);
     BoundPtr null_value(SourceRange at);
     // An expression kept as text in the catalogue: a default, a CHECK, a computed column.
@@ -98,7 +102,6 @@ private:
     void order_select(const Query& query, Scope& scope, BoundSelect& select, BoundQuery& result);
     // Whether two expressions are the same; literals compared by value are pinned.
     bool same(const BoundPtr& left, const BoundPtr& right);
-    bool same_parts(const std::vector<BoundPtr>& left, const std::vector<BoundPtr>& right);
     std::unique_ptr<BoundBody> bind_set_operation(const SetOperation& node, Scope& scope,
                                                   BoundQuery& result);
     void bind_with(const std::vector<CommonTable>& with, Scope& scope,

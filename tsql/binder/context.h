@@ -56,7 +56,4 @@ struct BindContext {
     std::set<std::string> assigned_variables; // folded names, of a SELECT @v = …
 };
 
-// Name of the copy that holds a table's old or new rows while its triggers run.
-std::string copy_name(const CatalogTable& table, bool inserted);
-
 } // namespace tsql

@@ -88,7 +88,9 @@ BoundPtr Binder::bind_literal(const Literal& literal) {
     }
     if (literals.of_text) {
         bound->ordinal = literal.ordinal;
-        if (exact) {
+        // Ten digits may or may not fit an int.
+        const bool edge = literal.type == LiteralKind::Integer && literal.text.size() >= 10;
+        if (exact || edge) {
             literals.pinned.insert(literal.ordinal);
         }
     } else {

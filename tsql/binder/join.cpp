@@ -137,7 +137,7 @@ std::shared_ptr<RangeTable> Binder::bind_multi_function(const CreateFunction& fu
     }
     const std::string alias = table.alias.empty() ? fill.function : table.alias.text;
     const std::string owner = fold_name(fill.function);
-    const auto rows = bind_table(function.return_variable, function.return_table, {}, 0);
+    const auto rows = bind_table(function.return_variable, function.return_table, {});
     fill.source = "@" + owner + rows->name;
     rows->stored_name = fill.source + ":" + std::to_string(context_.next_id);
     rows->temporary = true;

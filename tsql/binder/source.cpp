@@ -6,26 +6,6 @@
 
 namespace tsql {
 
-std::string copy_name(const CatalogTable& table, bool inserted) {
-    // The columns are part of the name: a table that was altered gets new copies.
-    std::uint64_t mark = 1469598103934665603ULL;
-    const auto mix = [&](std::string_view text) {
-        for (const char c : text) {
-            mark = (mark ^ static_cast<unsigned char>(c)) * 1099511628211ULL;
-        }
-    };
-    for (const CatalogColumn& column : table.columns) {
-        mix(column.name);
-        mix(column.type.text());
-    }
-    constexpr const char* digits = "0123456789abcdef";
-    std::string text = (inserted ? "inserted:" : "deleted:") + table.name + ':';
-    for (int shift = 28; shift >= 0; shift -= 4) {
-        text += digits[mark >> shift & 0xf];
-    }
-    return text;
-}
-
 int Variables::find(std::string_view name) const {
     for (std::size_t i = 0; i < slots.size(); ++i) {
         if (same_name(slots[i].name, name)) {
@@ -55,6 +35,12 @@ std::shared_ptr<const CatalogTable> Binder::table_named(const ObjectName& name) 
             throw Refusal(1087, name.at, "Must declare the table variable \"" + text + "\".");
         }
         return found->second;
+    }
+    if (name.is_temporary()) {
+        const auto local = context_.variables.tables.find(text);
+        if (local != context_.variables.tables.end()) {
+            return local->second;
+        }
     }
     return context_.catalog.find_table(text);
 }

@@ -25,11 +25,33 @@ int CatalogTable::identity_column() const {
     return -1;
 }
 
-const Statement& CatalogModule::syntax() const {
+std::string copy_name(const CatalogTable& table, bool inserted) {
+    // The columns are part of the name: a table that was altered gets new copies.
+    std::uint64_t mark = 1469598103934665603ULL;
+    const auto mix = [&](std::string_view text) {
+        for (const char c : text) {
+            mark = (mark ^ static_cast<unsigned char>(c)) * 1099511628211ULL;
+        }
+    };
+    for (const CatalogColumn& column : table.columns) {
+        mix(column.name);
+        mix(column.type.text());
+    }
+    constexpr const char* digits = "0123456789abcdef";
+    std::string text = (inserted ? "inserted:" : "deleted:") + table.name + ':';
+    for (int shift = 28; shift >= 0; shift -= 4) {
+        text += digits[mark >> shift & 0xf];
+    }
+    return text;
+}
+
+std::shared_ptr<const Batch> CatalogModule::tree() const {
     if (!parsed_) {
         parsed_ = std::make_shared<const Batch>(parse(definition));
     }
-    return *parsed_->statements.front();
+    return parsed_;
 }
+
+const Statement& CatalogModule::syntax() const { return *tree()->statements.front(); }
 
 } // namespace tsql

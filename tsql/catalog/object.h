@@ -45,8 +45,8 @@ struct CatalogColumn {
 };
 
 // A primary key, a unique constraint or an index. Columns are ordinals of the table. In the
-// engine the index has the same name; for a unique one with nullable columns a second index
-// "<name>~null" sees to it that NULLs count as equal.
+// engine the index is called "<table>.<name>"; for a unique one with nullable columns a second
+// index "<table>.<name>~null" sees to it that NULLs count as equal.
 struct CatalogIndex {
     std::string name;
     std::vector<int> columns;
@@ -89,6 +89,9 @@ struct CatalogTable : CatalogObject {
     int identity_column() const; // ordinal, -1 when there is none
 };
 
+// Name of the copy that holds a table's old or new rows while its triggers run.
+std::string copy_name(const CatalogTable& table, bool inserted);
+
 // A view, function, procedure or trigger: a text that is parsed when first needed. Using one
 // object from two threads at a time is the caller's to prevent.
 struct CatalogModule : CatalogObject {
@@ -96,6 +99,8 @@ struct CatalogModule : CatalogObject {
 
     // The CREATE statement. Literals in it are numbered from 0.
     const Statement& syntax() const;
+    // The whole tree, for those who outlive the object.
+    std::shared_ptr<const Batch> tree() const;
 
 private:
     mutable std::shared_ptr<const Batch> parsed_;

@@ -6,7 +6,7 @@
 namespace tsql {
 
 // A literal taken out of a text, its marks off; the n-th is the one with ordinal n.
-struct LiteralValue {
+struct TakenLiteral {
     TokenKind kind = TokenKind::Text;
     std::string text;
     SourceRange at;
@@ -20,7 +20,7 @@ struct LiteralValue {
 //     // key "SELECT K FROM A WHERE V > ?d3,2 AND K = ?t", literals 1.50 and x
 struct NormalForm {
     std::string key;
-    std::vector<LiteralValue> literals;
+    std::vector<TakenLiteral> literals;
 };
 
 // Throws Refusal as the lexer does.

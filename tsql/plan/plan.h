@@ -49,7 +49,8 @@ enum class SystemValue : std::uint8_t {
                     // ordinal in its table, 0 from the left, physical columns only
 };
 
-// One parameter ?1, ?2, … of a text, in that order. The value is of type `type`; the engine
+// One parameter ?1, ?2, … of a text, in that order. A decimal is bound as INTEGER when `to` has at
+// most 18 digits, else in the 16-byte form. The value is of type `type`; the engine
 // converts it to `to` before it binds it, by the rules `how` names, and a value that does not
 // convert is an error of the statement (245, 8114, 241, 242, 8115, 8152 …).
 enum class Conversion : std::uint8_t {

@@ -25,7 +25,7 @@
 //   zf_assign(x, from, to)          into a column: as zf_cast, but a too long text is 8152
 //   zf_wide(x)                      decimal in the wide form, same scale
 //   zf_narrow(x)                    decimal in the narrow form, same scale; 8115
-//   zf_rescale(x, s, to_s)          decimal with another scale, wide, half away from zero; 8115
+//   zf_within(x, limit)             the integer x when |x| < limit; else 8115
 //
 // Integers
 //   zf_int1(x) zf_int2(x) zf_int4(x)  x when within tinyint, smallint, int; else 8115
@@ -40,6 +40,7 @@
 //   zf_dec_cmp(a,sa,b,sb)                     -1, 0, 1
 //   zf_dec_neg(x) zf_dec_abs(x)               wide
 //   zf_money_mul(a,b)  zf_money_div(a,b)      scale 4 each, narrow; product rounded, quotient cut
+//   zf_sign(x)                                -1, 0, 1 of any number
 //   zf_round_dec(x,s,digits,cut)   ROUND; same form as x; cut <> 0 cuts; 8115
 //   zf_round_int(x,digits,cut)     ROUND of an integer; zf_round_float(x,digits,cut)
 //   zf_ceiling_dec(x,s) zf_floor_dec(x,s)     scale 0, same form as x
@@ -48,6 +49,7 @@
 // Floating point (float columns only; never amounts)
 //   zf_fdiv(a,b)      8134
 //   zf_float(x)       x when finite, else 8115
+//   zf_ceiling_float(x) zf_floor_float(x)
 //   zf_power(x,y) zf_sqrt(x) zf_exp(x) zf_log(x) zf_log10(x) zf_pi() zf_sin zf_cos zf_tan zf_atan
 //   zf_rand(seed)     (v) seed may be NULL
 //
@@ -74,7 +76,8 @@
 // Rows and objects
 //   zf_variable(slot)      (v) present value of the running routine's variable
 //   zf_identity(table)     (v) next identity value of the table, by its catalogue name
-//   zf_identity_seen(table,x)  (v) x, after noting that x was given by hand
+//   zf_identity_seen(table,x)  (v) x, after noting that x was given by hand; 544 unless
+//                              IDENTITY_INSERT of the table is on
 //   zf_call(function,a,b,…)    (v) scalar function of the catalogue; arguments already in the
 //                              parameters' types; result in its declared type
 //   zf_object_id(name,kind)    (v) OBJECT_ID; kind may be NULL; NULL when there is none

@@ -1,0 +1,169 @@
+// Conversions: nothing where the stored value is the same, plain SQL where it is exact, else the
+// function that knows all rules.
+#include "tsql/emit/sqlite/emitter.h"
+
+namespace tsql::sqlite {
+
+namespace {
+
+std::string cast_call(const char* name, const std::string& value, const Type& from,
+                      const Type& to, int style) {
+    return std::string(name) + "(" + value + "," + std::to_string(from.packed()) + "," +
+           std::to_string(to.packed()) + "," + std::to_string(style) + ")";
+}
+
+// Whether every text of the one type is a text of the other, unchanged.
+bool text_fits(const Type& from, const Type& to) {
+    if (to.kind == TypeKind::Char || to.kind == TypeKind::NChar) {
+        return from == to;
+    }
+    if (to.length == Type::max_length) {
+        return true;
+    }
+    if (from.length == Type::max_length || from.length == 0) {
+        return false;
+    }
+    // Characters of a national text may take two bytes of the code page.
+    const int needed = from.is_national() && !to.is_national() ? 2 * from.length : from.length;
+    return needed <= to.length;
+}
+
+Fragment plain(std::string text, const Type& to) {
+    Fragment fragment;
+    fragment.text = std::move(text);
+    fragment.form = form_of(to);
+    fragment.bound = bound_of(to);
+    return fragment;
+}
+
+} // namespace
+
+// Both exact, neither bit nor money-to-whole (which rounds): moves the point and checks the size.
+Fragment Emitter::exact_to_exact(Fragment value, const Type& from, const Type& to) {
+    const int up = to.stored_scale() - from.stored_scale();
+    const double limit = bound_of(to);
+    if (value.form == Form::Wide || up < 0 || value.bound * power_of_ten(up) >= narrow_limit * 10) {
+        Fragment result;
+        result.form = form_of(to);
+        result.bound = bound_of(to);
+        const bool cut = up < 0 && !to.is_decimal() && value.form == Form::Narrow && !to.is_money();
+        if (cut) {
+            result.text = "(" + value.text + "/" +
+                          std::to_string(static_cast<std::int64_t>(power_of_ten(-up))) + ")";
+            if (value.bound / power_of_ten(-up) > limit) {
+                result.text = "zf_within(" + result.text + "," +
+                              std::to_string(static_cast<std::int64_t>(limit)) + ")";
+            }
+            return result;
+        }
+        result.text = cast_call("zf_cast", value.text, from, to, 0);
+        return result;
+    }
+    if (value.bound * power_of_ten(up) >= narrow_limit) {
+        return plain(cast_call("zf_cast", value.text, from, to, 0), to);
+    }
+    Fragment result = rescaled(std::move(value), from.stored_scale(), to.stored_scale());
+    if (result.bound > limit && limit < narrow_limit) {
+        result.text = "zf_within(" + result.text + "," +
+                      std::to_string(static_cast<std::int64_t>(limit)) + ")";
+        result.bound = limit;
+        result.collated = false;
+    }
+    result.is_parameter = false;
+    return result;
+}
+
+Fragment Emitter::converted(Fragment value, const Type& from, const Type& to, ConvertMode mode,
+                            int style) {
+    if (from.is_null() || value.text == "NULL") {
+        Fragment fragment = plain("NULL", to);
+        fragment.form = Form::Narrow;
+        return fragment;
+    }
+    if (mode == ConvertMode::Try) {
+        return plain(cast_call("zf_try_cast", value.text, from, to, style), to);
+    }
+    if (from == to) {
+        return value;
+    }
+    if (from.is_text() && to.is_text()) {
+        if (text_fits(from, to)) {
+            return value;
+        }
+        Fragment result = plain(
+            mode == ConvertMode::Assign
+                ? "zf_assign(" + value.text + "," + std::to_string(from.packed()) + "," +
+                      std::to_string(to.packed()) + ")"
+                : cast_call("zf_cast", value.text, from, to, style),
+            to);
+        return result;
+    }
+    const bool whole_money = from.is_money() && !to.is_decimal() && !to.is_money();
+    if (from.is_exact() && to.is_exact() && to.kind != TypeKind::Bit && !whole_money) {
+        return exact_to_exact(std::move(value), from, to);
+    }
+    if (to.is_float() && from.is_exact() && value.form == Form::Narrow) {
+        const int scale = from.stored_scale();
+        return plain(scale == 0 ? "CAST(" + value.text + " AS REAL)"
+                                : "(" + value.text + "/1" +
+                                      std::string(static_cast<std::size_t>(scale), '0') + ".0)",
+                     to);
+    }
+    if (from.kind == TypeKind::Date && to.kind == TypeKind::DateTime) {
+        return plain("(" + value.text + "*25920000)", to);
+    }
+    if (from.kind == TypeKind::SmallDateTime && to.kind == TypeKind::DateTime) {
+        return value;
+    }
+    if (mode == ConvertMode::Assign) {
+        return plain("zf_assign(" + value.text + "," + std::to_string(from.packed()) + "," +
+                         std::to_string(to.packed()) + ")",
+                     to);
+    }
+    return plain(cast_call("zf_cast", value.text, from, to, style), to);
+}
+
+Fragment Emitter::convert(const BoundConvert& node) {
+    const BoundExpression& operand = *node.operand;
+    // A literal is converted before it is bound, once; not where its branch may not be reached,
+    // because a text that is no number is no error there.
+    const bool safe = conditional_ == 0 || !operand.type.is_text() || node.type.is_text();
+    if (operand.kind == BoundKind::Literal && node.mode != ConvertMode::Try && safe) {
+        const auto how =
+            node.mode == ConvertMode::Assign ? Conversion::Assign : Conversion::Cast;
+        return literal(static_cast<const BoundLiteral&>(operand), node.type, how, node.style);
+    }
+    if (operand.kind == BoundKind::Value && conditional_ == 0 && node.mode != ConvertMode::Try) {
+        const auto& value = static_cast<const BoundValue&>(operand);
+        if (!value.row_by_row) {
+            volatile_ = true;
+            PlanParameter given;
+            given.source = value.source;
+            given.system = value.system;
+            given.index = value.index;
+            given.type = value.type;
+            given.to = node.type;
+            given.how = value.type == node.type              ? Conversion::None
+                        : node.mode == ConvertMode::Assign ? Conversion::Assign
+                                                             : Conversion::Cast;
+            given.style = node.style;
+            Fragment fragment = plain(parameter(given), node.type);
+            fragment.is_parameter = true;
+            return fragment;
+        }
+    }
+    return converted(value_of(node.operand), operand.type, node.type, node.mode, node.style);
+}
+
+std::string Emitter::stored_value(const BoundPtr& value, const Type& type) {
+    Fragment fragment = value_of(value);
+    if (form_of(type) == Form::Wide && fragment.form == Form::Narrow && fragment.text != "NULL") {
+        return "zf_wide(" + fragment.text + ")";
+    }
+    if (form_of(type) == Form::Narrow && fragment.form == Form::Wide) {
+        return "zf_narrow(" + fragment.text + ")";
+    }
+    return fragment.text;
+}
+
+} // namespace tsql::sqlite
