@@ -14,6 +14,7 @@ struct BoundAssign { // SELECT @a = x, … FROM …; the query's items go into t
 struct BoundChange {
     std::shared_ptr<const CatalogTable> table;
     std::shared_ptr<RangeTable> target; // the rows that change
+    std::shared_ptr<RangeTable> view;   // through which they are seen, when there is one
     std::vector<std::shared_ptr<BoundCommonTable>> with;
     std::optional<BoundTop> top;
     // OUTPUT: a query over the copies of old and new rows, and where its rows go.

@@ -73,6 +73,7 @@ bool Binder::find_target(const ObjectName& name, const std::vector<TableSourcePt
     auto& select = static_cast<BoundSelect&>(*view->query->body);
     change.target = select.from[0]->table;
     change.table = row->table;
+    change.view = view;
     view_condition = select.where;
     scope.tables.insert(scope.tables.begin(), view);
     return false;
