@@ -69,10 +69,26 @@ void TF6689F::btn_okClick() {
     check_period(text);
     const auto period = Period::parse(text);
     if (!period) refuse("会计年度和会计期间不能为空!请选择。");
-    ResultText = trial_balance_query(*period, EDT3.as_integer());
-    Description = " ●会计年度:" + EDT1.Text.get() + "    ●会计期间:" + EDT2.Text.get() +
-                  "    ●科目级别:" + EDT3.Text.get();
     TFrm_Sys_Filter::btn_okClick();
+    shown_ = period;
+    write_result();
+}
+
+bool TF6689F::ShowLevel(std::int64_t level) {
+    if (!shown_) return false;
+    EDT3.set(level);
+    SaveRemembered();
+    write_result();
+    return true;
+}
+
+// ---- statements ----
+
+void TF6689F::write_result() {
+    ResultText = trial_balance_query(*shown_, EDT3.as_integer());
+    Description = " ●会计年度:" + std::to_string(shown_->year()) +
+                  "    ●会计期间:" + std::to_string(shown_->month()) +
+                  "    ●科目级别:" + EDT3.Text.get();
 }
 
 } // namespace module

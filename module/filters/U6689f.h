@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/forms/Sys_Filter.h"
+#include "host/values/period.h"
 #include "module/host_names.h"
 
 namespace module {
@@ -20,6 +21,8 @@ public:
     void InitForm() override;
     void InitFocu() override;
     void btn_okClick() override;
+    // The statement for another level of the period last shown; false before the first OK.
+    bool ShowLevel(std::int64_t level);
 
 protected:
     void FormActivate() override;
@@ -28,6 +31,8 @@ private:
     // This form's own rules.
     std::string chosen_period() const;
     void check_period(const std::string& period);
+    void write_result();
+    std::optional<Period> shown_; // period of the last OK
 };
 
 } // namespace module

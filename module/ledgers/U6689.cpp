@@ -26,14 +26,20 @@ TF6689::TF6689(TForm* parent) : TFrm_Base_Qry(parent) {
     add_side_by_side("期初余额", "B");   // opening balance
     add_side_by_side("本期发生额", "C"); // turnover of the period
     add_side_by_side("期末余额", "D");   // closing balance
+    for (TSpeedButton* button : levels()) {
+        button->GroupIndex = 1;
+        const std::int64_t level = button->Caption.get()[0] - '0';
+        button->OnClick = [this, level] { LevelClick(level); };
+    }
     Balanced.Visible = Unbalanced.Visible = false;
     Balanced.FontColor = blue;
     Unbalanced.FontColor = red;
-    layout =
-        Rows({ToolBar({&Act_Locate, &Act_Refresh, nullptr, &Act_Print, &Act_Preview, &Act_Export,
-                       nullptr, &Act_Quit}),
-              Columns({Control(ConditionLabel), Spring(), Control(Balanced), Control(Unbalanced)}),
-              Rest(DBGridEh)});
+    layout = Rows({ToolBar({&Act_Locate, &Act_Refresh, nullptr, &Act_Print, &Act_Preview,
+                            &Act_Export, nullptr, &Act_Quit}),
+                   Columns({Control(ConditionLabel), Spring(), Text("科目级别"), Control(Level1),
+                            Control(Level2), Control(Level3), Control(Level4), Control(Level5),
+                            Space(2), Control(Balanced), Control(Unbalanced)}),
+                   Rest(DBGridEh)});
 }
 
 TF6689::~TF6689() = default;
@@ -70,7 +76,22 @@ TFrm_Sys_Filter* TF6689::Filter() {
 
 void TF6689::GetData() {
     TFrm_Base_Qry::GetData();
-    if (!SqlText.empty()) refcon();
+    if (SqlText.empty()) return;
+    refcon();
+    show_level();
+}
+
+void TF6689::LevelClick(std::int64_t level) {
+    if (!F6689F->ShowLevel(level)) return Act_Locate.Execute(), void();
+    SqlText = F6689F->ResultText;
+    ConditionLabel.Caption = F6689F->Description;
+    GetData();
+}
+
+void TF6689::show_level() {
+    const auto buttons = levels();
+    const std::int64_t level = F6689F->EDT3.as_integer();
+    buttons[static_cast<std::size_t>(level - 1)]->Down = true;
 }
 
 void TF6689::refcon() {

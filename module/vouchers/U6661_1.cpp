@@ -21,6 +21,7 @@ TF6661_1::TF6661_1(TForm* parent) : Tfrm_Base_Entry_Body(parent) {
     Caption = "记帐凭证";
     PZZ_H.Min = Amount::from_whole(1);
     PZZ_Z.Min = Amount();
+    PZZ_H.Max = PZZ_Z.Max = Amount::from_whole(99'999);
     Act_Other.Caption = "模板";
     grid_.define_fields();
     AdoQry_Main.Open();
@@ -64,6 +65,7 @@ void TF6661_1::bind_events() {
 void TF6661_1::InitForm(const std::string& key, TClientDataSet* list, bool read_only, bool copy,
                         bool modal, int number) {
     leaf_accounts_.forget();
+    opened_anew_ = true;
     Tfrm_Base_Entry_Body::InitForm(key, list, read_only, copy, modal, number);
 }
 
@@ -78,7 +80,9 @@ void TF6661_1::read_books() {
     period_ = read_current_period(FunctionCode);
     single_word_ = words.fixed;
     PZZ.Items = words.words;
-    if (PZZ.item_index() < 0) PZZ.set_index(0);
+    if (Mode == "CopyAdd") PZZ.Text = AdoQry_Head.FieldByName("PZZ").AsText();
+    const bool first_word = std::exchange(opened_anew_, false) && Mode == "Add";
+    if (first_word || PZZ.item_index() < 0) PZZ.set_index(0);
     F6661_2->init(AdoQry_Main, FunctionCode);
     F6661_3->init(AdoQry_Main, nullptr, FunctionCode, "KM_ID", "KM_NAME_NEW", "202");
 }
@@ -98,6 +102,7 @@ void TF6661_1::RefreshData() {
     refresh_title();
     PZZ.OnChange = [this] { PZZChange(); };
     Act_Save.Enabled = false;
+    PoPMenuPopup();
     Act_Other.Enabled = FunctionCode == "661" && new_voucher();
 }
 
@@ -272,7 +277,7 @@ void TF6661_1::PoPMenuPopup() {
 
 void TF6661_1::N2Click() {
     if (AdoQry_Main.IsEmpty()) return;
-    if (Key.empty() || new_voucher()) refuse("请先保存凭证,再存为模板!");
+    if (Key.empty()) refuse("请先保存凭证,再存为模板!");
     save_as_template(FunctionCode, Key);
 }
 
@@ -348,6 +353,9 @@ VoucherHead TF6661_1::head_to_save(const std::string& period) const {
 void TF6661_1::SaveData() {
     const std::string period = read_current_period(FunctionCode);
     if (period.empty()) refuse("读取会计期间错误!请确认是否进行初始建帐!");
+    if (period != period_) {
+        refuse("会计期间已由 " + period_ + " 变为 " + period + "!请退出后重新打开凭证,再保存。");
+    }
     const VoucherHead head = head_to_save(period);
     const std::string own_key = Mode == "Edit" ? Key : "";
     if (voucher_key_taken(FunctionCode, head.key, own_key)) {

@@ -83,6 +83,7 @@ private:
     LeafAccounts leaf_accounts_;
     std::string period_;       // current period of the books
     bool single_word_ = false; // all vouchers carry one word
+    bool opened_anew_ = false; // not merely ready for the next voucher
     std::string as_opened_;    // what was stored when the voucher was opened
     std::unique_ptr<TF6661_2> F6661_2;
     std::unique_ptr<TF6661_3> F6661_3;

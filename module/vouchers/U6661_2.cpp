@@ -15,7 +15,8 @@ TF6661_2::TF6661_2(TForm* parent) : TFrm_Base_Dialog(parent) {
     AdoQry_Main.DefineField("ZY", FieldType::Text, 100);
     AdoQry_Main.Open();
     DBGridEh.Columns.push_back({.FieldName = "ZY", .Title = "摘要", .Width = -1, .ReadOnly = true});
-    DBGridEh.AppendOnEnter = false;
+    DBGridEh.ReadOnly = true;
+    btn_ok.Default = true; // Enter takes the row
     DBGridEh.EmptyText = "没有相符的摘要";
     BTN_INS.KeyHint = "Insert";
     wl_name.OnChange = [this] { wl_nameChange(); };

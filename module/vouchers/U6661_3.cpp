@@ -20,7 +20,8 @@ TF6661_3::TF6661_3(TForm* parent) : TFrm_Base_Dialog(parent) {
         {.FieldName = "km_ID", .Title = "科目", .Width = 14, .ReadOnly = true},
         {.FieldName = "km_name_new", .Title = "会计科目", .Width = -1, .ReadOnly = true},
         {.FieldName = "pym", .Title = "拼音码", .Width = 12, .ReadOnly = true}};
-    DBGridEh.AppendOnEnter = false;
+    DBGridEh.ReadOnly = true;
+    btn_ok.Default = true; // Enter takes the row
     DBGridEh.EmptyText = "没有相符的科目";
     btn_ins.KeyHint = "Insert";
     wl_id.OnChange = [this] { WL_IDChange(); };

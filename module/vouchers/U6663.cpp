@@ -93,6 +93,7 @@ void TF6663::btn_okClick() {
 void TF6663::btn_okClick(const TButton& sender) {
     InitForm(record_);
     if (period_.empty()) refuse("没有初始建帐!请从[会计科目初始]模块进行首次建帐!");
+    if (!the_host().may({FunctionCode, "post"})) refuse("您没有登帐的权限，请与系统管理员联系。");
     if (R1.Checked && !numbers_run_on(period_)) refuse("凭证号不连续!");
     const auto period = Period::parse(period_);
     if (!period) refuse("当前会计期间“" + period_ + "”不是年月!请检查会计科目初始。");

@@ -34,9 +34,11 @@ void LeafAccounts::load(const std::string& function, const std::string& period) 
     TClientDataSet rows;
     opensql(rows, function, select_leaf_accounts(period));
     accounts_.clear();
+    by_code_.clear();
     accounts_.reserve(static_cast<std::size_t>(rows.RecordCount()));
     for (rows.First(); !rows.Eof(); rows.Next()) {
         const std::string side = rows.FieldByName("FX").AsText();
+        by_code_[upper_case(rows.FieldByName("KM_ID").AsText())] = accounts_.size();
         accounts_.push_back({rows.FieldByName("KM_ID").AsText(),
                              rows.FieldByName("KM_NAME_NEW").AsText(),
                              rows.FieldByName("PYM").AsText(), side,
@@ -47,10 +49,8 @@ void LeafAccounts::load(const std::string& function, const std::string& period) 
 }
 
 const LeafAccount* LeafAccounts::find(const std::string& code) const {
-    for (const LeafAccount& account : accounts_) {
-        if (same_text(account.code, code)) return &account;
-    }
-    return nullptr;
+    const auto at = by_code_.find(upper_case(code));
+    return at == by_code_.end() ? nullptr : &accounts_[at->second];
 }
 
 std::vector<const LeafAccount*> LeafAccounts::matching(const std::string& text) const {

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "host/values/amount.h"
@@ -36,7 +37,8 @@ public:
     std::vector<const LeafAccount*> matching(const std::string& text) const;
 
 private:
-    std::vector<LeafAccount> accounts_; // ordered by code
+    std::vector<LeafAccount> accounts_;                    // ordered by code
+    std::unordered_map<std::string, std::size_t> by_code_; // upper-case code → position
     bool loaded_ = false;
 };
 

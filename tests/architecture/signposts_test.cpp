@@ -89,7 +89,7 @@ TEST(Signposts, folders_of_the_first_two_levels_have_a_short_readme) {
         if (readme == readmes.end()) {
             offences.add(folder + "/README.md is missing");
         } else if (readme->second->lines.size() > longest_readme &&
-                   !folder.starts_with("module/")) {
+                   !folder.starts_with("module")) {
             offences.add(folder + "/README.md has more than " + std::to_string(longest_readme) +
                          " lines");
         }

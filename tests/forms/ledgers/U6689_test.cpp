@@ -93,6 +93,17 @@ TEST_F(TrialBalance, amounts_below_zero_are_red) {
     EXPECT_FALSE(anna.colors(2).contains("D2"));
 }
 
+TEST_F(TrialBalance, another_level_of_the_same_period_is_a_click_away) {
+    Person& anna = person();
+    anna.set("EDT2", "2");
+    anna.click("btn_ok");
+    anna.mark();
+    anna.click("Level3");
+    EXPECT_EQ(anna.value("ConditionLabel"), " ●会计年度:2024    ●会计期间:2    ●科目级别:3");
+    EXPECT_NE(anna.sent_texts().back().find("WHERE (QJ='2024-02') AND (INX=0) AND (km_j<=3)"),
+              std::string::npos);
+}
+
 TEST_F(TrialBalance, the_period_lies_within_the_books) {
     struct Attempt {
         const char* year;

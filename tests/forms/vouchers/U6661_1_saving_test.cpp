@@ -109,6 +109,15 @@ TEST_F(VoucherSaving, books_that_were_not_set_up_take_no_voucher) {
     EXPECT_TRUE(data.executed().empty());
 }
 
+TEST_F(VoucherSaving, a_period_closed_meanwhile_takes_no_voucher) {
+    new_voucher();
+    type_balanced_lines();
+    answer_current_period(data, "2024-04");
+    anna->click("Act_Save");
+    anna->expect_message("会计期间已由 2024-03 变为 2024-04!请退出后重新打开凭证,再保存。");
+    EXPECT_TRUE(data.executed().empty());
+}
+
 TEST_F(VoucherSaving, the_date_lies_in_the_current_period) {
     const std::pair<const char*, bool> dates[] = {
         {"2024-02-29", false}, {"2024-03-01", true}, {"2024-03-31", true}, {"2024-04-01", false}};

@@ -261,5 +261,49 @@ TEST_F(VoucherEntry, allocation_needs_a_line_on_a_cash_account) {
     anna->expect_message("当前凭证没有现金流量核算的科目存在!不需要进行现金流量的分配!");
 }
 
+TEST_F(VoucherEntry, a_picker_is_worked_by_keys_alone) {
+    new_voucher();
+    anna->focus("DBGridEh");
+    anna->key("F4");
+    anna->expect_active("TF6661_2");
+    anna->key("Down");
+    anna->key("Enter");
+    anna->expect_active("TF6661_1");
+    EXPECT_EQ(anna->rows()[0].at("ZY"), "提现");
+    anna->key("Enter");
+    anna->key("F4");
+    anna->expect_active("TF6661_3");
+    for (const char* letter : {"y", "s"}) anna->key(letter);
+    anna->key("Down");
+    anna->key("Insert");
+    anna->key("Esc");
+    anna->expect_active("TF6661_1");
+    EXPECT_EQ(anna->rows()[0].at("KM_ID"), "1133");
+}
+
+TEST_F(VoucherEntry, a_summary_holds_a_hundred_characters) {
+    new_voucher();
+    std::string hundred;
+    for (int i = 0; i < 100; ++i) hundred += "帐";
+    anna->cell(0, "ZY", hundred);
+    EXPECT_EQ(anna->rows()[0].at("ZY"), hundred);
+    anna->cannot_cell(1, "ZY", hundred + "帐");
+    EXPECT_NE(anna->next_message().find("100"), std::string::npos);
+}
+
+TEST_F(VoucherEntry, a_text_is_no_amount) {
+    new_voucher();
+    for (const char* typed : {"abc", "1;2", "--5", "1e9", "99999999999999999999"}) {
+        anna->cannot_cell(0, "J", typed);
+        EXPECT_NE(anna->next_message(), "") << typed;
+    }
+}
+
+TEST_F(VoucherEntry, a_number_below_one_is_refused) {
+    new_voucher();
+    anna->cannot_set("PZZ_H", "0");
+    EXPECT_NE(anna->next_message().find("1"), std::string::npos);
+}
+
 } // namespace
 } // namespace tests

@@ -61,6 +61,16 @@ TEST_F(Posting, posts_in_one_batch) {
     EXPECT_EQ(executed.log.operation, "Edit");
 }
 
+TEST_F(Posting, needs_the_right_to_post) {
+    PersonOptions options;
+    options.may = [](const host::Right& right) { return right.action != "post"; };
+    Person anna(data, options);
+    anna.open(663);
+    anna.click("btn_ok");
+    anna.expect_message("您没有登帐的权限，请与系统管理员联系。");
+    EXPECT_TRUE(data.executed().empty());
+}
+
 TEST_F(Posting, is_taken_back) {
     Person& anna = person();
     anna.click("btn_re");
