@@ -27,7 +27,9 @@ const std::vector<Arrow>& arrows() {
         {"module/", {"module/", "host/"}, {}},
         {"automation/drive/", {"automation/drive/", "host/"}, {"nlohmann/"}},
         {"automation/sql/", {"automation/sql/", "engines/"}, {"nlohmann/", "fmt/"}},
-        {"automation/check/", {"automation/check/", "automation/sql/", "engines/", "schema/"}, {}},
+        {"automation/check/",
+         {"automation/check/", "automation/sql/", "engines/", "schema/"},
+         {"nlohmann/", "fmt/"}},
         {"desktop/", {"desktop/", "host/"}, {"*"}},
         {"app/", {"*"}, {"*"}},
         {"tests/", {"*"}, {"*"}},
@@ -67,6 +69,7 @@ std::vector<Include> includes_of(const SourceFile& file) {
     std::vector<Include> includes;
     for (std::size_t at = 0; at < file.lines.size(); ++at) {
         std::smatch parts;
+        if (file.lines[at].find("include") == std::string::npos) continue;
         if (!std::regex_match(file.lines[at], parts, form)) continue;
         includes.push_back({parts[2], parts[1] == "\"", at + 1});
     }
