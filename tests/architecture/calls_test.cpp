@@ -94,7 +94,7 @@ TEST(Calls, a_header_leaves_names_their_namespace) {
 // "…='" + KM_ID.Text would let a quote in the text end the literal. What a helper returned that
 // cannot hold a quote, or doubled them, may stand there.
 TEST(Calls, a_text_between_quotes_of_a_statement_goes_through_the_quoting_helper) {
-    static const std::regex joined(R"re(='"\s*\+\s*([A-Za-z_:.]+))re");
+    static const std::regex joined(R"re('"\s*\+\s*([A-Za-z_:.]+))re");
     static const std::regex safe(R"re((host::)?(escaped|FormatAmount|boltos|[a-z_]+\.to_text))re");
     Offences offences("a text enters a statement unquoted; use quoted() or escaped()");
     for (const SourceFile& file : repository()) {
@@ -102,7 +102,7 @@ TEST(Calls, a_text_between_quotes_of_a_statement_goes_through_the_quoting_helper
         if (!file.is_code() || file.is_test()) continue;
         for (std::size_t at = 0; at < file.lines.size(); ++at) {
             std::smatch found;
-            if (file.lines[at].find("='\"") == std::string::npos) continue;
+            if (file.lines[at].find("'\"") == std::string::npos) continue;
             if (!std::regex_search(file.lines[at], found, joined)) continue;
             if (!std::regex_match(found[1].str(), safe)) {
                 offences.add(file, at + 1, found.str());
