@@ -6,6 +6,7 @@
 #include "host/values/sql_text.h"
 #include "host/values/text.h"
 #include "module/masterdata/account_level.h"
+#include "module/masterdata/new_code.h"
 #include "module/refuse.h"
 
 namespace module {
@@ -61,24 +62,14 @@ void TF6681_1::load_selected_account() {
 // ---- leaving a field ----
 
 void TF6681_1::t0Exit() {
-    if (!leaving_by_cancel() && adding()) check_code();
+    if (leaving_by_cancel() || !adding()) return;
+    require_new_code(*this, t0, "科目代号",
+                     "select km_id from D6801  where km_id=" + quoted(t0.Text.get()),
+                     "科目代号 已登记!");
 }
 
 void TF6681_1::t1Exit() {
     if (!leaving_by_cancel()) CheckBlank(t1, "科目名称");
-}
-
-// ---- checking ----
-
-void TF6681_1::check_code() {
-    CheckBlankInstr(t0, "科目代号");
-    CheckBlank(t0, "科目代号");
-    CheckText(t0, "科目代号");
-    TClientDataSet known;
-    opensql(known, FunctionCode, "select km_id from D6801  where km_id=" + quoted(t0.Text.get()));
-    if (known.IsEmpty()) return;
-    t0.SetFocus();
-    refuse("科目代号 已登记!");
 }
 
 // ---- statements ----

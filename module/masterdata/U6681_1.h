@@ -29,7 +29,6 @@ public:
 private:
     // This form's own rules.
     bool adding() const { return Mode != "Edit"; }
-    void check_code();
     void load_selected_account();
     std::string insert_account(const std::string& level) const;
     std::string update_account(const std::string& level) const;

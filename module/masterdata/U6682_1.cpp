@@ -6,7 +6,7 @@
 #include "host/values/sql_text.h"
 #include "host/values/text.h"
 #include "module/masterdata/list_row.h"
-#include "module/refuse.h"
+#include "module/masterdata/new_code.h"
 
 namespace module {
 
@@ -35,24 +35,14 @@ void TF6682_1::RefreshData() {
 // ---- leaving a field ----
 
 void TF6682_1::Edit1Exit() {
-    if (!leaving_by_cancel() && adding()) check_word();
+    if (leaving_by_cancel() || !adding()) return;
+    require_new_code(*this, Edit1, "凭证字",
+                     "select pzz from d6802 where pzz=" + quoted(Edit1.Text.get()),
+                     "凭证字已登记!");
 }
 
 void TF6682_1::PZZ_PRINTExit() {
     if (!leaving_by_cancel()) CheckBlank(PZZ_PRINT, "打印标题");
-}
-
-// ---- checking ----
-
-void TF6682_1::check_word() {
-    CheckBlankInstr(Edit1, "凭证字");
-    CheckBlank(Edit1, "凭证字");
-    CheckText(Edit1, "凭证字");
-    TClientDataSet known;
-    opensql(known, FunctionCode, "select pzz from d6802 where pzz=" + quoted(Edit1.Text.get()));
-    if (known.IsEmpty()) return;
-    Edit1.SetFocus();
-    refuse("凭证字已登记!");
 }
 
 // ---- statements ----

@@ -27,7 +27,6 @@ public:
 private:
     // This form's own rules.
     bool adding() const { return Mode != "Edit"; }
-    void check_word();
     std::string save_word() const;
 };
 

@@ -1,32 +1,22 @@
 // Pick an account that takes entries, by code, name or pinyin.
 #include "module/vouchers/U6661_3.h"
 
-#include "module/refuse.h"
 #include "module/vouchers/account_search.h"
-#include "module/vouchers/picker_keys.h"
 
 namespace module {
 
 // ---- opening ----
 
-TF6661_3::TF6661_3(TForm* parent) : TFrm_Base_Dialog(parent) {
+TF6661_3::TF6661_3(TForm* parent) : VoucherPicker(parent) {
     Caption = "科目";
-    PreferredWidth = 64;
     AdoQry_Main.DefineField("km_ID", FieldType::Text, 50);
     AdoQry_Main.DefineField("km_name_new", FieldType::Text, 610);
     AdoQry_Main.DefineField("pym", FieldType::Text, 100);
     AdoQry_Main.Open();
-    DBGridEh.Columns = {
-        {.FieldName = "km_ID", .Title = "科目", .Width = 14, .ReadOnly = true},
-        {.FieldName = "km_name_new", .Title = "会计科目", .Width = -1, .ReadOnly = true},
-        {.FieldName = "pym", .Title = "拼音码", .Width = 12, .ReadOnly = true}};
-    DBGridEh.ReadOnly = true;
-    btn_ok.Default = true; // Enter takes the row
-    DBGridEh.EmptyText = "没有相符的科目";
-    btn_ins.KeyHint = "Insert";
-    wl_id.OnChange = [this] { WL_IDChange(); };
-    btn_ins.OnClick = [this] { BTN_INSClick(); };
-    DBGridEh.OnDblClick = [this] { btn_ok.Click(); };
+    DBGridEh.Columns = {{.FieldName = "km_ID", .Title = "科目", .Width = 14},
+                        {.FieldName = "km_name_new", .Title = "会计科目", .Width = -1},
+                        {.FieldName = "pym", .Title = "拼音码", .Width = 12}};
+    bind(wl_id, btn_ins);
     layout = Rows({Field("科目", wl_id, 32),
                    Text("提示：您可以录入科目代号，科目名称，拼音码  进行检索"), Rest(DBGridEh),
                    Buttons({&btn_ins, &btn_ok, &btn_Cancel})});
@@ -44,11 +34,9 @@ void TF6661_3::init(TClientDataSet& lines, TLinkEdit* edit, const std::string& f
 
 // The chart may have changed since the picker stood open last.
 void TF6661_3::FormShow() {
-    TFrm_Base_Dialog::FormShow();
+    VoucherPicker::FormShow();
     loaded_ = false;
-    wl_id.Text = "";
-    WL_IDChange();
-    wl_id.SetFocus();
+    start_search();
 }
 
 void TF6661_3::load_leaf_accounts() {
@@ -69,20 +57,9 @@ void TF6661_3::WL_IDChange() {
     });
 }
 
-void TF6661_3::FormKeyDown(Key& key) {
-    if (key.code == KeyCode::Insert) {
-        key = {};
-        btn_ins.Click();
-        return;
-    }
-    move_row_from_search(key, AdoQry_Main);
-    TFrm_Base_Dialog::FormKeyDown(key);
-}
-
 // ---- saving ----
 
 void TF6661_3::hand_over() {
-    if (AdoQry_Main.IsEmpty()) refuse("没有选中的科目!请改写检索内容。");
     const std::string code = AdoQry_Main.FieldByName("km_id").AsText();
     const std::string name = AdoQry_Main.FieldByName("km_name_new").AsText();
     if (edit_) {
@@ -92,15 +69,7 @@ void TF6661_3::hand_over() {
     }
     lines_->Edit();
     lines_->FieldByName(code_field_).SetText(code);
-}
-
-void TF6661_3::BTN_INSClick() {
-    hand_over();
-}
-
-void TF6661_3::btn_okClick() {
-    hand_over();
-    TFrm_Base_Dialog::btn_okClick();
+    lines_->FieldByName(name_field_).SetValue(name);
 }
 
 } // namespace module

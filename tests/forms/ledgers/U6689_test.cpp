@@ -1,14 +1,13 @@
 // The trial balance: its condition dialog, its footers, its verdict.
-#include <gtest/gtest.h>
-
+#include "tests/forms/form_desk.h"
 #include "tests/forms/small_books.h"
-#include "tests/support/person.h"
 
 namespace tests {
 namespace {
 
-class TrialBalance : public testing::Test {
+class TrialBalance : public FormDesk {
 protected:
+    TrialBalance() : FormDesk(689) {}
     void SetUp() override {
         answer_current_period(data, "2024-03");
         answer_rows("585.00");
@@ -26,15 +25,6 @@ protected:
                      {"113101", "应收帐款-东方", "1131", "2", "0", "0", "0", "585", "-3", "585",
                       "0", "0", "0", "0", "0", "0"}});
     }
-    Person& person() {
-        if (!anna_) {
-            anna_ = std::make_unique<Person>(data);
-            anna_->open(689);
-        }
-        return *anna_;
-    }
-    FakeData data;
-    std::unique_ptr<Person> anna_;
 };
 
 TEST_F(TrialBalance, asks_for_the_current_period_as_soon_as_it_opens) {
@@ -118,7 +108,7 @@ TEST_F(TrialBalance, the_period_lies_within_the_books) {
         {"2023", "12", "开始期间不能 小于 帐套启用日期!帐套启用日期为:2024-01"},
     };
     for (const Attempt& attempt : attempts) {
-        anna_.reset();
+        leave();
         Person& anna = person();
         anna.set("EDT1", attempt.year);
         anna.set("EDT2", attempt.month);

@@ -1,14 +1,12 @@
 // The chart of accounts as a tree, and its dialog.
-#include <gtest/gtest.h>
-
-#include "tests/support/fake_data.h"
-#include "tests/support/person.h"
+#include "tests/forms/form_desk.h"
 
 namespace tests {
 namespace {
 
-class Chart : public testing::Test {
+class Chart : public FormDesk {
 protected:
+    Chart() : FormDesk(681) {}
     void SetUp() override {
         const std::string list = "SELECT KM_ID,KM_NAME, OID  FROM D6801 where km_fl=";
         const std::vector<std::string> columns = {"KM_ID text", "KM_NAME text", "OID text"};
@@ -28,16 +26,6 @@ protected:
         data.answer("SELECT (SELECT COUNT(*) FROM D6601A", {"I int"}, {{"0"}});
         data.answer("SELECT COUNT(*)", {"I int"}, {{"0"}});
     }
-    Person& person() {
-        if (!anna_) {
-            anna_ = std::make_unique<Person>(data);
-            anna_->open(681);
-        }
-        return *anna_;
-    }
-    std::string last_batch() const { return data.executed().back().batch; }
-    FakeData data;
-    std::unique_ptr<Person> anna_;
 };
 
 TEST_F(Chart, shows_the_assets_first_as_a_tree) {
@@ -75,9 +63,9 @@ TEST_F(Chart, an_account_beside_a_top_level_one_is_a_top_level_account) {
     EXPECT_EQ(last_batch(),
               "insert into D6801 (KM_ID, KM_NAME, FX, OID, PYM, KM_FL, KM_J, KM_K) ValueS('1009A',"
               "'其他货币资金','借','Z','QTHBZJ','1','1','1')");
-    EXPECT_EQ(data.executed().back().log.key, "1009A");
-    EXPECT_EQ(data.executed().back().log.operation, "Add");
-    EXPECT_EQ(data.executed().back().log.function, "681");
+    EXPECT_EQ(last_log().key, "1009A");
+    EXPECT_EQ(last_log().operation, "Add");
+    EXPECT_EQ(last_log().function, "681");
 }
 
 TEST_F(Chart, a_sub_account_gets_the_level_below_and_its_parent) {
@@ -118,7 +106,7 @@ TEST_F(Chart, codes_from_1010_lose_the_cash_flow_mark) {
                                                          {"1102", "0"},
                                                          {"2001", "0"}};
     for (const auto& [code, mark] : codes) {
-        anna_.reset();
+        leave();
         Person& anna = person();
         anna.node("1001 现金");
         anna.click("Act_Add");
@@ -143,7 +131,7 @@ TEST_F(Chart, editing_keeps_code_parent_and_category) {
     EXPECT_EQ(last_batch(),
               "UPDATE D6801 SET  km_NAME = '银行''存款''',km_J= '1',km_k= '1',fx= '贷',PYM='YHCK' "
               "where km_id='1002'");
-    EXPECT_EQ(data.executed().back().log.operation, "Edit");
+    EXPECT_EQ(last_log().operation, "Edit");
     anna.expect_active("TF6681");
     EXPECT_EQ(anna.tree()[1], "1002 银行'存款'");
 }

@@ -1,30 +1,18 @@
 // Voucher words: at most one is the default.
-#include <gtest/gtest.h>
-
-#include "tests/support/fake_data.h"
-#include "tests/support/person.h"
+#include "tests/forms/form_desk.h"
 
 namespace tests {
 namespace {
 
-class VoucherWords : public testing::Test {
+class VoucherWords : public FormDesk {
 protected:
+    VoucherWords() : FormDesk(682) {}
     void SetUp() override {
         data.answer("select * From d6802", {"PZZ text", "PZZ_PRINT text", "T int", "PYM text"},
                     {{"记", "记帐凭证", "1", "JZPZ"}, {"收", "收款凭证", "0", "SKPZ"}});
         data.answer("select pzz from d6802", {"pzz text"}, {});
         data.answer("SELECT COUNT(*)", {"I int"}, {{"0"}});
     }
-    Person& person() {
-        if (!anna_) {
-            anna_ = std::make_unique<Person>(data);
-            anna_->open(682);
-        }
-        return *anna_;
-    }
-    std::string last_batch() const { return data.executed().back().batch; }
-    FakeData data;
-    std::unique_ptr<Person> anna_;
 };
 
 TEST_F(VoucherWords, a_default_word_clears_the_others_in_the_same_batch) {
@@ -37,8 +25,8 @@ TEST_F(VoucherWords, a_default_word_clears_the_others_in_the_same_batch) {
     EXPECT_EQ(last_batch(),
               "update d6802 set t=0;insert into d6802 (PZZ,PZZ_PRINT,T,pym)ValueS('转',"
               "'转帐凭证',1,'ZZPZ')");
-    EXPECT_EQ(data.executed().back().log.key, "转");
-    EXPECT_EQ(data.executed().back().log.operation, "Add");
+    EXPECT_EQ(last_log().key, "转");
+    EXPECT_EQ(last_log().operation, "Add");
 }
 
 TEST_F(VoucherWords, an_edited_word_that_is_no_default_leaves_the_others_alone) {
@@ -66,7 +54,7 @@ TEST_F(VoucherWords, a_copy_starts_from_the_selected_word) {
     anna.click("btn_ok");
     EXPECT_EQ(last_batch(),
               "insert into d6802 (PZZ,PZZ_PRINT,T,pym)ValueS('现收','收款凭证',0,'SKPZ')");
-    EXPECT_EQ(data.executed().back().log.operation, "CopyAdd");
+    EXPECT_EQ(last_log().operation, "CopyAdd");
 }
 
 TEST_F(VoucherWords, a_known_word_is_refused) {

@@ -1,28 +1,16 @@
 // Common summaries: texts that voucher lines offer.
-#include <gtest/gtest.h>
-
-#include "tests/support/fake_data.h"
-#include "tests/support/person.h"
+#include "tests/forms/form_desk.h"
 
 namespace tests {
 namespace {
 
-class Summaries : public testing::Test {
+class Summaries : public FormDesk {
 protected:
+    Summaries() : FormDesk(683) {}
     void SetUp() override {
         data.answer("select * From d6803", {"GUID text", "ZY text", "PYM text"},
                     {{"G1", "收货款", "SHK"}});
     }
-    Person& person() {
-        if (!anna_) {
-            anna_ = std::make_unique<Person>(data);
-            anna_->open(683);
-        }
-        return *anna_;
-    }
-    std::string last_batch() const { return data.executed().back().batch; }
-    FakeData data;
-    std::unique_ptr<Person> anna_;
 };
 
 TEST_F(Summaries, a_new_one_gets_a_key_of_its_own_and_may_repeat_a_text) {
@@ -31,7 +19,7 @@ TEST_F(Summaries, a_new_one_gets_a_key_of_its_own_and_may_repeat_a_text) {
     EXPECT_FALSE(anna.visible("ID"));
     anna.set("ZY", "收货款");
     anna.click("btn_ok");
-    const std::string key = data.executed().back().log.key;
+    const std::string key = last_log().key;
     EXPECT_EQ(key.size(), 36u);
     EXPECT_EQ(last_batch(), "insert into d6803 (GUID,ZY,pym)ValueS('" + key + "','收货款','SHK')");
 }

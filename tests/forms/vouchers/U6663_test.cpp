@@ -1,14 +1,12 @@
 // Posting a period and taking the posting back.
-#include <gtest/gtest.h>
-
-#include "tests/support/fake_data.h"
-#include "tests/support/person.h"
+#include "tests/forms/form_desk.h"
 
 namespace tests {
 namespace {
 
-class Posting : public testing::Test {
+class Posting : public FormDesk {
 protected:
+    Posting() : FormDesk(663) {}
     void SetUp() override {
         answer_counts("2024-03", "2", "1");
         answer_numbers({"1", "2"});
@@ -23,15 +21,6 @@ protected:
         for (const std::string& number : numbers) rows.push_back({number});
         data.answer("select pzz_h from d6601", {"pzz_h int"}, rows);
     }
-    Person& person() {
-        if (!anna_) {
-            anna_ = std::make_unique<Person>(data);
-            anna_->open(663);
-        }
-        return *anna_;
-    }
-    FakeData data;
-    std::unique_ptr<Person> anna_;
 };
 
 TEST_F(Posting, shows_the_period_and_what_waits) {
