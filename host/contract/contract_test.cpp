@@ -31,7 +31,8 @@ TEST_F(Contract, a_query_fills_the_dataset_and_is_remembered) {
     opensql(rows, "682", "select pzz from d6802");
     EXPECT_EQ(rows.FieldByName("PZZ").AsText(), "记");
     const SentStatement& sent = the_host().statements.at(0);
-    EXPECT_EQ(sent.call + "|" + sent.function + "|" + sent.text, "opensql|682|select pzz from d6802");
+    EXPECT_EQ(sent.call + "|" + sent.function + "|" + sent.text,
+              "opensql|682|select pzz from d6802");
 }
 
 TEST_F(Contract, a_failed_query_throws_and_leaves_the_dataset_as_it_was) {

@@ -2,36 +2,23 @@
 #pragma once
 
 #include "host/controls/tree_view.h"
-#include "host/forms/Base_Dialog.h"
-#include "host/forms/parts/field_snapshot.h"
+#include "host/forms/parts/edit_dialog.h"
 
 namespace host {
 
-class TClientDataSet;
-
-class TFrm_Base_Node_d : public TFrm_Base_Dialog {
+// SaveData of a form derived from it sends its statements, sets saved_ when they were answered "Y"
+// and then brings the tree up to date.
+class TFrm_Base_Node_d : public EditDialog {
 public:
     explicit TFrm_Base_Node_d(TForm* parent);
+
+    // Prepares the dialog for `mode` on the tree's selected node and shows it modally; answers the
+    // modal result.
     virtual int Open(const std::string& mode, const std::string& key, TClientDataSet* list,
                      TTreeView* tree);
     virtual void InitForm(const std::string& key, TClientDataSet* list, TTreeView* tree);
-    virtual void RefreshData();
-    virtual void SaveData();
 
-    std::string Mode, Key;
-    TClientDataSet* List = nullptr;
     TTreeView* Tree = nullptr;
-    TWinControl* LockedField = nullptr;
-    TWinControl* FirstField = nullptr;
-
-protected:
-    void btn_okClick() override;
-    bool has_unsaved_work() const override;
-    void FormShow() override;
-    bool saved_ = false; // set by SaveData when ExecSql answered "Y"
-
-private:
-    FieldSnapshot as_prepared_;
 };
 
 } // namespace host

@@ -73,7 +73,9 @@ class Entry : public ::testing::Test {
 protected:
     using Heads = std::vector<std::vector<std::string>>;
     Entry() {
-        heads({{"k1", "2024-03", "0", "0"}, {"k2", "2024-03", "1", "0"}, {"k3", "2024-02", "0", "0"},
+        heads({{"k1", "2024-03", "0", "0"},
+               {"k2", "2024-03", "1", "0"},
+               {"k3", "2024-02", "0", "0"},
                {"k4", "2024-03", "1", "1"}});
         desk.data.answer("SELECT PARAM FROM D6600 WHERE ID=2", {"PARAM text"}, {{"2024-03"}});
         desk.data.answer("SELECT lines", {"ZY text", "J money"}, {{"付款", "5.00"}});

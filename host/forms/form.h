@@ -14,8 +14,8 @@
 namespace host {
 
 // A form owns the forms created with it as parent: they go when it goes. Modeless forms are made
-// with `new` and destroy themselves after Close() unless FreeOnClose is false (entry forms stay with
-// their list and are shown again); members may hold modal ones by unique_ptr.
+// with `new` and destroy themselves after Close() unless FreeOnClose is false (entry forms stay
+// with their list and are shown again); members may hold modal ones by unique_ptr.
 class TForm : public TControl {
 public:
     explicit TForm(TForm* parent);
