@@ -151,22 +151,25 @@ SqlText Emitter::update(const BoundUpdate& update, bool skip_unchanged) {
 std::vector<SqlText> Emitter::update_in_turns(const BoundUpdate& update) {
     const std::string alias = alias_of(*update.target);
     const std::string target = target_name(*update.target);
-    std::string list = alias + ".rowid AS r";
+    std::string list = alias + ".rowid";
+    std::string columns = "r INTEGER PRIMARY KEY";
     std::string aside;
     std::string back;
     for (std::size_t i = 0; i < update.set.size(); ++i) {
         const CatalogColumn& column =
             update.table->columns[static_cast<std::size_t>(update.set[i].column)];
         const std::string number = std::to_string(i + 1);
-        list += ", " + stored_value(update.set[i].value, column.type) + " AS c" + number;
+        list += ", " + stored_value(update.set[i].value, column.type);
+        columns += ", c" + number;
         aside += (i == 0 ? "" : ", ") + quoted_name(column.name) + "=zf_tombstone(rowid)";
         back += (i == 0 ? "" : ", ") + quoted_name(column.name) + "=s.c" + number;
     }
     std::vector<SqlText> texts;
     texts.push_back(finish("DROP TABLE IF EXISTS temp.\"turns\""));
-    std::string rows = with_clause(update.with) + "SELECT " + list +
-                       rows_of(update, update.from, update.target_in_from, update.where);
-    texts.push_back(finish("CREATE TEMP TABLE \"turns\" AS " + rows));
+    const std::string rows = with_clause(update.with) + "SELECT " + list +
+                             rows_of(update, update.from, update.target_in_from, update.where);
+    texts.push_back(finish("CREATE TEMP TABLE \"turns\" (" + columns + ")"));
+    texts.push_back(finish("INSERT OR IGNORE INTO temp.\"turns\" " + rows));
     texts.push_back(finish("UPDATE " + target + " SET " + aside +
                            " WHERE rowid IN (SELECT r FROM temp.\"turns\")"));
     texts.push_back(finish("UPDATE " + target + " AS u SET " + back +
