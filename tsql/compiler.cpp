@@ -106,7 +106,9 @@ Compiler::Compiler(Catalog& catalog, CompilerOptions options)
 
 Compiler::~Compiler() = default;
 
-Compiler::Statistics Compiler::statistics() const { return parts_->statistics; }
+Compiler::Statistics Compiler::statistics() const {
+    return parts_->statistics;
+}
 
 Compiler::Parts::Planned Compiler::Parts::plan_unit(std::string_view text, int literal_count,
                                                     bool exact, bool after_definition) {
@@ -171,8 +173,7 @@ CompiledBatch Compiler::compile(std::string_view text) {
         compiled.plan = planned.plan;
         after_definition = after_definition || planned.changes_catalog;
         if (!planned.deferred && !planned.changes_catalog) {
-            parts.cache.keep(form.key, compiled.literals, std::move(planned.pinned),
-                             planned.plan);
+            parts.cache.keep(form.key, compiled.literals, std::move(planned.pinned), planned.plan);
         }
         batch.units.push_back(std::move(compiled));
     }
@@ -313,8 +314,8 @@ std::shared_ptr<const CatalogObject> Compiler::load(const StoredObject& stored) 
     const auto kind = static_cast<CatalogKind>(stored.kind);
     constexpr std::string_view disabled = "--disabled\n";
     const bool off = std::string_view(stored.definition).starts_with(disabled);
-    const std::string definition = off ? stored.definition.substr(disabled.size())
-                                       : stored.definition;
+    const std::string definition =
+        off ? stored.definition.substr(disabled.size()) : stored.definition;
     if (kind == CatalogKind::Trigger) {
         auto trigger = std::make_shared<CatalogTrigger>(stored.name, definition);
         const auto& syntax = as<CreateTrigger>(trigger->syntax());

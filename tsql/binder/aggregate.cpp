@@ -16,13 +16,13 @@ struct AggregateRule {
 };
 
 constexpr AggregateRule rules[] = {
-    {"COUNT", false, 1, 1},       {"COUNT_BIG", false, 1, 1},   {"SUM", false, 1, 1},
-    {"AVG", false, 1, 1},         {"MIN", false, 1, 1},         {"MAX", false, 1, 1},
-    {"STDEV", false, 1, 1},       {"STDEVP", false, 1, 1},      {"VAR", false, 1, 1},
-    {"VARP", false, 1, 1},        {"STRING_AGG", false, 2, 2},  {"CHECKSUM_AGG", false, 1, 1},
-    {"GROUPING", false, 1, 1},    {"ROW_NUMBER", true, 0, 0},   {"RANK", true, 0, 0},
-    {"DENSE_RANK", true, 0, 0},   {"NTILE", true, 1, 1},        {"LAG", true, 1, 3},
-    {"LEAD", true, 1, 3},         {"FIRST_VALUE", true, 1, 1},  {"LAST_VALUE", true, 1, 1},
+    {"COUNT", false, 1, 1},       {"COUNT_BIG", false, 1, 1},  {"SUM", false, 1, 1},
+    {"AVG", false, 1, 1},         {"MIN", false, 1, 1},        {"MAX", false, 1, 1},
+    {"STDEV", false, 1, 1},       {"STDEVP", false, 1, 1},     {"VAR", false, 1, 1},
+    {"VARP", false, 1, 1},        {"STRING_AGG", false, 2, 2}, {"CHECKSUM_AGG", false, 1, 1},
+    {"GROUPING", false, 1, 1},    {"ROW_NUMBER", true, 0, 0},  {"RANK", true, 0, 0},
+    {"DENSE_RANK", true, 0, 0},   {"NTILE", true, 1, 1},       {"LAG", true, 1, 3},
+    {"LEAD", true, 1, 3},         {"FIRST_VALUE", true, 1, 1}, {"LAST_VALUE", true, 1, 1},
     {"PERCENT_RANK", true, 0, 0}, {"CUME_DIST", true, 0, 0},
 };
 
@@ -91,8 +91,9 @@ void check_place(const FunctionCall& call, const std::string& name, const Scope&
     }
     if (!scope.aggregates_allowed) {
         throw Refusal(147, call.at,
-                      "An aggregate (" + name + ") may not appear in the WHERE clause unless it "
-                      "is in a subquery contained in a HAVING clause or a select list.");
+                      "An aggregate (" + name +
+                          ") may not appear in the WHERE clause unless it "
+                          "is in a subquery contained in a HAVING clause or a select list.");
     }
 }
 
@@ -163,12 +164,11 @@ std::shared_ptr<const BoundWindow> Binder::bind_window(const Over& over, Scope& 
         frame.start = over.frame->start.kind;
         frame.end = over.frame->end.kind;
         if (over.frame->start.offset) {
-            frame.start_offset = convert(bind_value(*over.frame->start.offset, scope),
-                                         Type::integer());
+            frame.start_offset =
+                convert(bind_value(*over.frame->start.offset, scope), Type::integer());
         }
         if (over.frame->end.offset) {
-            frame.end_offset = convert(bind_value(*over.frame->end.offset, scope),
-                                       Type::integer());
+            frame.end_offset = convert(bind_value(*over.frame->end.offset, scope), Type::integer());
         }
         window->frame = std::move(frame);
     }

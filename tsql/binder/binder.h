@@ -21,9 +21,8 @@ public:
     BoundInsert bind_insert(const Insert& insert);
     BoundUpdate bind_update(const Update& update);
     BoundDelete bind_delete(const Delete& statement);
-    std::shared_ptr<CatalogTable> bind_table(const std::string& name,
-                                             const TableDefinition& definition,
-                                             std::string_view text);
+    std::shared_ptr<CatalogTable>
+    bind_table(const std::string& name, const TableDefinition& definition, std::string_view text);
 
     // ---- expressions
     BoundPtr bind_value(const Expression& expression, Scope& scope);
@@ -81,6 +80,10 @@ private:
     BoundPtr bind_user_function(const FunctionCall& call, Scope& scope);
     BoundPtr bind_date_function(const FunctionCall& call, const std::string& name, Scope& scope);
     BoundPtr bind_typed_function(const FunctionCall& call, const std::string& name, Scope& scope);
+    BoundPtr bind_choice(const FunctionCall& call, const std::string& name, Scope& scope);
+    BoundPtr bind_first_value(const FunctionCall& call, const std::string& name, Scope& scope);
+    BoundPtr bind_null_if(const FunctionCall& call, Scope& scope);
+    BoundPtr bind_concat(const FunctionCall& call, Scope& scope);
     BoundPtr bind_aggregate(const FunctionCall& call, const std::string& name, Scope& scope);
     std::shared_ptr<const BoundWindow> bind_window(const Over& over, Scope& scope);
     std::vector<BoundPtr> bind_arguments(const FunctionCall& call, Scope& scope);

@@ -169,7 +169,7 @@ struct BoundWindow {
 struct BoundAggregate : BoundExpression {
     static constexpr auto own_kind = BoundKind::Aggregate;
     BoundAggregate() : BoundExpression(own_kind) {}
-    std::string name; // upper case
+    std::string name;                // upper case
     std::vector<BoundPtr> arguments; // none for COUNT(*)
     bool distinct = false;
     std::vector<BoundOrder> within;

@@ -17,11 +17,11 @@ struct RangeColumn {
 };
 
 enum class RangeKind : std::uint8_t {
-    Table,   // stored table, temporary table, copy of old or new rows
-    Query,   // derived table or view
-    Inline,  // its columns stand for expressions of `query` itself: a view that is changed, APPLY
+    Table,  // stored table, temporary table, copy of old or new rows
+    Query,  // derived table or view
+    Inline, // its columns stand for expressions of `query` itself: a view that is changed, APPLY
     Values,
-    Common,  // common table expression
+    Common, // common table expression
 };
 
 // One table of a FROM clause under the name it goes by there.
@@ -30,11 +30,11 @@ struct RangeTable {
     int id = 0; // unique in the statement
     std::string alias;
     std::vector<RangeColumn> columns;
-    std::shared_ptr<const CatalogTable> table;     // of Table
-    std::string stored_name;                       // of Table: its name in the engine
-    bool temporary = false;                        // of Table: lives with the connection
-    std::shared_ptr<BoundQuery> query;             // of Query and Inline
-    std::vector<std::vector<BoundPtr>> rows;       // of Values
+    std::shared_ptr<const CatalogTable> table;      // of Table
+    std::string stored_name;                        // of Table: its name in the engine
+    bool temporary = false;                         // of Table: lives with the connection
+    std::shared_ptr<BoundQuery> query;              // of Query and Inline
+    std::vector<std::vector<BoundPtr>> rows;        // of Values
     std::shared_ptr<const BoundCommonTable> common; // of Common
     SourceRange at;
 };

@@ -66,8 +66,9 @@ bool Binder::find_target(const ObjectName& name, const std::vector<TableSourcePt
     RangeTable* row = row_of_view(*view);
     if (row == nullptr || !from.empty()) {
         throw Refusal(4405, name.at,
-                      "View '" + text + "' is not updatable because the modification affects "
-                      "more than one base table or its rows are no rows of a table.");
+                      "View '" + text +
+                          "' is not updatable because the modification affects "
+                          "more than one base table or its rows are no rows of a table.");
     }
     view->kind = RangeKind::Inline;
     auto& select = static_cast<BoundSelect&>(*view->query->body);
@@ -91,19 +92,19 @@ int Binder::target_column(const ObjectName& name, Scope& scope, const BoundChang
                 candidates.push_back(candidate.name);
             }
             throw Refusal(207, name.at,
-                          "Invalid column name '" + column + "'" +
-                              near_misses(column, candidates) + ".");
+                          "Invalid column name '" + column + "'" + near_misses(column, candidates) +
+                              ".");
         }
         return ordinal;
     }
     const FoundColumn found = find_column(scope, name);
     const auto& select = static_cast<const BoundSelect&>(*seen.query->body);
-    const BoundExpression& item =
-        *select.items[static_cast<std::size_t>(found.ordinal)].expression;
+    const BoundExpression& item = *select.items[static_cast<std::size_t>(found.ordinal)].expression;
     if (item.kind != BoundKind::Column) {
         throw Refusal(4406, name.at,
-                      "Update or insert of view '" + seen.alias + "' failed because it contains a "
-                      "derived or constant field.");
+                      "Update or insert of view '" + seen.alias +
+                          "' failed because it contains a "
+                          "derived or constant field.");
     }
     return static_cast<const BoundColumn&>(item).ordinal;
 }
@@ -159,9 +160,9 @@ void Binder::bind_output(const OutputClause& clause, BoundChange& change) {
         BoundItem bound;
         bound.expression = bind_value(*item.expression, scope);
         const auto* column = as_if<ColumnReference>(item.expression.get());
-        bound.name = !item.alias.empty()  ? item.alias.text
-                     : column != nullptr  ? column->name.object().text
-                                          : std::string();
+        bound.name = !item.alias.empty() ? item.alias.text
+                     : column != nullptr ? column->name.object().text
+                                         : std::string();
         query->columns.push_back(
             {bound.name, bound.expression->type, true, Collation::Database, false, nullptr});
         select->items.push_back(std::move(bound));
@@ -180,9 +181,10 @@ void Binder::bind_output(const OutputClause& clause, BoundChange& change) {
             refuse_object(*clause.into);
         }
         for (std::size_t i = 0; i < change.output->columns.size(); ++i) {
-            const int ordinal = clause.into_columns.empty()
-                                    ? static_cast<int>(i)
-                                    : change.output_into->find_column(clause.into_columns.at(i).text);
+            const int ordinal =
+                clause.into_columns.empty()
+                    ? static_cast<int>(i)
+                    : change.output_into->find_column(clause.into_columns.at(i).text);
             if (ordinal < 0 || ordinal >= static_cast<int>(change.output_into->columns.size())) {
                 throw Refusal(213, clause.at,
                               "Column name or number of supplied values does not match table "

@@ -47,7 +47,7 @@ struct BindContext {
     Literals& literals;
     Surroundings surroundings;
     bool exact_row_counts = false;
-    int next_id = 1; // of range tables
+    int next_id = 1;                     // of range tables
     std::vector<std::string> views_open; // names of views being expanded, against cycles
     // Functions whose rows must be fetched before the statement runs.
     std::vector<BoundFill> fills;

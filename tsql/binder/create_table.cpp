@@ -41,8 +41,7 @@ std::string chosen_name(const CatalogTable& table, const char* prefix, const std
 
 } // namespace
 
-TableBuilder::TableBuilder(Binder& binder, CatalogTable& table, std::string_view text,
-                           bool trusted)
+TableBuilder::TableBuilder(Binder& binder, CatalogTable& table, std::string_view text, bool trusted)
     : binder_(binder), table_(table), text_(text), trusted_(trusted) {}
 
 void TableBuilder::add_key(const Constraint& constraint, int own_column) {
@@ -79,16 +78,16 @@ void TableBuilder::add_key(const Constraint& constraint, int own_column) {
 }
 
 void TableBuilder::add_check(const Constraint& constraint) {
-    table_.checks.push_back({constraint.name.empty() ? chosen_name(table_, "CK_", "")
-                                                     : constraint.name.text,
-                             cut(text_, *constraint.expression)});
+    table_.checks.push_back(
+        {constraint.name.empty() ? chosen_name(table_, "CK_", "") : constraint.name.text,
+         cut(text_, *constraint.expression)});
     if (trusted_) {
         return;
     }
     // Bound now, so that a bad column is refused here and not when rows come.
     Scope scope;
-    scope.tables.push_back(binder_.range_of_table(std::make_shared<CatalogTable>(table_),
-                                                  table_.name, constraint.at));
+    scope.tables.push_back(
+        binder_.range_of_table(std::make_shared<CatalogTable>(table_), table_.name, constraint.at));
     binder_.bind_condition(*constraint.expression, scope);
 }
 
@@ -111,9 +110,9 @@ void TableBuilder::add_foreign_key(const Constraint& constraint, int own_column)
     }
     for (const Name& column : constraint.references.columns) {
         key.parent_columns.push_back(
-            trusted_ ? column.text
-                     : parent->columns[static_cast<std::size_t>(column_ordinal(*parent, column))]
-                           .name);
+            trusted_
+                ? column.text
+                : parent->columns[static_cast<std::size_t>(column_ordinal(*parent, column))].name);
     }
     if (key.parent_columns.empty() && parent != nullptr) {
         for (const CatalogIndex& index : parent->indexes) {
@@ -130,21 +129,21 @@ void TableBuilder::add_foreign_key(const Constraint& constraint, int own_column)
     }
     key.on_delete = static_cast<int>(constraint.references.on_delete);
     key.on_update = static_cast<int>(constraint.references.on_update);
-    key.name = constraint.name.empty() ? chosen_name(table_, "FK_", parent->name)
-                                       : constraint.name.text;
+    key.name =
+        constraint.name.empty() ? chosen_name(table_, "FK_", parent->name) : constraint.name.text;
     table_.foreign_keys.push_back(std::move(key));
 }
 
 void TableBuilder::add_default(const Constraint& constraint, int own_column) {
-    const int ordinal = own_column >= 0 ? own_column
-                                        : column_ordinal(table_, constraint.default_for);
+    const int ordinal =
+        own_column >= 0 ? own_column : column_ordinal(table_, constraint.default_for);
     CatalogColumn& column = table_.columns[static_cast<std::size_t>(ordinal)];
     if (!column.default_text.empty()) {
         throw Refusal(1781, constraint.at, "Column already has a DEFAULT bound to it.");
     }
     column.default_text = cut(text_, *constraint.expression);
-    column.default_name = constraint.name.empty() ? "DF_" + table_.name + "_" + column.name
-                                                  : constraint.name.text;
+    column.default_name =
+        constraint.name.empty() ? "DF_" + table_.name + "_" + column.name : constraint.name.text;
 }
 
 void TableBuilder::add_constraint(const Constraint& constraint, int own_column) {
@@ -177,8 +176,8 @@ void TableBuilder::add_column(const ColumnDefinition& definition) {
         column.type = binder_.bind_type(definition.type, 1);
         column.nullable = definition.nullable.value_or(true);
         if (definition.identity) {
-            column.identity = IdentityColumn{definition.identity->seed,
-                                             definition.identity->increment};
+            column.identity =
+                IdentityColumn{definition.identity->seed, definition.identity->increment};
             column.nullable = false;
         }
         if (definition.collation) {
@@ -195,8 +194,8 @@ void TableBuilder::add(const TableDefinition& definition) {
     }
     for (std::size_t i = 0; i < definition.columns.size(); ++i) {
         for (const Constraint& constraint : definition.columns[i].constraints) {
-            add_constraint(constraint, constraint.columns.empty() ? static_cast<int>(before + i)
-                                                                  : -1);
+            add_constraint(constraint,
+                           constraint.columns.empty() ? static_cast<int>(before + i) : -1);
         }
     }
     for (const Constraint& constraint : definition.constraints) {
@@ -209,8 +208,7 @@ std::shared_ptr<CatalogTable> Binder::bind_table(const std::string& name,
                                                  std::string_view text) {
     auto table = std::make_shared<CatalogTable>(name, std::string());
     table->temporary = name.starts_with('#') || name.starts_with('@');
-    table->stored_name =
-        name.starts_with('@') ? "@" + context_.variables.owner + name : name;
+    table->stored_name = name.starts_with('@') ? "@" + context_.variables.owner + name : name;
     TableBuilder(*this, *table, text).add(definition);
     if (!table->temporary) {
         table->definition = table_text(*table);

@@ -178,8 +178,8 @@ BoundPtr Binder::bind_case(const Case& node, Scope& scope) {
     BoundPtr subject = node.subject ? bind_value(*node.subject, scope) : nullptr;
     std::vector<BoundPtr> values;
     for (const CaseBranch& branch : node.branches) {
-        BoundPtr when = subject ? bind_value(*branch.when, scope)
-                                : bind_condition(*branch.when, scope);
+        BoundPtr when =
+            subject ? bind_value(*branch.when, scope) : bind_condition(*branch.when, scope);
         bound->branches.push_back({std::move(when), bind_value(*branch.then, scope)});
     }
     if (node.otherwise) {
@@ -224,8 +224,8 @@ BoundPtr Binder::bind_case(const Case& node, Scope& scope) {
 Type Binder::unify(std::vector<BoundPtr*> values) {
     Type type;
     for (BoundPtr* value : values) {
-        const bool digits = (*value)->kind == BoundKind::Literal &&
-                            (*value)->type.kind == TypeKind::Int;
+        const bool digits =
+            (*value)->kind == BoundKind::Literal && (*value)->type.kind == TypeKind::Int;
         // A number written down counts as many digits as it has, not the ten of an int.
         if (digits && type.is_decimal()) {
             const auto& text = static_cast<const BoundLiteral&>(**value).text;
@@ -247,7 +247,8 @@ BoundPtr Binder::bind_cast(const Cast& cast, Scope& scope) {
     if (cast.style) {
         const auto number = constant_integer(bind_value(*cast.style, scope));
         if (!number) {
-            throw Refusal(281, cast.style->at, "The style of CONVERT must be a number written down.");
+            throw Refusal(281, cast.style->at,
+                          "The style of CONVERT must be a number written down.");
         }
         style = static_cast<int>(*number);
     }
@@ -269,9 +270,9 @@ BoundPtr Binder::convert(BoundPtr value, const Type& target, ConvertMode mode, i
     const Type& from = value->type;
     if (from.is_date() && (target.is_number() && !target.is_float())) {
         throw Refusal(257, value->at,
-                      "Implicit conversion from data type " + from.text() + " to " +
-                          target.text() + " is not allowed. Use the CONVERT function to run "
-                                          "this query.");
+                      "Implicit conversion from data type " + from.text() + " to " + target.text() +
+                          " is not allowed. Use the CONVERT function to run "
+                          "this query.");
     }
     auto bound = std::make_shared<BoundConvert>();
     bound->at = value->at;
@@ -329,8 +330,8 @@ BoundPtr Binder::bind_text(const std::string& text, Scope& scope, bool condition
     const ExpressionPtr expression = parse_expression(text);
     const bool of_text = context_.literals.of_text;
     context_.literals.of_text = false;
-    BoundPtr bound = condition ? bind_condition(*expression, scope)
-                               : bind_value(*expression, scope);
+    BoundPtr bound =
+        condition ? bind_condition(*expression, scope) : bind_value(*expression, scope);
     context_.literals.of_text = of_text;
     return bound;
 }
@@ -338,7 +339,8 @@ BoundPtr Binder::bind_text(const std::string& text, Scope& scope, bool condition
 BoundPtr Binder::bind_value(const Expression& expression, Scope& scope) {
     switch (expression.kind) {
     case ExpressionKind::Literal: return bind_literal(as<Literal>(expression));
-    case ExpressionKind::ColumnReference: return bind_column(as<ColumnReference>(expression), scope);
+    case ExpressionKind::ColumnReference:
+        return bind_column(as<ColumnReference>(expression), scope);
     case ExpressionKind::Variable: return bind_variable(as<Variable>(expression));
     case ExpressionKind::SystemVariable:
         return bind_system_variable(as<SystemVariable>(expression));
@@ -352,8 +354,7 @@ BoundPtr Binder::bind_value(const Expression& expression, Scope& scope) {
         return bind_scalar_subquery(as<ScalarSubquery>(expression), scope);
     case ExpressionKind::DefaultMark:
         throw Refusal(156, expression.at, "Incorrect syntax near the keyword 'DEFAULT'.");
-    default:
-        throw Refusal(102, expression.at, "A condition stands where a value is expected.");
+    default: throw Refusal(102, expression.at, "A condition stands where a value is expected.");
     }
 }
 

@@ -77,8 +77,9 @@ BoundPtr Binder::bind_call(const FunctionCall& call, Scope& scope) {
     const FunctionRule* rule = function_rule(name);
     if (rule == nullptr) {
         throw Refusal(195, call.name.at,
-                      "'" + call.name.object().text + "' is not a recognized built-in function "
-                                                      "name.");
+                      "'" + call.name.object().text +
+                          "' is not a recognized built-in function "
+                          "name.");
     }
     auto bound = std::make_shared<BoundFunction>();
     bound->at = call.at;

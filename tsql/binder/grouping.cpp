@@ -57,8 +57,9 @@ void Binder::check_grouping(const BoundSelect& select, const Scope& scope,
     }
     if (expression->kind == BoundKind::Column) {
         const auto& column = static_cast<const BoundColumn&>(*expression);
-        const bool own = std::any_of(scope.tables.begin(), scope.tables.end(),
-                                     [&](const auto& table) { return table.get() == column.table; });
+        const bool own =
+            std::any_of(scope.tables.begin(), scope.tables.end(),
+                        [&](const auto& table) { return table.get() == column.table; });
         if (own) {
             const std::string name =
                 column.table->alias + "." +

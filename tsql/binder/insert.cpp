@@ -51,14 +51,15 @@ void Binder::insert_columns(const Insert& insert, BoundInsert& bound) {
         const int ordinal = target_column(column, scope, bound);
         if (!bound.table->columns[static_cast<std::size_t>(ordinal)].computed.empty()) {
             throw Refusal(271, name.at,
-                          "The column \"" + name.text + "\" cannot be modified because it is a "
-                          "computed column.");
+                          "The column \"" + name.text +
+                              "\" cannot be modified because it is a "
+                              "computed column.");
         }
-        if (std::find(bound.columns.begin(), bound.columns.end(), ordinal) !=
-            bound.columns.end()) {
+        if (std::find(bound.columns.begin(), bound.columns.end(), ordinal) != bound.columns.end()) {
             throw Refusal(264, name.at,
-                          "The column name '" + name.text + "' is specified more than once in the "
-                          "column list of an INSERT.");
+                          "The column name '" + name.text +
+                              "' is specified more than once in the "
+                              "column list of an INSERT.");
         }
         bound.columns.push_back(ordinal);
     }

@@ -25,7 +25,8 @@ void Binder::lateral(RangeTable& range, SourceRange at) {
     if (!range.query->correlated) {
         return;
     }
-    const bool plain = range.query->body->kind == BoundBodyKind::Select && range.query->with.empty();
+    const bool plain =
+        range.query->body->kind == BoundBodyKind::Select && range.query->with.empty();
     if (plain) {
         const auto& select = static_cast<const BoundSelect&>(*range.query->body);
         const RangeTable* inner = only_table(select);

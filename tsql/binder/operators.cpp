@@ -30,7 +30,9 @@ const char* operator_name(BinaryOperator op) {
     return "";
 }
 
-bool is_bitwise(BinaryOperator op) { return op >= BinaryOperator::BitAnd; }
+bool is_bitwise(BinaryOperator op) {
+    return op >= BinaryOperator::BitAnd;
+}
 
 // An operand of decimal arithmetic: a whole number written down has the digits it has.
 Type digits_of(const BoundExpression& value) {
@@ -85,8 +87,8 @@ BoundPtr Binder::bind_unary(const Unary& unary, Scope& scope) {
                       "Operand data type " + operand->type.text() + " is invalid for " +
                           (unary.op == UnaryOperator::Minus ? "minus" : "'~'") + " operator.");
     }
-    auto bound = std::make_shared<BoundUnary>(
-        unary.op == UnaryOperator::Minus ? BoundKind::Negate : BoundKind::BitNot);
+    auto bound = std::make_shared<BoundUnary>(unary.op == UnaryOperator::Minus ? BoundKind::Negate
+                                                                               : BoundKind::BitNot);
     bound->at = unary.at;
     bound->type = operand->type;
     bound->nullable = operand->nullable;
@@ -102,8 +104,8 @@ BoundPtr Binder::bind_binary(const Binary& binary, Scope& scope) {
     }
     BoundPtr result = bind_value(*chain.back()->left, scope);
     for (auto it = chain.rbegin(); it != chain.rend(); ++it) {
-        result = arithmetic((*it)->op, std::move(result), bind_value(*(*it)->right, scope),
-                            (*it)->at);
+        result =
+            arithmetic((*it)->op, std::move(result), bind_value(*(*it)->right, scope), (*it)->at);
     }
     return result;
 }
@@ -114,8 +116,7 @@ BoundPtr Binder::arithmetic(BinaryOperator op, BoundPtr left, BoundPtr right, So
     const auto both_or_null = [](bool a, bool b, const Type& x, const Type& y) {
         return (a && (b || y.is_null())) || (b && x.is_null());
     };
-    if (op == BinaryOperator::Add &&
-        both_or_null(left_text, right_text, left->type, right->type)) {
+    if (op == BinaryOperator::Add && both_or_null(left_text, right_text, left->type, right->type)) {
         return concatenate(std::move(left), std::move(right), at);
     }
     if (left->type.is_date() || right->type.is_date()) {
@@ -143,8 +144,8 @@ BoundPtr Binder::arithmetic(BinaryOperator op, BoundPtr left, BoundPtr right, So
     if (!type.is_number() || (is_bitwise(op) && !type.is_integer()) ||
         (op == BinaryOperator::Modulo && type.is_float())) {
         throw Refusal(8117, at,
-                      "Operand data type " + type.text() + " is invalid for " +
-                          operator_name(op) + " operator.");
+                      "Operand data type " + type.text() + " is invalid for " + operator_name(op) +
+                          " operator.");
     }
     if (type.is_decimal()) {
         type = decimal_result(arithmetic_kind(op), digits_of(*left), digits_of(*right));
@@ -160,15 +161,14 @@ BoundPtr Binder::arithmetic(BinaryOperator op, BoundPtr left, BoundPtr right, So
     return bound;
 }
 
-BoundPtr Binder::date_arithmetic(BinaryOperator op, BoundPtr left, BoundPtr right,
-                                 SourceRange at) {
+BoundPtr Binder::date_arithmetic(BinaryOperator op, BoundPtr left, BoundPtr right, SourceRange at) {
     const Type datetime = Type::of(TypeKind::DateTime);
     const bool adds = op == BinaryOperator::Add || op == BinaryOperator::Subtract;
     if (!adds || left->type.kind == TypeKind::Date || right->type.kind == TypeKind::Date) {
         const Type& shown = left->type.is_date() ? left->type : right->type;
         throw Refusal(adds ? 206 : 8117, at,
-                      "Operand data type " + shown.text() + " is invalid for " +
-                          operator_name(op) + " operator.");
+                      "Operand data type " + shown.text() + " is invalid for " + operator_name(op) +
+                          " operator.");
     }
     auto bound = std::make_shared<BoundArithmetic>();
     bound->at = at;
@@ -226,9 +226,9 @@ BoundPtr Binder::bind_collate(const Collate& collate, Scope& scope) {
     bound->type = operand->type;
     bound->nullable = operand->nullable;
     bound->operand = std::move(operand);
-    bound->collation = name.find("_BIN") != std::string::npos  ? Collation::Binary
+    bound->collation = name.find("_BIN") != std::string::npos   ? Collation::Binary
                        : name.find("_CS_") != std::string::npos ? Collation::CaseSensitive
-                                                                 : Collation::Database;
+                                                                : Collation::Database;
     return bound;
 }
 

@@ -150,10 +150,9 @@ bool same_expression(const BoundPtr& left, const BoundPtr& right, std::set<int>*
     const std::vector<BoundPtr> left_parts = parts_of(*left);
     const std::vector<BoundPtr> right_parts = parts_of(*right);
     return same_head(*left, *right) && left_parts.size() == right_parts.size() &&
-           std::equal(left_parts.begin(), left_parts.end(), right_parts.begin(),
-                      [&](const BoundPtr& a, const BoundPtr& b) {
-                          return same_expression(a, b, pinned);
-                      });
+           std::equal(
+               left_parts.begin(), left_parts.end(), right_parts.begin(),
+               [&](const BoundPtr& a, const BoundPtr& b) { return same_expression(a, b, pinned); });
 }
 
 } // namespace tsql

@@ -24,8 +24,8 @@ int distance(std::string_view left, std::string_view right) {
         row[0] = static_cast<int>(i);
         for (std::size_t j = 1; j <= right.size(); ++j) {
             const int kept = row[j];
-            row[j] = std::min({row[j] + 1, row[j - 1] + 1,
-                               diagonal + (left[i - 1] == right[j - 1] ? 0 : 1)});
+            row[j] = std::min(
+                {row[j] + 1, row[j - 1] + 1, diagonal + (left[i - 1] == right[j - 1] ? 0 : 1)});
             diagonal = kept;
         }
     }

@@ -4,8 +4,8 @@
 
 namespace tsql {
 
-std::unique_ptr<BoundBody> Binder::bind_select(const Select& node, Scope& scope,
-                                               const Query* owner, BoundQuery& result) {
+std::unique_ptr<BoundBody> Binder::bind_select(const Select& node, Scope& scope, const Query* owner,
+                                               BoundQuery& result) {
     auto select = std::make_unique<BoundSelect>();
     for (const TableSourcePtr& source : node.from) {
         select->from.push_back(bind_source(*source, scope));
@@ -61,8 +61,7 @@ void Binder::bind_top(const std::optional<Top>& top, Scope& scope, std::optional
     out = std::move(bound);
 }
 
-void Binder::bind_items(const Select& node, Scope& scope, BoundSelect& select,
-                        BoundQuery& result) {
+void Binder::bind_items(const Select& node, Scope& scope, BoundSelect& select, BoundQuery& result) {
     bool assigns = false;
     bool selects = false;
     for (const SelectItem& item : node.items) {
@@ -78,9 +77,9 @@ void Binder::bind_items(const Select& node, Scope& scope, BoundSelect& select,
         } else {
             bound.expression = bind_value(*item.expression, scope);
             const auto* column = as_if<ColumnReference>(item.expression.get());
-            bound.name = !item.alias.empty()   ? item.alias.text
-                         : column != nullptr   ? column->name.object().text
-                                               : std::string();
+            bound.name = !item.alias.empty() ? item.alias.text
+                         : column != nullptr ? column->name.object().text
+                                             : std::string();
         }
         const BoundExpression& value = *bound.expression;
         result.columns.push_back(
@@ -98,8 +97,7 @@ void Binder::bind_star(const SelectItem& item, Scope& scope, BoundSelect& select
                        std::vector<RangeColumn>& columns) {
     bool found = false;
     for (const auto& table : scope.tables) {
-        if (!item.star_of.parts.empty() &&
-            !same_name(table->alias, item.star_of.object().text)) {
+        if (!item.star_of.parts.empty() && !same_name(table->alias, item.star_of.object().text)) {
             continue;
         }
         found = true;
@@ -120,8 +118,8 @@ void Binder::bind_star(const SelectItem& item, Scope& scope, BoundSelect& select
                 value->collation = column.collation;
                 bound.expression = std::move(value);
             }
-            columns.push_back({column.name, column.type, column.nullable, column.collation, false,
-                               nullptr});
+            columns.push_back(
+                {column.name, column.type, column.nullable, column.collation, false, nullptr});
             select.items.push_back(std::move(bound));
         }
     }
@@ -138,8 +136,7 @@ void Binder::bind_star(const SelectItem& item, Scope& scope, BoundSelect& select
 BoundPtr Binder::bind_assigned(const SelectItem& item, Scope& scope) {
     const int slot = context_.variables.find(item.variable);
     if (slot < 0) {
-        throw Refusal(137, item.at,
-                      "Must declare the scalar variable \"" + item.variable + "\".");
+        throw Refusal(137, item.at, "Must declare the scalar variable \"" + item.variable + "\".");
     }
     BoundPtr value = bind_value(*item.expression, scope);
     const Type& type = context_.variables.slots[static_cast<std::size_t>(slot)].type;
@@ -179,12 +176,12 @@ BoundPtr Binder::bind_scalar_subquery(const ScalarSubquery& subquery, Scope& sco
     bound->collation = column.collation;
     if (bound->query->body->kind == BoundBodyKind::Select) {
         const auto& select = static_cast<const BoundSelect&>(*bound->query->body);
-        const auto one = select.top ? constant_integer(
-                                          select.top->count->kind == BoundKind::Convert
-                                              ? static_cast<const BoundConvert&>(*select.top->count)
-                                                    .operand
-                                              : select.top->count)
-                                    : std::nullopt;
+        const auto one =
+            select.top ? constant_integer(
+                             select.top->count->kind == BoundKind::Convert
+                                 ? static_cast<const BoundConvert&>(*select.top->count).operand
+                                 : select.top->count)
+                       : std::nullopt;
         bound->one_row = (select.grouped && select.group_by.empty()) || select.from.empty() ||
                          (one && *one <= 1 && !select.top->with_ties && !select.top->percent);
     }

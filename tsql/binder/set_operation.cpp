@@ -101,9 +101,10 @@ void Binder::order_set_operation(const Query& query, BoundQuery& result) {
                     qualifier == nullptr
                         ? same_name(result.columns[i].name, column->name.object().text)
                         : source != nullptr && same_name(source->table->alias, qualifier->text) &&
-                              same_name(source->table->columns[
-                                            static_cast<std::size_t>(source->ordinal)].name,
-                                        column->name.object().text);
+                              same_name(
+                                  source->table->columns[static_cast<std::size_t>(source->ordinal)]
+                                      .name,
+                                  column->name.object().text);
                 if (named) {
                     order.item = static_cast<int>(i);
                 }

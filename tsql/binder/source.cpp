@@ -45,9 +45,8 @@ std::shared_ptr<const CatalogTable> Binder::table_named(const ObjectName& name) 
     return context_.catalog.find_table(text);
 }
 
-std::shared_ptr<RangeTable>
-Binder::range_of_table(std::shared_ptr<const CatalogTable> table, const std::string& alias,
-                       SourceRange at) {
+std::shared_ptr<RangeTable> Binder::range_of_table(std::shared_ptr<const CatalogTable> table,
+                                                   const std::string& alias, SourceRange at) {
     auto range = std::make_shared<RangeTable>();
     range->id = context_.next_id++;
     range->alias = alias;

@@ -79,95 +79,108 @@ BoundPtr Binder::bind_typed_function(const FunctionCall& call, const std::string
         return bound;
     }
     if (name == "IIF" || name == "CHOOSE") {
-        auto bound = std::make_shared<BoundCase>();
-        bound->at = call.at;
-        expect_count(call, name, call.arguments.size() >= (name == "IIF" ? 3U : 2U), 3);
-        std::vector<BoundPtr*> values;
-        if (name == "IIF") {
-            bound->branches.push_back({bind_condition(*call.arguments[0], scope),
-                                       bind_value(*call.arguments[1], scope)});
-            bound->otherwise = bind_value(*call.arguments[2], scope);
-            values = {&bound->branches[0].then, &bound->otherwise};
-        } else {
-            bound->subject = convert(bind_value(*call.arguments[0], scope), Type::integer());
-            for (std::size_t i = 1; i < call.arguments.size(); ++i) {
-                bound->branches.push_back({literal_int(static_cast<std::int64_t>(i), call.at),
-                                           bind_value(*call.arguments[i], scope)});
-            }
-            for (BoundCaseBranch& branch : bound->branches) {
-                values.push_back(&branch.then);
-            }
-        }
-        bound->type = unify(values);
-        return bound;
+        return bind_choice(call, name, scope);
     }
-    if (name == "ISNULL") {
-        expect_count(call, name, call.arguments.size() == 2, 2);
-        std::vector<BoundPtr> arguments = bind_arguments(call, scope);
-        Type type = arguments[0]->type.is_null() ? arguments[1]->type : arguments[0]->type;
-        if (type.is_null()) {
-            type = Type::integer();
+    if (name == "ISNULL" || name == "COALESCE") {
+        return bind_first_value(call, name, scope);
+    }
+    if (name == "NULLIF") {
+        return bind_null_if(call, scope);
+    }
+    if (name == "CONCAT") {
+        return bind_concat(call, scope);
+    }
+    return nullptr;
+}
+
+BoundPtr Binder::bind_choice(const FunctionCall& call, const std::string& name, Scope& scope) {
+    auto bound = std::make_shared<BoundCase>();
+    bound->at = call.at;
+    std::vector<BoundPtr*> values;
+    if (name == "IIF") {
+        expect_count(call, name, call.arguments.size() == 3, 3);
+        bound->branches.push_back(
+            {bind_condition(*call.arguments[0], scope), bind_value(*call.arguments[1], scope)});
+        bound->otherwise = bind_value(*call.arguments[2], scope);
+        values = {&bound->branches[0].then, &bound->otherwise};
+    } else {
+        expect_count(call, name, call.arguments.size() >= 2, 2);
+        bound->subject = convert(bind_value(*call.arguments[0], scope), Type::integer());
+        for (std::size_t i = 1; i < call.arguments.size(); ++i) {
+            bound->branches.push_back({literal_int(static_cast<std::int64_t>(i), call.at),
+                                       bind_value(*call.arguments[i], scope)});
         }
+        for (BoundCaseBranch& branch : bound->branches) {
+            values.push_back(&branch.then);
+        }
+    }
+    bound->type = unify(values);
+    return bound;
+}
+
+// ISNULL has the type of its first argument, COALESCE the highest of all.
+BoundPtr Binder::bind_first_value(const FunctionCall& call, const std::string& name, Scope& scope) {
+    const bool two = name == "ISNULL";
+    expect_count(call, name, two ? call.arguments.size() == 2 : call.arguments.size() >= 2, 2);
+    std::vector<BoundPtr> arguments = bind_arguments(call, scope);
+    Type type;
+    if (two) {
+        type = arguments[0]->type.is_null() ? arguments[1]->type : arguments[0]->type;
+        type = type.is_null() ? Type::integer() : type;
         arguments[0] = convert(arguments[0], type);
         arguments[1] = convert(arguments[1], type);
-        auto bound = make_function("COALESCE", call.at, type, std::move(arguments));
-        bound->nullable = bound->arguments[1]->nullable;
-        return bound;
-    }
-    if (name == "COALESCE") {
-        expect_count(call, name, call.arguments.size() >= 2, 2);
-        std::vector<BoundPtr> arguments = bind_arguments(call, scope);
+    } else {
         std::vector<BoundPtr*> values;
         for (BoundPtr& argument : arguments) {
             values.push_back(&argument);
         }
-        const Type type = unify(values);
-        if (type.is_null()) {
-            throw Refusal(4127, call.at,
-                          "At least one of the arguments to COALESCE must be an expression that "
-                          "is not the NULL constant.");
-        }
-        auto bound = make_function(name, call.at, type, std::move(arguments));
-        bound->nullable = bound->arguments.back()->nullable;
-        return bound;
+        type = unify(values);
     }
-    if (name == "NULLIF") {
-        expect_count(call, name, call.arguments.size() == 2, 2);
-        std::vector<BoundPtr> arguments = bind_arguments(call, scope);
-        auto bound = std::make_shared<BoundCase>();
-        bound->at = call.at;
-        bound->type = arguments[0]->type;
-        bound->collation = arguments[0]->collation;
-        bound->branches.push_back(
-            {compare(ComparisonOperator::Equal, arguments[0], arguments[1], call.at),
-             convert(null_value(call.at), bound->type)});
-        bound->otherwise = arguments[0];
-        return bound;
+    if (type.is_null()) {
+        throw Refusal(4127, call.at,
+                      "At least one of the arguments to COALESCE must be an expression that is "
+                      "not the NULL constant.");
     }
-    if (name == "CONCAT") {
-        expect_count(call, name, call.arguments.size() >= 2, 2);
-        auto bound = std::make_shared<BoundConcatenation>();
-        bound->at = call.at;
-        bool national = false;
-        for (BoundPtr& argument : bind_arguments(call, scope)) {
-            national = national || argument->type.is_national();
-            if (argument->type.is_null()) {
-                continue;
-            }
-            BoundPtr text = argument->type.is_text() ? argument
-                                                     : convert(argument, Type::varchar(8000));
-            BoundPtr blank = make_function("BLANK_IF_NULL", call.at, text->type, {text});
-            bound->parts.push_back(std::move(blank));
+    auto bound = make_function("COALESCE", call.at, type, std::move(arguments));
+    bound->nullable = bound->arguments.back()->nullable;
+    return bound;
+}
+
+BoundPtr Binder::bind_null_if(const FunctionCall& call, Scope& scope) {
+    expect_count(call, "NULLIF", call.arguments.size() == 2, 2);
+    std::vector<BoundPtr> arguments = bind_arguments(call, scope);
+    auto bound = std::make_shared<BoundCase>();
+    bound->at = call.at;
+    bound->type = arguments[0]->type;
+    bound->collation = arguments[0]->collation;
+    bound->branches.push_back(
+        {compare(ComparisonOperator::Equal, arguments[0], arguments[1], call.at),
+         convert(null_value(call.at), bound->type)});
+    bound->otherwise = arguments[0];
+    return bound;
+}
+
+BoundPtr Binder::bind_concat(const FunctionCall& call, Scope& scope) {
+    expect_count(call, "CONCAT", call.arguments.size() >= 2, 2);
+    auto bound = std::make_shared<BoundConcatenation>();
+    bound->at = call.at;
+    bool national = false;
+    for (BoundPtr& argument : bind_arguments(call, scope)) {
+        national = national || argument->type.is_national();
+        if (argument->type.is_null()) {
+            continue;
         }
-        if (bound->parts.empty()) {
-            bound->parts.push_back(make_function("SPACE", call.at, Type::varchar(1),
-                                                 {literal_int(0, call.at)}));
-        }
-        bound->nullable = false;
-        bound->type = national ? Type::nvarchar(4000) : Type::varchar(8000);
-        return bound;
+        BoundPtr text =
+            argument->type.is_text() ? argument : convert(argument, Type::varchar(8000));
+        bound->parts.push_back(make_function("BLANK_IF_NULL", call.at, text->type, {text}));
     }
-    return nullptr;
+    if (bound->parts.empty()) {
+        bound->parts.push_back(
+            make_function("SPACE", call.at, Type::varchar(1), {literal_int(0, call.at)}));
+    }
+    bound->nullable = false;
+    bound->type = national ? Type::nvarchar(4000) : Type::varchar(8000);
+    return bound;
 }
 
 BoundPtr Binder::bind_date_function(const FunctionCall& call, const std::string& name,
@@ -183,8 +196,9 @@ BoundPtr Binder::bind_date_function(const FunctionCall& call, const std::string&
     const std::string_view part = word ? date_part(word->name.object().text) : std::string_view();
     if (part.empty()) {
         throw Refusal(155, call.arguments[0]->at,
-                      "This is not a recognized " + name + " option: year, quarter, month, "
-                      "dayofyear, day, week, weekday, hour, minute, second, millisecond are.");
+                      "This is not a recognized " + name +
+                          " option: year, quarter, month, "
+                          "dayofyear, day, week, weekday, hour, minute, second, millisecond are.");
     }
     const Type datetime = Type::of(TypeKind::DateTime);
     std::vector<BoundPtr> arguments;

@@ -37,8 +37,7 @@ BoundUpdate Binder::bind_update(const Update& update) {
         }
         BoundSet set;
         set.column = target_column(assignment.column, columns, bound);
-        const CatalogColumn& column =
-            bound.table->columns[static_cast<std::size_t>(set.column)];
+        const CatalogColumn& column = bound.table->columns[static_cast<std::size_t>(set.column)];
         if (!column.computed.empty() || column.identity) {
             throw Refusal(column.identity ? 8102 : 271, assignment.at,
                           column.identity ? "Cannot update identity column '" + column.name + "'."

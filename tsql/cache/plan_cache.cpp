@@ -16,8 +16,7 @@ std::string pinned_values(const std::set<int>& pinned, const LiteralValues& lite
 
 } // namespace
 
-std::shared_ptr<const Plan> PlanCache::find(const std::string& shape,
-                                            const LiteralValues& literals,
+std::shared_ptr<const Plan> PlanCache::find(const std::string& shape, const LiteralValues& literals,
                                             std::uint64_t version) {
     const auto found = shapes_.find(shape);
     if (found == shapes_.end()) {
@@ -36,8 +35,8 @@ std::shared_ptr<const Plan> PlanCache::find(const std::string& shape,
     return plan->second;
 }
 
-void PlanCache::keep(const std::string& shape, const LiteralValues& literals,
-                     std::set<int> pinned, std::shared_ptr<const Plan> plan) {
+void PlanCache::keep(const std::string& shape, const LiteralValues& literals, std::set<int> pinned,
+                     std::shared_ptr<const Plan> plan) {
     if (count_ >= limit_) {
         shapes_.clear();
         count_ = 0;

@@ -13,8 +13,8 @@ bool begins_transaction(const std::vector<Token>& tokens, std::size_t begin) {
 }
 
 bool is_module(const std::vector<Token>& tokens) {
-    if (tokens.empty() || (tokens[0].keyword != Keyword::Create &&
-                           tokens[0].keyword != Keyword::Alter)) {
+    if (tokens.empty() ||
+        (tokens[0].keyword != Keyword::Create && tokens[0].keyword != Keyword::Alter)) {
         return false;
     }
     for (std::size_t i = 1; i < std::min<std::size_t>(tokens.size(), 4); ++i) {
@@ -37,10 +37,10 @@ bool is_module(const std::vector<Token>& tokens) {
 std::vector<Unit> units_of(const std::vector<Token>& tokens) {
     std::vector<Unit> units;
     const std::size_t end = tokens.size() - (tokens.empty() ? 0 : 1); // without End
-    const bool whole = is_module(tokens) ||
-                       std::any_of(tokens.begin(), tokens.end(), [](const Token& token) {
-                           return token.kind == TokenKind::Variable;
-                       });
+    const bool whole =
+        is_module(tokens) || std::any_of(tokens.begin(), tokens.end(), [](const Token& token) {
+            return token.kind == TokenKind::Variable;
+        });
     if (whole) {
         units.push_back({0, end});
         return units;
@@ -52,8 +52,8 @@ std::vector<Unit> units_of(const std::vector<Token>& tokens) {
         const bool opens = token.kind == TokenKind::LeftParenthesis ||
                            token.keyword == Keyword::Case ||
                            (token.keyword == Keyword::Begin && !begins_transaction(tokens, i));
-        const bool closes = token.kind == TokenKind::RightParenthesis ||
-                            token.keyword == Keyword::End;
+        const bool closes =
+            token.kind == TokenKind::RightParenthesis || token.keyword == Keyword::End;
         depth += opens ? 1 : closes ? -1 : 0;
         if (token.kind != TokenKind::Semicolon || depth != 0) {
             continue;

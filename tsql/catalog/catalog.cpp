@@ -8,9 +8,13 @@ namespace tsql {
 
 namespace {
 
-char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; }
+char upper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
+}
 
-bool is_temporary_name(std::string_view name) { return name.starts_with('#'); }
+bool is_temporary_name(std::string_view name) {
+    return name.starts_with('#');
+}
 
 } // namespace
 

@@ -52,6 +52,8 @@ std::shared_ptr<const Batch> CatalogModule::tree() const {
     return parsed_;
 }
 
-const Statement& CatalogModule::syntax() const { return *tree()->statements.front(); }
+const Statement& CatalogModule::syntax() const {
+    return *tree()->statements.front();
+}
 
 } // namespace tsql

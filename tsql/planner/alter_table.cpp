@@ -56,8 +56,7 @@ void Planner::add_to_table(const AlterTable& statement, CatalogTable& table, Ddl
             throw Refusal(102, statement.at,
                           "An identity column can only be made by CREATE TABLE.");
         }
-        std::string text = "ALTER TABLE " + name + " ADD COLUMN " +
-                           sqlite::declared_column(column);
+        std::string text = "ALTER TABLE " + name + " ADD COLUMN " + sqlite::declared_column(column);
         if (!column.nullable && column.default_text.empty()) {
             throw Refusal(4901, statement.at,
                           "ALTER TABLE only allows columns to be added that can contain nulls, or "
@@ -65,9 +64,9 @@ void Planner::add_to_table(const AlterTable& statement, CatalogTable& table, Ddl
         }
         if (!column.default_text.empty() && !column.nullable) {
             Scope none;
-            const BoundPtr value = binder.convert(
-                binder.bind_text(column.default_text, none, false), column.type,
-                ConvertMode::Assign);
+            const BoundPtr value =
+                binder.convert(binder.bind_text(column.default_text, none, false), column.type,
+                               ConvertMode::Assign);
             SqlQuery constant;
             constant.sql = emitter().values({value});
             constant.columns.push_back({"", column.type, true});
@@ -79,9 +78,9 @@ void Planner::add_to_table(const AlterTable& statement, CatalogTable& table, Ddl
     for (std::size_t i = indexes; i < table.indexes.size(); ++i) {
         append(ddl.sql, sqlite::create_index(table, table.indexes[i], binder));
     }
-    const bool new_primary = std::any_of(table.indexes.begin() + static_cast<std::ptrdiff_t>(indexes),
-                                         table.indexes.end(),
-                                         [](const CatalogIndex& index) { return index.primary; });
+    const bool new_primary =
+        std::any_of(table.indexes.begin() + static_cast<std::ptrdiff_t>(indexes),
+                    table.indexes.end(), [](const CatalogIndex& index) { return index.primary; });
     if (table.checks.size() + table.foreign_keys.size() > rules || new_primary) {
         // Rows that are there already must obey: writing them unchanged tests them.
         append(ddl.sql, sqlite::redeclare(table, binder));
@@ -156,10 +155,9 @@ void Planner::drop_constraints(const AlterTable& statement, CatalogTable& table,
     BindContext bind = context();
     Binder binder(bind);
     for (const Name& name : statement.names) {
-        const auto index = std::find_if(table.indexes.begin(), table.indexes.end(),
-                                        [&](const CatalogIndex& candidate) {
-                                            return same_name(candidate.name, name.text);
-                                        });
+        const auto index = std::find_if(
+            table.indexes.begin(), table.indexes.end(),
+            [&](const CatalogIndex& candidate) { return same_name(candidate.name, name.text); });
         if (index != table.indexes.end() && index->constraint) {
             append(ddl.sql, sqlite::drop_index(table, *index));
             table.indexes.erase(index);
@@ -184,9 +182,9 @@ void Planner::drop_constraints(const AlterTable& statement, CatalogTable& table,
 
 void Planner::switch_triggers(const AlterTable& statement, const CatalogTable& table, Ddl& ddl) {
     for (const auto& trigger : catalog_.triggers_of(table.name)) {
-        const bool named = std::any_of(
-            statement.names.begin(), statement.names.end(),
-            [&](const Name& name) { return same_name(name.text, trigger->name); });
+        const bool named =
+            std::any_of(statement.names.begin(), statement.names.end(),
+                        [&](const Name& name) { return same_name(name.text, trigger->name); });
         if (statement.all || named) {
             auto changed = std::make_shared<CatalogTrigger>(*trigger);
             changed->disabled = statement.action == AlterTableAction::DisableTrigger;

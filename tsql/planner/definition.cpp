@@ -1,7 +1,7 @@
 // CREATE and DROP of everything; ALTER of modules.
+#include "tsql/emit/sqlite/definition.h"
 #include "tsql/binder/table_builder.h"
 #include "tsql/emit/common/quote.h"
-#include "tsql/emit/sqlite/definition.h"
 #include "tsql/planner/planner.h"
 #include "tsql/source/diagnostic.h"
 
@@ -13,8 +13,7 @@ namespace {
 
 [[noreturn]] void refuse_existing(const ObjectName& name) {
     throw Refusal(2714, name.at,
-                  "There is already an object named '" + name.object().text +
-                      "' in the database.");
+                  "There is already an object named '" + name.object().text + "' in the database.");
 }
 
 CatalogKind catalog_kind(ObjectKind kind) {
@@ -162,8 +161,9 @@ void Planner::drop(const Drop& statement, Steps& out) {
             const bool known = local != variables_.tables.end() || catalog_.find(written);
             if (!known && !statement.if_exists) {
                 throw Refusal(3701, name.at,
-                              "Cannot drop the table '" + written + "', because it does not exist "
-                              "or you do not have permission.");
+                              "Cannot drop the table '" + written +
+                                  "', because it does not exist "
+                                  "or you do not have permission.");
             }
             Ddl ddl;
             ddl.sql = {"DROP TABLE " + std::string(statement.if_exists ? "IF EXISTS " : "") +
@@ -182,7 +182,8 @@ void Planner::drop(const Drop& statement, Steps& out) {
             }
             throw Refusal(3701, name.at,
                           std::string("Cannot drop the ") + kind_word(statement.object) + " '" +
-                              written + "', because it does not exist or you do not have "
+                              written +
+                              "', because it does not exist or you do not have "
                               "permission.");
         }
         Ddl ddl;
@@ -255,7 +256,8 @@ void Planner::create_module(const Statement& statement, CatalogKind kind, Defini
             if (view.columns.empty() && query->columns[i].name.empty()) {
                 throw Refusal(4511, view.name.at,
                               "Create View or Function failed because no column name was "
-                              "specified for column " + std::to_string(i + 1) + ".");
+                              "specified for column " +
+                                  std::to_string(i + 1) + ".");
             }
         }
         literals_.of_text = of_text;

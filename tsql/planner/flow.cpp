@@ -9,8 +9,9 @@ namespace tsql {
 PlanVariable& Planner::declare(const std::string& name, const Type& type, SourceRange at) {
     if (variables_.find(name) >= 0) {
         throw Refusal(134, at,
-                      "The variable name '" + name + "' has already been declared. Variable names "
-                      "must be unique within a query batch or stored procedure.");
+                      "The variable name '" + name +
+                          "' has already been declared. Variable names "
+                          "must be unique within a query batch or stored procedure.");
     }
     variables_.slots.push_back({name, type});
     return variables_.slots.back();
@@ -128,8 +129,7 @@ void Planner::execute(const Execute& statement, Steps& out) {
             Binder binder(bind);
             Scope none;
             const BoundPtr value = binder.bind_value(*argument.value, none);
-            given.value = SqlQuery{emitter().values({value}),
-                                   {{"", value->type, value->nullable}}};
+            given.value = SqlQuery{emitter().values({value}), {{"", value->type, value->nullable}}};
         }
         if (argument.output) {
             const auto* variable = as_if<Variable>(argument.value.get());
@@ -175,8 +175,7 @@ void Planner::fetch(const FetchCursor& statement, Steps& out) {
     for (const std::string& name : statement.into) {
         const int slot = variables_.find(name);
         if (slot < 0) {
-            throw Refusal(137, statement.at,
-                          "Must declare the scalar variable \"" + name + "\".");
+            throw Refusal(137, statement.at, "Must declare the scalar variable \"" + name + "\".");
         }
         step.slots.push_back(slot);
         step.types.push_back(variables_.slots[static_cast<std::size_t>(slot)].type);

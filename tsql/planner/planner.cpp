@@ -30,7 +30,9 @@ bool holds_statements(StatementKind kind) {
 }
 
 // Errors that may be gone when the statement is reached: an object is missing now.
-bool may_pass(int number) { return number == 208 || number == 4121 || number == 3701; }
+bool may_pass(int number) {
+    return number == 208 || number == 4121 || number == 3701;
+}
 
 } // namespace
 
@@ -46,7 +48,9 @@ void Planner::add(const Statement&, decltype(Step::action) action, Steps& out) {
     out.push_back(std::move(step));
 }
 
-std::string_view Planner::source(SourceRange at) const { return at.text(*text); }
+std::string_view Planner::source(SourceRange at) const {
+    return at.text(*text);
+}
 
 void Planner::plan_all(const std::vector<StatementPtr>& statements, Steps& out) {
     for (const StatementPtr& statement : statements) {

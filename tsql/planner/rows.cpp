@@ -26,9 +26,8 @@ bool assigns(const QueryStatement& statement) {
 }
 
 const Select* select_of(const QueryBody& body) {
-    return body.kind == QueryBodyKind::Select
-               ? &as<Select>(body)
-               : select_of(*as<SetOperation>(body).branches.front());
+    return body.kind == QueryBodyKind::Select ? &as<Select>(body)
+                                              : select_of(*as<SetOperation>(body).branches.front());
 }
 
 bool in_unique_key(const CatalogTable& table, const std::vector<BoundSet>& set) {
@@ -58,9 +57,8 @@ SqlQuery Planner::query_of(const BoundQuery& query) {
     SqlQuery result;
     result.sql = emitter().query(query);
     for (const RangeColumn& column : query.columns) {
-        result.columns.push_back({column.name,
-                                  column.type.is_null() ? Type::integer() : column.type,
-                                  column.nullable});
+        result.columns.push_back(
+            {column.name, column.type.is_null() ? Type::integer() : column.type, column.nullable});
     }
     return result;
 }
@@ -238,11 +236,10 @@ void Planner::update(const Update& statement, Steps& out) {
     if (captures) {
         prepare_copies(*bound.table, dml);
         dml.prepare.push_back(emitter().fill_old_rows(bound));
-        dml.collect.push_back(collect_rows(
-            *bound.table,
-            "rowid IN (SELECT zf_rowid FROM temp." + quoted_name(copy_name(*bound.table, false)) +
-                ")",
-            false));
+        dml.collect.push_back(collect_rows(*bound.table,
+                                           "rowid IN (SELECT zf_rowid FROM temp." +
+                                               quoted_name(copy_name(*bound.table, false)) + ")",
+                                           false));
     }
     if (in_unique_key(*bound.table, bound.set)) {
         dml.unique_retry = emitter().update_in_turns(bound);
@@ -268,8 +265,8 @@ void Planner::remove(const Delete& statement, Steps& out) {
     dml.main = emitter().remove(bound, captures);
     if (bound.instead_of) {
         dml.main = SqlText{"SELECT 1 WHERE 0", {}};
-        dml.count = SqlText{
-            "SELECT count(*) FROM temp." + quoted_name(copy_name(*bound.table, false)), {}};
+        dml.count =
+            SqlText{"SELECT count(*) FROM temp." + quoted_name(copy_name(*bound.table, false)), {}};
     }
     add_output(bound, dml);
     add_fills(bind, out);

@@ -25,8 +25,8 @@ void Planner::plan_now(const Statement& statement, Steps& out) {
     case StatementKind::Return: return plan_return(as<Return>(statement), out);
     case StatementKind::Try: return plan_try(as<Try>(statement), out);
     case StatementKind::Print:
-        return add(statement,
-                   PrintStep{value_text(*as<Print>(statement).message, &message_type)}, out);
+        return add(statement, PrintStep{value_text(*as<Print>(statement).message, &message_type)},
+                   out);
     case StatementKind::RaiseError: return raise_error(as<RaiseError>(statement), out);
     case StatementKind::Throw: return plan_throw(as<Throw>(statement), out);
     case StatementKind::Declare: return declare_variables(as<Declare>(statement), out);
@@ -48,16 +48,14 @@ void Planner::plan_now(const Statement& statement, Steps& out) {
     case StatementKind::CloseCursor:
         return add(statement, CloseCursorStep{as<CloseCursor>(statement).name.text}, out);
     case StatementKind::DeallocateCursor:
-        return add(statement, DeallocateCursorStep{as<DeallocateCursor>(statement).name.text},
-                   out);
+        return add(statement, DeallocateCursorStep{as<DeallocateCursor>(statement).name.text}, out);
     case StatementKind::Execute: return execute(as<Execute>(statement), out);
     case StatementKind::ExecuteText:
         return add(statement,
                    ExecuteTextStep{value_text(*as<ExecuteText>(statement).text, &message_type)},
                    out);
     case StatementKind::BeginTransaction:
-        return add(statement, BeginTransactionStep{as<BeginTransaction>(statement).name.text},
-                   out);
+        return add(statement, BeginTransactionStep{as<BeginTransaction>(statement).name.text}, out);
     case StatementKind::Commit: return add(statement, CommitStep{}, out);
     case StatementKind::Rollback:
         return add(statement, RollbackStep{as<Rollback>(statement).name.text}, out);

@@ -67,8 +67,8 @@ bool equal_without_case(std::string_view left, std::string_view lower) {
 Type longer(const Type& left, const Type& right, TypeKind kind) {
     Type result{kind, 0, 0, 0};
     const bool unbounded = left.length == Type::max_length || right.length == Type::max_length;
-    result.length = unbounded ? std::int16_t{Type::max_length}
-                              : std::max(left.length, right.length);
+    result.length =
+        unbounded ? std::int16_t{Type::max_length} : std::max(left.length, right.length);
     return result;
 }
 

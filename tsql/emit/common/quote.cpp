@@ -20,7 +20,11 @@ std::string enclosed(std::string_view text, char mark) {
 
 } // namespace
 
-std::string quoted_name(std::string_view name) { return enclosed(name, '"'); }
-std::string quoted_text(std::string_view text) { return enclosed(text, '\''); }
+std::string quoted_name(std::string_view name) {
+    return enclosed(name, '"');
+}
+std::string quoted_text(std::string_view text) {
+    return enclosed(text, '\'');
+}
 
 } // namespace tsql

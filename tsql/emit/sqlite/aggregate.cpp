@@ -92,9 +92,9 @@ Fragment Emitter::average_of(const BoundAggregate& node, const std::string& over
     const Fragment value = value_of(argument);
     const std::string count = "count(" + distinct + value.text + ")" + over;
     const std::string scale = std::to_string(argument->type.stored_scale());
-    const std::string sum =
-        value.form == Form::Wide ? "zf_sum_dec(" + distinct + value.text + "," + scale + ")" + over
-                                 : "sum(" + distinct + value.text + ")" + over;
+    const std::string sum = value.form == Form::Wide
+                                ? "zf_sum_dec(" + distinct + value.text + "," + scale + ")" + over
+                                : "sum(" + distinct + value.text + ")" + over;
     if (node.type.is_decimal()) {
         result.text = "zf_dec_div(" + sum + "," + scale + ",nullif(" + count + ",0),0,38," +
                       std::to_string(node.type.scale) + ")";
@@ -139,7 +139,8 @@ Fragment Emitter::aggregate(const BoundAggregate& node) {
     }
     if (node.name == "MIN" || node.name == "MAX") {
         Fragment value = value_of(node.arguments[0]);
-        result.text = lower_case(node.name) + "(" + collated(value, *node.arguments[0]) + ")" + over;
+        result.text =
+            lower_case(node.name) + "(" + collated(value, *node.arguments[0]) + ")" + over;
         result.form = value.form;
         result.bound = value.bound;
         return result;
@@ -151,8 +152,8 @@ Fragment Emitter::aggregate(const BoundAggregate& node) {
     if (node.name == "GROUPING") {
         bool absent = false;
         for (const BoundPtr& group : absent_) {
-            absent = absent || group == node.arguments[0] ||
-                     value_of(node.arguments[0]).text == "NULL";
+            absent =
+                absent || group == node.arguments[0] || value_of(node.arguments[0]).text == "NULL";
         }
         result.text = absent ? "1" : "0";
         return result;

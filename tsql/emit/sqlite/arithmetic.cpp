@@ -52,8 +52,8 @@ Fragment Emitter::integer_arithmetic(const BoundArithmetic& node, Fragment left,
     case BinaryOperator::Divide: result.text = call("zf_idiv", left.text, right.text); break;
     case BinaryOperator::Modulo: result.text = call("zf_imod", left.text, right.text); break;
     case BinaryOperator::BitXor:
-        result.text = "((" + left.text + "|" + right.text + ")-(" + left.text + "&" + right.text +
-                      "))";
+        result.text =
+            "((" + left.text + "|" + right.text + ")-(" + left.text + "&" + right.text + "))";
         break;
     case BinaryOperator::BitAnd:
     case BinaryOperator::BitOr:
@@ -145,17 +145,16 @@ Fragment Emitter::money_arithmetic(const BoundArithmetic& node, Fragment left, F
                                                 : call("zf_mul8", left.text, right.text);
         break;
     case BinaryOperator::Divide:
-        result.text = left_money && !right_money
-                          ? call("zf_idiv", left.text, right.text)
-                          : call("zf_money_div", scaled(left, left_money),
-                                 scaled(right, right_money));
+        result.text = left_money && !right_money ? call("zf_idiv", left.text, right.text)
+                                                 : call("zf_money_div", scaled(left, left_money),
+                                                        scaled(right, right_money));
         break;
     case BinaryOperator::Modulo:
         result.text = call("zf_imod", scaled(left, left_money), scaled(right, right_money));
         break;
     default:
-        result.text = call(checked_name(node.op), scaled(left, left_money),
-                           scaled(right, right_money));
+        result.text =
+            call(checked_name(node.op), scaled(left, left_money), scaled(right, right_money));
     }
     return result;
 }

@@ -18,8 +18,7 @@ const char* sign_of(ComparisonOperator op) {
 }
 
 bool is_number_literal(const BoundPtr& value) {
-    return value->kind == BoundKind::Literal && value->type.is_exact() &&
-           !value->type.is_money();
+    return value->kind == BoundKind::Literal && value->type.is_exact() && !value->type.is_money();
 }
 
 } // namespace
@@ -34,8 +33,9 @@ std::string Emitter::exact_comparison(const BoundPtr& left, const BoundPtr& righ
     Fragment b = value_of(right);
     const auto fitted = [&](const BoundPtr& number, const Fragment& other, int scale) {
         const int whole = as_decimal(number->type).precision - number->type.stored_scale();
-        const Type to = other.form == Form::Wide ? Type::decimal(38, scale)
-                                                 : Type::decimal(std::min(18, whole + scale), scale);
+        const Type to = other.form == Form::Wide
+                            ? Type::decimal(38, scale)
+                            : Type::decimal(std::min(18, whole + scale), scale);
         return literal(static_cast<const BoundLiteral&>(*number), to, Conversion::Cast, 0);
     };
     if (is_number_literal(right) && right_scale <= left_scale &&
@@ -138,15 +138,14 @@ std::string Emitter::quantified(const BoundSubquery& node) {
     column.text = "c1";
     column.form = forms[0].form;
     column.bound = forms[0].bound;
-    column = converted(std::move(column), node.query->columns[0].type, node.type,
-                       ConvertMode::Cast, 0);
+    column =
+        converted(std::move(column), node.query->columns[0].type, node.type, ConvertMode::Cast, 0);
     Fragment operand = value_of(node.operand);
     auto both = same_form({std::move(operand), std::move(column)});
     BoundLiteral shown;
     shown.type = node.type;
     shown.collation = node.collation;
-    const std::string test =
-        "(" + both[0].text + sign_of(node.op) + collated(both[1], shown) + ")";
+    const std::string test = "(" + both[0].text + sign_of(node.op) + collated(both[1], shown) + ")";
     const std::string rows = "EXISTS (SELECT 1 FROM (" + query + ") WHERE ";
     if (node.all) {
         return "(CASE WHEN " + rows + "NOT " + test + ") THEN 0 WHEN " + rows + test +
@@ -179,8 +178,7 @@ std::string Emitter::condition(const BoundPtr& node) {
         return "(NOT " + condition(static_cast<const BoundUnary&>(*node).operand) + ")";
     case BoundKind::IsNull: {
         const auto& unary = static_cast<const BoundUnary&>(*node);
-        return "(" + value_of(unary.operand).text +
-               (unary.negated ? " IS NOT NULL)" : " IS NULL)");
+        return "(" + value_of(unary.operand).text + (unary.negated ? " IS NOT NULL)" : " IS NULL)");
     }
     case BoundKind::InList: return in_list(static_cast<const BoundInList&>(*node));
     case BoundKind::InQuery: return in_query(static_cast<const BoundSubquery&>(*node));
@@ -199,6 +197,8 @@ std::string Emitter::condition(const BoundPtr& node) {
     }
 }
 
-std::string Emitter::condition_text(const BoundPtr& node) { return condition(node); }
+std::string Emitter::condition_text(const BoundPtr& node) {
+    return condition(node);
+}
 
 } // namespace tsql::sqlite

@@ -6,8 +6,8 @@ namespace tsql::sqlite {
 
 namespace {
 
-std::string cast_call(const char* name, const std::string& value, const Type& from,
-                      const Type& to, int style) {
+std::string cast_call(const char* name, const std::string& value, const Type& from, const Type& to,
+                      int style) {
     return std::string(name) + "(" + value + "," + std::to_string(from.packed()) + "," +
            std::to_string(to.packed()) + "," + std::to_string(style) + ")";
 }
@@ -90,12 +90,12 @@ Fragment Emitter::converted(Fragment value, const Type& from, const Type& to, Co
         if (text_fits(from, to)) {
             return value;
         }
-        Fragment result = plain(
-            mode == ConvertMode::Assign
-                ? "zf_assign(" + value.text + "," + std::to_string(from.packed()) + "," +
-                      std::to_string(to.packed()) + ")"
-                : cast_call("zf_cast", value.text, from, to, style),
-            to);
+        Fragment result =
+            plain(mode == ConvertMode::Assign
+                      ? "zf_assign(" + value.text + "," + std::to_string(from.packed()) + "," +
+                            std::to_string(to.packed()) + ")"
+                      : cast_call("zf_cast", value.text, from, to, style),
+                  to);
         return result;
     }
     const bool whole_money = from.is_money() && !to.is_decimal() && !to.is_money();
@@ -129,8 +129,7 @@ Fragment Emitter::convert(const BoundConvert& node) {
     // because a text that is no number is no error there.
     const bool safe = conditional_ == 0 || !operand.type.is_text() || node.type.is_text();
     if (operand.kind == BoundKind::Literal && node.mode != ConvertMode::Try && safe) {
-        const auto how =
-            node.mode == ConvertMode::Assign ? Conversion::Assign : Conversion::Cast;
+        const auto how = node.mode == ConvertMode::Assign ? Conversion::Assign : Conversion::Cast;
         return literal(static_cast<const BoundLiteral&>(operand), node.type, how, node.style);
     }
     if (operand.kind == BoundKind::Value && conditional_ == 0 && node.mode != ConvertMode::Try) {
@@ -143,9 +142,9 @@ Fragment Emitter::convert(const BoundConvert& node) {
             given.index = value.index;
             given.type = value.type;
             given.to = node.type;
-            given.how = value.type == node.type              ? Conversion::None
+            given.how = value.type == node.type            ? Conversion::None
                         : node.mode == ConvertMode::Assign ? Conversion::Assign
-                                                             : Conversion::Cast;
+                                                           : Conversion::Cast;
             given.style = node.style;
             Fragment fragment = plain(parameter(given), node.type);
             fragment.is_parameter = true;

@@ -8,7 +8,9 @@
 
 namespace tsql::sqlite {
 
-std::string alias_of(const RangeTable& table) { return "t" + std::to_string(table.id); }
+std::string alias_of(const RangeTable& table) {
+    return "t" + std::to_string(table.id);
+}
 
 std::string Emitter::parameter(const PlanParameter& parameter) {
     for (std::size_t i = 0; i < parameters_.size(); ++i) {
@@ -64,11 +66,11 @@ std::string Emitter::inline_literal(const BoundLiteral& node, const Type& to, Co
     if (how == Conversion::None || from == to) {
         return plain;
     }
-    const bool up = from.is_exact() && to.is_exact() && !from.is_money() &&
-                    form_of(to) == Form::Narrow && to.stored_scale() >= from.stored_scale() &&
-                    bound_of(from) * power_of_ten(to.stored_scale() - from.stored_scale()) <=
-                        bound_of(to) &&
-                    to.kind != TypeKind::Bit;
+    const bool up =
+        from.is_exact() && to.is_exact() && !from.is_money() && form_of(to) == Form::Narrow &&
+        to.stored_scale() >= from.stored_scale() &&
+        bound_of(from) * power_of_ten(to.stored_scale() - from.stored_scale()) <= bound_of(to) &&
+        to.kind != TypeKind::Bit;
     if (up) {
         return node.literal == LiteralKind::Integer || node.literal == LiteralKind::Decimal
                    ? scaled_digits(node.text, to.stored_scale())
@@ -245,8 +247,7 @@ Fragment Emitter::scalar_subquery(const BoundSubquery& node) {
     std::vector<ColumnForm> forms;
     Fragment fragment;
     const std::string text = query_text(*node.query, nullptr, forms, !node.one_row);
-    fragment.text = node.one_row ? "(" + text + ")"
-                                 : "(SELECT zf_single(c1) FROM (" + text + "))";
+    fragment.text = node.one_row ? "(" + text + ")" : "(SELECT zf_single(c1) FROM (" + text + "))";
     fragment.form = forms[0].form;
     fragment.bound = forms[0].bound;
     return fragment;
@@ -257,15 +258,16 @@ std::string Emitter::collated(const Fragment& fragment, const BoundExpression& v
         return fragment.text;
     }
     switch (value.collation) {
-    case Collation::CaseSensitive:
-        return fragment.text + " COLLATE " + case_sensitive_collation;
+    case Collation::CaseSensitive: return fragment.text + " COLLATE " + case_sensitive_collation;
     case Collation::Binary: return fragment.text + " COLLATE BINARY";
     case Collation::Database: break;
     }
     return fragment.text + " COLLATE " + database_collation;
 }
 
-std::string Emitter::collated(const BoundPtr& value) { return collated(value_of(value), *value); }
+std::string Emitter::collated(const BoundPtr& value) {
+    return collated(value_of(value), *value);
+}
 
 Fragment Emitter::user_function(const BoundUserFunction& node) {
     volatile_ = true;

@@ -12,13 +12,13 @@ namespace {
 
 struct DefaultArgument {
     std::string_view function;
-    std::size_t count; // arguments when all are given
+    std::size_t count;     // arguments when all are given
     std::string_view text; // of those left out
 };
 
 // What stands for arguments that may be left out.
 constexpr DefaultArgument defaults[] = {
-    {"CHARINDEX", 3, "1"}, {"STR", 2, "10"},      {"STR", 3, "0"},  {"QUOTENAME", 2, "NULL"},
+    {"CHARINDEX", 3, "1"}, {"STR", 2, "10"},         {"STR", 3, "0"},     {"QUOTENAME", 2, "NULL"},
     {"EOMONTH", 2, "0"},   {"OBJECT_ID", 2, "NULL"}, {"RAND", 1, "NULL"},
 };
 
@@ -34,8 +34,8 @@ bool takes_type(const std::string& name) {
 }
 
 bool is_volatile_function(const std::string& name) {
-    return name == "NEWID" || name == "RAND" || name == "NEXT_IDENTITY" ||
-           name == "OBJECT_ID" || name == "OBJECT_NAME" || name == "IDENT_CURRENT";
+    return name == "NEWID" || name == "RAND" || name == "NEXT_IDENTITY" || name == "OBJECT_ID" ||
+           name == "OBJECT_NAME" || name == "IDENT_CURRENT";
 }
 
 } // namespace

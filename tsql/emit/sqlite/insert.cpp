@@ -69,8 +69,8 @@ std::string Emitter::insert_source(const BoundInsert& insert, const std::vector<
 
 SqlText Emitter::insert(const BoundInsert& insert, bool into_copy) {
     std::string text = with_clause(insert.with) + "INSERT INTO ";
-    text += into_copy ? "temp." + quoted_name(copy_name(*insert.table, true))
-                      : stored(*insert.table);
+    text +=
+        into_copy ? "temp." + quoted_name(copy_name(*insert.table, true)) : stored(*insert.table);
     std::string names;
     for (const int ordinal : insert.columns) {
         names += (names.empty() ? "" : ",") + quoted_name(column_at(insert, ordinal).name);
@@ -104,8 +104,9 @@ SqlText Emitter::output(const BoundChange& change, DmlKind kind) {
         }
     }
     std::string text = "SELECT " + list + " FROM " + table_text(first) + " LEFT JOIN " +
-                       table_text(second) + " ON " + alias_of(first) + ".zf_rowid=" +
-                       alias_of(second) + ".zf_rowid ORDER BY " + alias_of(first) + ".zf_rowid";
+                       table_text(second) + " ON " + alias_of(first) +
+                       ".zf_rowid=" + alias_of(second) + ".zf_rowid ORDER BY " + alias_of(first) +
+                       ".zf_rowid";
     if (change.output_into) {
         text = "INSERT INTO " + stored(*change.output_into) + "(" + columns + ") " + text;
     }

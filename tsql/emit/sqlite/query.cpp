@@ -101,8 +101,8 @@ std::string Emitter::common_table(const BoundCommonTable& common) {
         for (std::size_t i = 0; i < parts.items.size(); ++i) {
             Fragment& item = parts.items[i];
             if (item.form != forms[i].form && item.text != "NULL") {
-                item.text = (forms[i].form == Form::Wide ? "zf_wide(" : "zf_narrow(") + item.text +
-                            ")";
+                item.text =
+                    (forms[i].form == Form::Wide ? "zf_wide(" : "zf_narrow(") + item.text + ")";
             }
         }
         std::string round = "0";
@@ -116,8 +116,8 @@ std::string Emitter::common_table(const BoundCommonTable& common) {
             round = parts.tail.substr(alias, end - alias) + ".c0+1";
         }
         if (round != "0" && common.max_recursion > 0) {
-            parts.tail += (select.where ? " AND (" : " WHERE (") + round + "<=" +
-                          std::to_string(common.max_recursion) +
+            parts.tail += (select.where ? " AND (" : " WHERE (") + round +
+                          "<=" + std::to_string(common.max_recursion) +
                           " OR zf_raise(530,'The statement terminated. The maximum recursion " +
                           std::to_string(common.max_recursion) +
                           " has been exhausted before statement completion.'))";

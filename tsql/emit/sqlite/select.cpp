@@ -42,9 +42,8 @@ std::string Emitter::list_text(const std::vector<Fragment>& items, const BoundSe
             continue; // nobody reads it
         }
         text += text.empty() ? "" : ", ";
-        text += collate && i < select.items.size()
-                    ? collated(items[i], *select.items[i].expression)
-                    : items[i].text;
+        text += collate && i < select.items.size() ? collated(items[i], *select.items[i].expression)
+                                                   : items[i].text;
         if (named) {
             text += " AS c" + std::to_string(i + 1);
         }
@@ -100,8 +99,8 @@ std::string Emitter::select_text(const BoundSelect& select, const BoundQuery* ow
         std::vector<ColumnForm> ignored;
         BoundQuery bare;
         return text + " LIMIT zf_percent(" + value_of(select.top->count).text +
-               ",(SELECT count(*) FROM (" + list_text(parts[0].items, select, select.distinct, true) +
-               parts[0].tail + ")))";
+               ",(SELECT count(*) FROM (" +
+               list_text(parts[0].items, select, select.distinct, true) + parts[0].tail + ")))";
     }
     return text + limit_text(*owner, &select);
 }
@@ -112,9 +111,9 @@ std::string Emitter::ties_text(const BoundSelect& select, const BoundQuery& owne
     SelectParts parts = select_parts(select, 0, nullptr);
     std::string order;
     for (const BoundOrder& item : owner.order) {
-        const BoundPtr& value =
-            item.item >= 0 ? select.items[static_cast<std::size_t>(item.item)].expression
-                           : item.expression;
+        const BoundPtr& value = item.item >= 0
+                                    ? select.items[static_cast<std::size_t>(item.item)].expression
+                                    : item.expression;
         order += (order.empty() ? "ORDER BY " : ", ") + collated(value) +
                  (item.descending ? " DESC" : "");
     }

@@ -131,9 +131,8 @@ std::string Emitter::apply_text(const BoundSource& source) {
                std::string order;
                for (const BoundOrder& item : table.query->order) {
                    const BoundPtr& value =
-                       item.item >= 0
-                           ? select.items[static_cast<std::size_t>(item.item)].expression
-                           : item.expression;
+                       item.item >= 0 ? select.items[static_cast<std::size_t>(item.item)].expression
+                                      : item.expression;
                    order += (order.empty() ? " ORDER BY " : ", ") + collated(value) +
                             (item.descending ? " DESC" : "");
                }

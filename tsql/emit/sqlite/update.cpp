@@ -64,8 +64,7 @@ std::string Emitter::rows_of(const BoundChange& change, const std::vector<BoundS
                              bool target_in_from, const BoundPtr& where) {
     std::string text = from_text(from);
     if (!target_in_from) {
-        text = " FROM " + table_text(*change.target) +
-               (text.empty() ? "" : ", " + text.substr(6));
+        text = " FROM " + table_text(*change.target) + (text.empty() ? "" : ", " + text.substr(6));
     }
     if (where) {
         text += " WHERE " + condition(where);
@@ -111,8 +110,8 @@ SqlText Emitter::update(const BoundUpdate& update, bool skip_unchanged) {
             changes += (i == 0 ? "" : " OR ") + ("u." + name(set)) + " IS NOT s.c" + number +
                        (type(set).is_text() ? " COLLATE BINARY" : "");
         }
-        const std::string rows = "SELECT " + list + rows_of(update, update.from,
-                                                            update.target_in_from, update.where);
+        const std::string rows =
+            "SELECT " + list + rows_of(update, update.from, update.target_in_from, update.where);
         text += "u SET " + assignments + " FROM (" + rows + ") AS s WHERE u.rowid=s.r";
         return finish(skip_unchanged ? text + " AND (" + changes + ")" : text);
     }
