@@ -9,7 +9,7 @@ namespace {
 using namespace std::chrono;
 constexpr sys_days base = sys_days(year(1900) / 1 / 1);
 
-}  // namespace
+} // namespace
 
 std::int64_t days_since_1900(int year_number, int month_number, int day_number) {
     const auto first = year(year_number) / month(static_cast<unsigned>(month_number)) / 1;
@@ -23,9 +23,9 @@ CalendarDay calendar_day(std::int64_t count) {
 }
 
 int days_in_month(int year_number, int month_number) {
-    const auto last = year(year_number) / month(static_cast<unsigned>(month_number)) /
-                      std::chrono::last;
+    const auto last =
+        year(year_number) / month(static_cast<unsigned>(month_number)) / std::chrono::last;
     return static_cast<int>(static_cast<unsigned>(year_month_day(last).day()));
 }
 
-}  // namespace engines
+} // namespace engines

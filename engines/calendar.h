@@ -11,8 +11,8 @@ inline constexpr std::int64_t ticks_per_day = 86400 * ticks_per_second;
 // A day of the Gregorian calendar, also before it was introduced.
 struct CalendarDay {
     int year = 1900;
-    int month = 1;                 // 1 to 12
-    int day = 1;                   // 1 to 31
+    int month = 1; // 1 to 12
+    int day = 1;   // 1 to 31
 };
 
 // Days from 1900-01-01 to the day, negative before it. The month may not exceed 12; the day may
@@ -28,4 +28,4 @@ constexpr std::int64_t day_of_ticks(std::int64_t ticks) {
     return ticks >= 0 ? ticks / ticks_per_day : -((-ticks + ticks_per_day - 1) / ticks_per_day);
 }
 
-}  // namespace engines
+} // namespace engines

@@ -10,13 +10,21 @@
 
 namespace engines {
 
+// A procedure that runs at the end of every transaction whose rows left something to settle:
+// whenever the pending table holds rows, inside the transaction, just before its commit.
+struct BeforeCommit {
+    std::string procedure; // without parameters; empty: none
+    std::string pending_table;
+};
+
 struct OpenOptions {
-    bool create = false;           // make new, empty books; refused when they exist
-    bool read_only = false;        // nothing may be written
+    bool create = false;    // make new, empty books; refused when they exist
+    bool read_only = false; // nothing may be written
     // How long a statement waits for another connection that writes before it reports busy.
     std::chrono::milliseconds busy_timeout{10000};
     // Room for pages kept in memory.
     std::size_t cache_bytes = std::size_t{64} << 20;
+    BeforeCommit before_commit;
 };
 
 // One kind of database. books names a set as the user does: a path, "postgres://…", "odbc:…".
@@ -35,4 +43,4 @@ public:
 // The embedded engine: a file, or ":memory:" for an empty database that lives with the session.
 const Engine& sqlite_engine();
 
-}  // namespace engines
+} // namespace engines

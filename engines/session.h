@@ -14,8 +14,8 @@ namespace engines {
 
 // Who uses the connection; shown by the T-SQL functions of the same meaning.
 struct Person {
-    std::string user;              // SYSTEM_USER, SUSER_SNAME()
-    std::string host;              // HOST_NAME()
+    std::string user; // SYSTEM_USER, SUSER_SNAME()
+    std::string host; // HOST_NAME()
 };
 
 // A connection. One thread uses it at a time; only interrupt() may be called from another.
@@ -60,4 +60,4 @@ public:
     virtual std::int64_t change_count() = 0;
 };
 
-}  // namespace engines
+} // namespace engines

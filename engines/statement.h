@@ -15,11 +15,11 @@ namespace engines {
 
 // One column of a result set. kind is the type of its values; each value is of it or null.
 struct Column {
-    std::string name;              // as the statement names it, "" when it has no name
+    std::string name; // as the statement names it, "" when it has no name
     ValueKind kind = ValueKind::text;
-    int precision = 0;             // of decimal
-    int scale = 0;                 // of decimal
-    int length = 0;                // of text and binary: declared length, 0 unknown, -1 max
+    int precision = 0; // of decimal
+    int scale = 0;     // of decimal
+    int length = 0;    // of text and binary: declared length, 0 unknown, -1 max
     bool nullable = true;
 };
 
@@ -52,8 +52,8 @@ public:
 // How a batch ended. error is the first one raised; statements after it may still have run.
 struct Outcome {
     std::optional<Error> error;
-    std::int64_t affected = 0;     // rows written by all statements of the batch
+    std::int64_t affected = 0; // rows written by all statements of the batch
     bool ok() const { return !error; }
 };
 
-}  // namespace engines
+} // namespace engines

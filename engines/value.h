@@ -12,17 +12,17 @@ __extension__ typedef __int128 Int128;
 // What a value is; the T-SQL types that read alike share a kind.
 enum class ValueKind : std::uint8_t {
     null,
-    bit,        // integer 0 or 1
-    integer,    // tinyint, smallint, int, bigint
-    decimal,    // decimal, numeric; money and smallmoney are decimals of scale 4
-    real,       // float and real: never an amount of money
-    text,       // char, varchar, nchar, nvarchar, text, ntext, xml: UTF-8
-    datetime,   // datetime: 1/300 seconds since 1900-01-01 00:00; dates before it are negative
-    smalldatetime,  // the same count, shown to the minute
-    date,       // days since 1900-01-01
-    time,       // 100 nanoseconds since midnight
-    guid,       // uniqueidentifier, upper case with hyphens
-    binary      // bytes
+    bit,           // integer 0 or 1
+    integer,       // tinyint, smallint, int, bigint
+    decimal,       // decimal, numeric; money and smallmoney are decimals of scale 4
+    real,          // float and real: never an amount of money
+    text,          // char, varchar, nchar, nvarchar, text, ntext, xml: UTF-8
+    datetime,      // datetime: 1/300 seconds since 1900-01-01 00:00; dates before it are negative
+    smalldatetime, // the same count, shown to the minute
+    date,          // days since 1900-01-01
+    time,          // 100 nanoseconds since midnight
+    guid,          // uniqueidentifier, upper case with hyphens
+    binary         // bytes
 };
 
 // A cell. Texts and bytes are views that live as long as the callback that shows them.
@@ -83,4 +83,4 @@ private:
     };
 };
 
-}  // namespace engines
+} // namespace engines

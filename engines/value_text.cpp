@@ -75,7 +75,7 @@ void append_binary(std::string_view bytes, std::string& out) {
     }
 }
 
-}  // namespace
+} // namespace
 
 void append_decimal(Int128 unscaled, int scale, std::string& out) {
     std::array<char, 48> buffer;
@@ -97,18 +97,18 @@ void append_decimal(Int128 unscaled, int scale, std::string& out) {
 
 void append_text(const Value& value, std::string& out) {
     switch (value.kind()) {
-        case ValueKind::null: return;
-        case ValueKind::bit:
-        case ValueKind::integer: append_padded(value.as_integer(), 0, out); return;
-        case ValueKind::decimal: append_decimal(value.unscaled(), value.scale(), out); return;
-        case ValueKind::real: append_real(value.as_real(), out); return;
-        case ValueKind::datetime: append_datetime(value.as_integer(), true, out); return;
-        case ValueKind::smalldatetime: append_datetime(value.as_integer(), false, out); return;
-        case ValueKind::date: append_day(value.as_integer(), out); return;
-        case ValueKind::time: append_clock(value.as_integer() / 10000000, out); return;
-        case ValueKind::text:
-        case ValueKind::guid: out += value.as_text(); return;
-        case ValueKind::binary: append_binary(value.as_text(), out); return;
+    case ValueKind::null: return;
+    case ValueKind::bit:
+    case ValueKind::integer: append_padded(value.as_integer(), 0, out); return;
+    case ValueKind::decimal: append_decimal(value.unscaled(), value.scale(), out); return;
+    case ValueKind::real: append_real(value.as_real(), out); return;
+    case ValueKind::datetime: append_datetime(value.as_integer(), true, out); return;
+    case ValueKind::smalldatetime: append_datetime(value.as_integer(), false, out); return;
+    case ValueKind::date: append_day(value.as_integer(), out); return;
+    case ValueKind::time: append_clock(value.as_integer() / 10000000, out); return;
+    case ValueKind::text:
+    case ValueKind::guid: out += value.as_text(); return;
+    case ValueKind::binary: append_binary(value.as_text(), out); return;
     }
 }
 
@@ -118,4 +118,4 @@ std::string text_of(const Value& value) {
     return text;
 }
 
-}  // namespace engines
+} // namespace engines

@@ -19,4 +19,4 @@ std::string text_of(const Value& value);
 // Appends an unscaled decimal, for instance (-5, 2) as "-0.05".
 void append_decimal(Int128 unscaled, int scale, std::string& out);
 
-}  // namespace engines
+} // namespace engines

@@ -48,5 +48,5 @@ TEST(ValueText, bytes_are_shown_in_hexadecimal) {
     EXPECT_EQ(text_of(Value::binary(std::string_view("\x01\xAF", 2))), "0x01AF");
 }
 
-}  // namespace
-}  // namespace engines
+} // namespace
+} // namespace engines

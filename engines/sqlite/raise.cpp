@@ -13,10 +13,12 @@ void raise_error(int number, std::string text) {
     throw Failure(std::move(error));
 }
 
-void raise_division_by_zero() { raise_error(8134, "Divide by zero error encountered."); }
+void raise_division_by_zero() {
+    raise_error(8134, "Divide by zero error encountered.");
+}
 
 void raise_overflow(const std::string& type) {
     raise_error(8115, "Arithmetic overflow error converting expression to data type " + type + ".");
 }
 
-}  // namespace engines
+} // namespace engines

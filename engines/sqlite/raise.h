@@ -15,4 +15,4 @@ namespace engines {
 // 8115; type as declared in general: "int", "numeric", "money".
 [[noreturn]] void raise_overflow(const std::string& type);
 
-}  // namespace engines
+} // namespace engines

@@ -80,7 +80,7 @@ std::string utf8(UChar32 character) {
     return text;
 }
 
-}  // namespace
+} // namespace
 
 int main() {
     std::printf("# The order of characters in texts, lowest first; frozen, see README.md.\n"
@@ -101,8 +101,7 @@ int main() {
             std::size_t end = i + 1;
             while (characters.size() == 1 && end < entries.size() && !is_chinese(entries[end]) &&
                    entries[end].characters.size() == 1 &&
-                   entries[end].characters[0] ==
-                       characters[0] + static_cast<UChar32>(end - i))
+                   entries[end].characters[0] == characters[0] + static_cast<UChar32>(end - i))
                 ++end;
             std::printf(" %X", static_cast<unsigned>(characters[0]));
             for (std::size_t k = 1; k < characters.size(); ++k)

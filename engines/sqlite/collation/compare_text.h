@@ -18,4 +18,4 @@ int compare_text_exactly(std::string_view left, std::string_view right);
 // A number that is equal for two characters exactly when the collation takes them as equal.
 std::uint32_t rank_of(char32_t character);
 
-}  // namespace engines
+} // namespace engines

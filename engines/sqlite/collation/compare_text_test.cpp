@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "engines/sqlite/collation/text_order.h"
+#include "engines/sqlite/text/utf8.h"
 
 namespace engines {
 namespace {
@@ -22,7 +23,7 @@ TEST(CompareText, case_width_and_trailing_blanks_do_not_count) {
 }
 
 TEST(CompareText, digits_then_letters_then_chinese_by_pinyin) {
-    const std::vector<std::string> order{"",   "10", "9",  "A",  "a1", "b", "C",
+    const std::vector<std::string> order{"",   "10", "9",  "A",  "a1", "b",  "C",
                                          "阿", "付", "记", "收", "现", "银", "转"};
     for (std::size_t i = 0; i + 1 < order.size(); ++i) {
         EXPECT_LT(compare_text(order[i], order[i + 1]), 0) << order[i];
@@ -51,6 +52,42 @@ TEST(CompareText, it_is_an_order_on_all_characters) {
     }
 }
 
+TEST(CompareText, a_blank_inside_counts_and_a_blank_at_the_end_does_not) {
+    EXPECT_EQ(compare_text("ab   ", "ab"), 0);
+    EXPECT_NE(compare_text("a b", "ab"), 0);
+    EXPECT_GT(compare_text("ab  c", "ab"), 0);
+    EXPECT_LT(compare_text("ab    ", "ab\x01"), 0);
+    EXPECT_EQ(compare_text("12345678   ", "12345678\xE3\x80\x80"), 0);
+}
+
+// Whatever way a comparison takes, it must agree with comparing rank by rank.
+TEST(CompareText, agrees_with_a_comparison_character_by_character) {
+    const std::vector<std::string> parts{"a",  "A",  "ａ", "b", " ", "　",
+                                         "中", "丮", "1",  "é", "\t"};
+    std::vector<std::string> texts{""};
+    for (std::size_t i = 0; i < 400; ++i) {
+        std::string text;
+        for (std::size_t n = i * 7919 + 13; n > 0; n /= parts.size())
+            text += parts[n % parts.size()];
+        texts.push_back(text);
+    }
+    const auto ranks = [](const std::string& text) {
+        std::vector<std::uint32_t> all;
+        for (std::size_t place = 0; place < text.size();)
+            all.push_back(rank_of(next_character(text, place)));
+        while (!all.empty() && all.back() == rank_of(' ')) all.pop_back();
+        return all;
+    };
+    for (const std::string& left : texts) {
+        for (const std::string& right : texts) {
+            const auto a = ranks(left);
+            const auto b = ranks(right);
+            const int expected = a < b ? -1 : a > b ? 1 : 0;
+            ASSERT_EQ(compare_text(left, right), expected) << left << "|" << right;
+        }
+    }
+}
+
 TEST(CompareText, damaged_text_is_compared_too) {
     EXPECT_NE(compare_text("\xFF", "a"), 0);
     EXPECT_EQ(compare_text("\xE4\xB8", "\xE4\xB8"), 0);
@@ -62,5 +99,5 @@ TEST(CompareText, an_exact_comparison_tells_case_apart) {
     EXPECT_EQ(compare_text_exactly("a ", "a"), 0);
 }
 
-}  // namespace
-}  // namespace engines
+} // namespace
+} // namespace engines

@@ -43,7 +43,7 @@ void read_characters(const std::string& text) {
     }
 }
 
-}  // namespace
+} // namespace
 
 int main(int count, char** arguments) {
     if (count != 3) return 2;

@@ -11,4 +11,4 @@ namespace engines {
 // order of their pinyin. Characters outside the basic plane come after all, by their number.
 extern const std::array<std::uint16_t, 0x10000> text_order;
 
-}  // namespace engines
+} // namespace engines

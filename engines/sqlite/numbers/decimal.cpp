@@ -1,6 +1,7 @@
 // Decimal arithmetic; what does not fit 128 bits on the way goes through 256.
 #include "engines/sqlite/numbers/decimal.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdlib>
 
@@ -20,7 +21,9 @@ constexpr std::array<Int128, max_digits + 1> make_powers() {
 }
 constexpr std::array<Int128, max_digits + 1> powers = make_powers();
 
-[[noreturn]] void overflow() { raise_overflow("numeric"); }
+[[noreturn]] void overflow() {
+    raise_overflow("numeric");
+}
 
 // The quotient of the value and a power of ten.
 Int128 shrink(Int128 value, int digits, Rounding rounding) {
@@ -55,9 +58,11 @@ Aligned align(Int128 a, int a_scale, Int128 b, int b_scale) {
     return {a, rescale(b, b_scale, a_scale), a_scale};
 }
 
-}  // namespace
+} // namespace
 
-Int128 power_of_ten(int exponent) { return powers.at(static_cast<std::size_t>(exponent)); }
+Int128 power_of_ten(int exponent) {
+    return powers.at(static_cast<std::size_t>(exponent));
+}
 
 Int128 rescale(Int128 value, int from, int to, Rounding rounding) {
     if (from == to || value == 0) return value;
@@ -157,10 +162,14 @@ Int128 from_double(double value, int scale) {
     std::array<char, 512> digits;
     const int length = std::snprintf(digits.data(), digits.size(), "%.17g", value);
     const std::string_view text(digits.data(), static_cast<std::size_t>(length));
-    const auto exponent_place = text.find('e');
+    const auto exponent_place = std::min(text.find('e'), text.size());
     const std::string_view mantissa = text.substr(0, exponent_place);
-    const int exponent =
-        exponent_place == std::string_view::npos ? 0 : std::atoi(digits.data() + exponent_place + 1);
+    int exponent = 0;
+    if (exponent_place < text.size()) {
+        // The digits behind "e+" or "e-".
+        std::from_chars(text.data() + exponent_place + 2, text.data() + text.size(), exponent);
+        if (text[exponent_place + 1] == '-') exponent = -exponent;
+    }
     const auto point = mantissa.find('.');
     const int decimals =
         point == std::string_view::npos ? 0 : static_cast<int>(mantissa.size() - point - 1);
@@ -189,4 +198,4 @@ std::optional<Int128> from_wide(std::string_view bytes) {
     return static_cast<Int128>(bits ^ (static_cast<Magnitude>(1) << 127));
 }
 
-}  // namespace engines
+} // namespace engines

@@ -53,4 +53,4 @@ using WideBytes = std::array<char, 16>;
 WideBytes to_wide(Int128 unscaled);
 std::optional<Int128> from_wide(std::string_view bytes);
 
-}  // namespace engines
+} // namespace engines

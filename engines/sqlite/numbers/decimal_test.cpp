@@ -11,7 +11,9 @@
 namespace engines {
 namespace {
 
-std::string text(Int128 unscaled, int scale) { return text_of(Value::decimal(unscaled, scale)); }
+std::string text(Int128 unscaled, int scale) {
+    return text_of(Value::decimal(unscaled, scale));
+}
 
 Int128 number(std::string_view digits, int scale = 0) {
     return parse_decimal(digits, scale).value().unscaled;
@@ -116,5 +118,5 @@ TEST(Decimal, a_product_divided_by_a_factor_gives_the_other_factor) {
     }
 }
 
-}  // namespace
-}  // namespace engines
+} // namespace
+} // namespace engines

@@ -28,8 +28,10 @@ public:
 
 private:
     void push(int digit) {
-        if (overflow_ || value_ > (limit_ - 1 - digit) / 10) overflow_ = true;
-        else value_ = value_ * 10 + digit;
+        if (overflow_ || value_ > (limit_ - 1 - digit) / 10)
+            overflow_ = true;
+        else
+            value_ = value_ * 10 + digit;
     }
 
     const Int128 limit_ = power_of_ten(38);
@@ -41,7 +43,7 @@ private:
     bool overflow_ = false;
 };
 
-}  // namespace
+} // namespace
 
 std::optional<ParsedDecimal> parse_decimal(std::string_view text, int scale) {
     text = without_blanks(text);
@@ -67,4 +69,4 @@ std::optional<ParsedDecimal> parse_decimal(std::string_view text, int scale) {
     return digits.finish(negative);
 }
 
-}  // namespace engines
+} // namespace engines

@@ -6,10 +6,14 @@
 namespace engines {
 namespace {
 
-constexpr Magnitude low_half(Magnitude value) { return static_cast<std::uint64_t>(value); }
-constexpr Magnitude high_half(Magnitude value) { return value >> 64; }
+constexpr Magnitude low_half(Magnitude value) {
+    return static_cast<std::uint64_t>(value);
+}
+constexpr Magnitude high_half(Magnitude value) {
+    return value >> 64;
+}
 
-}  // namespace
+} // namespace
 
 WideProduct product_of(Magnitude a, Magnitude b) {
     const Magnitude low = low_half(a) * low_half(b);
@@ -39,4 +43,4 @@ std::optional<Quotient> divided(WideProduct dividend, Magnitude divisor) {
     return Quotient{quotient, rest};
 }
 
-}  // namespace engines
+} // namespace engines

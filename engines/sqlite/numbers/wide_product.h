@@ -27,4 +27,4 @@ struct Quotient {
 // Nothing when the quotient does not fit 128 bits. The divisor is not zero and below 2^127.
 std::optional<Quotient> divided(WideProduct dividend, Magnitude divisor);
 
-}  // namespace engines
+} // namespace engines

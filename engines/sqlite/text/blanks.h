@@ -23,4 +23,4 @@ inline std::string_view without_blanks(std::string_view text) {
     return text;
 }
 
-}  // namespace engines
+} // namespace engines

@@ -39,4 +39,4 @@ void append_character(char32_t character, std::string& out) {
     }
 }
 
-}  // namespace engines
+} // namespace engines

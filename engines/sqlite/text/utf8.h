@@ -48,4 +48,4 @@ std::size_t byte_place(std::string_view text, std::size_t characters);
 
 void append_character(char32_t character, std::string& out);
 
-}  // namespace engines
+} // namespace engines

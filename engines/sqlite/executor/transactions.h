@@ -1,0 +1,97 @@
+// Transactions as T-SQL counts them, on one connection of SQLite.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "engines/sqlite/catalogue/identities.h"
+#include "engines/sqlite/connection/connection.h"
+#include "tsql/catalog/catalog.h"
+
+namespace engines {
+
+// BEGIN counts up, COMMIT counts down and at one writes, ROLLBACK undoes everything. The catalogue
+// goes back with the rows.
+class Transactions {
+public:
+    Transactions(sqlite3* connection, tsql::Catalog& catalog, Identities& identities)
+        : connection_(connection), catalog_(catalog), identities_(identities) {}
+
+    // @@TRANCOUNT
+    int depth() const { return depth_; }
+    // A transaction that can only be undone: an error under XACT_ABORT was caught by TRY.
+    bool doomed() const { return doomed_; }
+    void doom() { doomed_ = depth_ > 0; }
+    // Runs inside the transaction just before its commit.
+    void set_before_commit(std::function<void()> action) { before_commit_ = std::move(action); }
+    // A reader's transaction does not take the right to write.
+    void set_read_only(bool read_only) { read_only_ = read_only; }
+
+    void begin();
+    // Error 3902 without a transaction, 3930 when it is doomed.
+    void commit();
+    void rollback();
+    void save(const std::string& name);
+    // To a savepoint; false when there is none of that name.
+    bool rollback_to(const std::string& name);
+    // Notices that SQLite undid the transaction by itself, as it does when the disk is full.
+    bool lost();
+
+private:
+    friend class StatementScope;
+    struct Savepoint {
+        std::string name;
+        int number;
+        tsql::Catalog::State catalog;
+    };
+
+    void start();
+    void finish();
+    void run(StatementHandle& statement, const char* text);
+    void forget_savepoints(std::size_t keep) {
+        savepoints_.resize(std::min(keep, savepoints_.size()));
+    }
+
+    sqlite3* connection_;
+    tsql::Catalog& catalog_;
+    Identities& identities_;
+    std::function<void()> before_commit_;
+    int depth_ = 0;
+    int numbers_ = 0;
+    bool doomed_ = false;
+    bool read_only_ = false;
+    tsql::Catalog::State at_begin_;
+    std::vector<Savepoint> savepoints_;
+    StatementHandle begin_;
+    StatementHandle commit_;
+    StatementHandle rollback_;
+};
+
+// One writing statement: all of it or nothing. Outside a transaction it is one of its own.
+//
+//     StatementScope scope(transactions, true);
+//     … write …
+//     scope.done();           // without it the destructor undoes everything
+class StatementScope {
+public:
+    // undoable false: an error undoes the whole transaction anyway, so that no savepoint is needed.
+    StatementScope(Transactions& transactions, bool undoable);
+    ~StatementScope();
+    StatementScope(const StatementScope&) = delete;
+    StatementScope& operator=(const StatementScope&) = delete;
+
+    void done();
+    // Whether the statement is a transaction of its own.
+    bool implicit() const { return implicit_; }
+
+private:
+    Transactions& transactions_;
+    bool implicit_ = false;
+    bool savepoint_ = false;
+    bool finished_ = false;
+    int number_ = 0;
+    tsql::Catalog::State catalog_;
+};
+
+} // namespace engines

@@ -1,0 +1,105 @@
+// Functions that ask the session: variables, identities, routines, objects.
+#include <array>
+#include <cmath>
+
+#include "engines/sqlite/functions/families.h"
+#include "engines/sqlite/raise.h"
+
+namespace engines {
+namespace {
+
+void variable(const Call& call) {
+    tsql::Type type;
+    const Stored value = call.runtime().variable(call.number(0), type);
+    call.give_stored(value, type);
+}
+
+void identity(const Call& call) {
+    call.give(call.runtime().next_identity(call.text(0)));
+}
+
+void identity_seen(const Call& call) {
+    if (call.is_null(1)) return call.give_null();
+    call.runtime().identity_seen(call.text(0), call.integer(1));
+    call.give(call.integer(1));
+}
+
+void ident_current(const Call& call) {
+    const auto value = call.runtime().current_identity(call.text(0));
+    value ? call.give_wide(*value) : call.give_null();
+}
+
+void call_function(const Call& call) {
+    tsql::Type type;
+    const Stored result = call.runtime().call(call.text(0), call.all().subspan(1), type);
+    call.give_stored(result, type);
+}
+
+void object_id(const Call& call) {
+    if (call.is_null(0)) return call.give_null();
+    const auto id = call.runtime().object_id(call.text(0), call.is_null(1) ? "" : call.text(1));
+    id ? call.give(*id) : call.give_null();
+}
+
+void object_name(const Call& call) {
+    if (call.is_null(0)) return call.give_null();
+    const auto name = call.runtime().object_name(call.integer(0));
+    name ? call.give_text(*name) : call.give_null();
+}
+
+// Nine bytes that are neither a text, a number nor a wide decimal.
+void tombstone(const Call& call) {
+    std::array<char, 9> bytes{static_cast<char>(0xFF)};
+    auto bits = static_cast<std::uint64_t>(call.integer(0));
+    for (std::size_t i = bytes.size(); i-- > 1; bits >>= 8)
+        bytes[i] = static_cast<char>(static_cast<unsigned char>(bits & 255));
+    call.give_bytes({bytes.data(), bytes.size()});
+}
+
+void raise(const Call& call) {
+    raise_error(call.number(0), std::string(call.text(1)));
+}
+
+void percent(const Call& call) {
+    const double share = call.real(0);
+    if (!(share >= 0 && share <= 100))
+        raise_error(1031, "Percent values must be between 0 and 100.");
+    call.give(static_cast<std::int64_t>(std::ceil(share * call.real(1) / 100)));
+}
+
+void newid(const Call& call) {
+    std::array<unsigned char, 16> bytes;
+    sqlite3_randomness(static_cast<int>(bytes.size()), bytes.data());
+    bytes[6] = static_cast<unsigned char>((bytes[6] & 0x0F) | 0x40);
+    bytes[8] = static_cast<unsigned char>((bytes[8] & 0x3F) | 0x80);
+    static constexpr char digits[] = "0123456789ABCDEF";
+    std::string text;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        if (i == 4 || i == 6 || i == 8 || i == 10) text += '-';
+        text += digits[bytes[i] >> 4];
+        text += digits[bytes[i] & 15];
+    }
+    call.give_text(text);
+}
+
+constexpr FunctionEntry entries[] = {
+    {"zf_variable", 1, Nature::live, variable},
+    {"zf_identity", 1, Nature::live, identity},
+    {"zf_identity_seen", 2, Nature::live, identity_seen},
+    {"zf_ident_current", 1, Nature::live, ident_current},
+    {"zf_call", -1, Nature::live, call_function},
+    {"zf_object_id", 2, Nature::live, object_id},
+    {"zf_object_name", 1, Nature::live, object_name},
+    {"zf_tombstone", 1, Nature::pure, tombstone},
+    {"zf_raise", 2, Nature::live, raise},
+    {"zf_percent", 2, Nature::pure, percent},
+    {"zf_newid", 0, Nature::live, newid},
+};
+
+} // namespace
+
+std::span<const FunctionEntry> object_functions() {
+    return entries;
+}
+
+} // namespace engines
