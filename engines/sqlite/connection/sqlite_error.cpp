@@ -199,7 +199,7 @@ Error explain(const SqliteFailure& failure, const tsql::Catalog* catalog, Statem
             error = make(8115, ErrorCategory::arithmetic,
                          "Arithmetic overflow error converting expression to data type bigint.");
         else
-            error = make(0, ErrorCategory::internal, failure.what());
+            error = make(8624, ErrorCategory::internal, failure.what());
     }
     error.engine_code = failure.code;
     return error;

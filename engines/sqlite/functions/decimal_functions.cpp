@@ -24,6 +24,15 @@ void abs(const Call& call) {
     call.give_wide(value < 0 ? -value : value);
 }
 
+void sign(const Call& call) {
+    if (sqlite3_value_type(call.raw(0)) == SQLITE_FLOAT) {
+        const double value = call.real(0);
+        return call.give((value > 0) - (value < 0));
+    }
+    const Int128 value = call.exact(0);
+    call.give((value > 0) - (value < 0));
+}
+
 // Money has four decimals in every operation.
 void money_mul(const Call& call) {
     call.give_narrow(multiply(call.exact(0), 4, call.exact(1), 4, 38, 4));
@@ -67,6 +76,7 @@ constexpr FunctionEntry entries[] = {
     {"zf_dec_cmp", 4, Nature::pure, cmp},
     {"zf_dec_neg", 1, Nature::pure, neg},
     {"zf_dec_abs", 1, Nature::pure, abs},
+    {"zf_sign", 1, Nature::pure, sign},
     {"zf_money_mul", 2, Nature::pure, money_mul},
     {"zf_money_div", 2, Nature::pure, money_div},
     {"zf_round_dec", 4, Nature::pure, round_dec},

@@ -39,6 +39,12 @@ template <auto function, bool zero_allowed> void positive(const Call& call) {
     call.give_real(finite(function(x)));
 }
 
+double round_up(double x) {
+    return std::ceil(x);
+}
+double round_down(double x) {
+    return std::floor(x);
+}
 double square_root(double x) {
     return std::sqrt(x);
 }
@@ -93,6 +99,8 @@ void rand(const Call& call) {
 constexpr FunctionEntry entries[] = {
     {"zf_fdiv", 2, Nature::pure, fdiv},
     {"zf_float", 1, Nature::pure, checked_float},
+    {"zf_ceiling_float", 1, Nature::pure, unary<round_up>},
+    {"zf_floor_float", 1, Nature::pure, unary<round_down>},
     {"zf_power", 2, Nature::pure, power},
     {"zf_sqrt", 1, Nature::pure, positive<square_root, true>},
     {"zf_exp", 1, Nature::pure, unary<exponential>},

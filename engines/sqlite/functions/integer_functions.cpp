@@ -15,6 +15,14 @@ template <std::int64_t low, std::int64_t high> void within(const Call& call) {
     call.give(value);
 }
 
+// An integer on its way into a decimal of so many digits.
+void below(const Call& call) {
+    const std::int64_t value = call.integer(0);
+    const std::int64_t limit = call.integer(1);
+    if (value >= limit || value <= -limit) raise_overflow("numeric");
+    call.give(value);
+}
+
 void add8(const Call& call) {
     std::int64_t result = 0;
     if (__builtin_add_overflow(call.integer(0), call.integer(1), &result)) raise_overflow("bigint");
@@ -67,6 +75,7 @@ constexpr FunctionEntry entries[] = {
     {"zf_int1", 1, Nature::pure, within<0, 255>},
     {"zf_int2", 1, Nature::pure, within<-32768, 32767>},
     {"zf_int4", 1, Nature::pure, within<least, most>},
+    {"zf_within", 2, Nature::pure, below},
     {"zf_add8", 2, Nature::pure, add8},
     {"zf_sub8", 2, Nature::pure, sub8},
     {"zf_mul8", 2, Nature::pure, mul8},
