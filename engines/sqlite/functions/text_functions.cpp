@@ -60,7 +60,8 @@ void space(const Call& call) {
     give_optional(call, replicate(" ", call.integer(0)));
 }
 void quoted(const Call& call) {
-    give_optional(call, quotename(call.text(0), call.text(1)));
+    if (call.is_null(0)) return call.give_null();
+    give_optional(call, quotename(call.text(0), call.is_null(1) ? "[" : call.text(1)));
 }
 
 std::int64_t bytes_of_decimal(int precision) {
@@ -151,7 +152,7 @@ constexpr FunctionEntry entries[] = {
     {"zf_reverse", 1, Nature::pure, reverse},
     {"zf_replicate", 2, Nature::pure, replicated},
     {"zf_space", 1, Nature::pure, space},
-    {"zf_quotename", 2, Nature::pure, quoted},
+    {"zf_quotename", 2, Nature::pure_with_null, quoted},
     {"zf_str", 3, Nature::pure, str},
     {"zf_char", 1, Nature::pure, char_of},
     {"zf_nchar", 1, Nature::pure, nchar_of},

@@ -164,10 +164,11 @@ std::vector<SqlText> Emitter::update_in_turns(const BoundUpdate& update) {
         back += (i == 0 ? "" : ", ") + quoted_name(column.name) + "=s.c" + number;
     }
     std::vector<SqlText> texts;
-    texts.push_back(finish("DROP TABLE IF EXISTS temp.\"turns\""));
+    // Without parameters: those gathered so far belong to the text that reads the rows.
+    texts.push_back({"DROP TABLE IF EXISTS temp.\"turns\"", {}});
+    texts.push_back({"CREATE TEMP TABLE \"turns\" (" + columns + ")", {}});
     const std::string rows = with_clause(update.with) + "SELECT " + list +
                              rows_of(update, update.from, update.target_in_from, update.where);
-    texts.push_back(finish("CREATE TEMP TABLE \"turns\" (" + columns + ")"));
     texts.push_back(finish("INSERT OR IGNORE INTO temp.\"turns\" " + rows));
     texts.push_back(finish("UPDATE " + target + " SET " + aside +
                            " WHERE rowid IN (SELECT r FROM temp.\"turns\")"));
