@@ -44,9 +44,11 @@ inline std::unique_ptr<engines::Session> create(const std::string& path, int row
     options.create = true;
     auto session = open(path, options);
     run(*session, "CREATE TABLE T (ID int NOT NULL PRIMARY KEY, V varchar(200))");
+    session->begin();
     for (int i = 1; i <= rows; ++i) {
         run(*session, "INSERT INTO T VALUES (" + std::to_string(i) + ", 'row')");
     }
+    session->commit();
     return session;
 }
 

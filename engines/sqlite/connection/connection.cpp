@@ -1,11 +1,20 @@
 // Thin ownership around the C interface.
 #include "engines/sqlite/connection/connection.h"
 
+#include <cerrno>
+
 namespace engines {
 
+SqliteFailure last_failure(sqlite3* connection) {
+    const int code = sqlite3_extended_errcode(connection);
+    int system_error = sqlite3_system_errno(connection);
+    // A failed write is not always handed on, but it is still the thread's last error.
+    if (system_error == 0 && (code & 0xFF) == SQLITE_IOERR) system_error = errno;
+    return SqliteFailure(code, system_error, sqlite3_errmsg(connection));
+}
+
 void throw_last_error(sqlite3* connection) {
-    throw SqliteFailure(sqlite3_extended_errcode(connection), sqlite3_system_errno(connection),
-                        sqlite3_errmsg(connection));
+    throw last_failure(connection);
 }
 
 StatementHandle prepare(sqlite3* connection, std::string_view text, bool persistent) {

@@ -30,7 +30,9 @@ public:
     int system_error; // errno behind it, 0 when there is none
 };
 
-// Throws SqliteFailure with what the connection says of its last error.
+// What the connection says of its last error.
+SqliteFailure last_failure(sqlite3* connection);
+// Throws it.
 [[noreturn]] void throw_last_error(sqlite3* connection);
 
 StatementHandle prepare(sqlite3* connection, std::string_view text, bool persistent = true);

@@ -10,9 +10,7 @@ namespace engines {
 int Executor::step(sqlite3_stmt* statement, StatementVerb verb) {
     const int code = sqlite3_step(statement);
     if (code == SQLITE_ROW || code == SQLITE_DONE) return code;
-    const SqliteFailure failure(sqlite3_extended_errcode(parts_.connection),
-                                sqlite3_system_errno(parts_.connection),
-                                sqlite3_errmsg(parts_.connection));
+    const SqliteFailure failure = last_failure(parts_.connection);
     if (auto raised = take_raised()) throw Failure(std::move(*raised));
     Error error = explain(failure, &parts_.catalog, verb);
     if (const char* text = sqlite3_sql(statement); text != nullptr && error.statement.empty())

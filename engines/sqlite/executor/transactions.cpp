@@ -22,8 +22,7 @@ void Transactions::run(StatementHandle& statement, const char* text) {
     const int code = sqlite3_step(statement.get());
     // The error is read before the reset, which would clear it.
     if (code != SQLITE_DONE) {
-        const SqliteFailure failure(sqlite3_extended_errcode(connection_),
-                                    sqlite3_system_errno(connection_), sqlite3_errmsg(connection_));
+        const SqliteFailure failure = last_failure(connection_);
         sqlite3_reset(statement.get());
         throw failure;
     }
