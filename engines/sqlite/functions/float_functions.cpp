@@ -84,7 +84,7 @@ void round_float(const Call& call) {
 }
 
 // A seed gives the same number each time; without one the numbers are random.
-void rand(const Call& call) {
+void random_number(const Call& call) {
     std::uint64_t bits = 0;
     if (call.is_null(0)) {
         sqlite3_randomness(sizeof bits, &bits);
@@ -112,7 +112,7 @@ constexpr FunctionEntry entries[] = {
     {"zf_tan", 1, Nature::pure, unary<tangent>},
     {"zf_atan", 1, Nature::pure, unary<arc_tangent>},
     {"zf_round_float", 3, Nature::pure, round_float},
-    {"zf_rand", 1, Nature::live, rand},
+    {"zf_rand", 1, Nature::live, random_number},
 };
 
 } // namespace
