@@ -33,6 +33,7 @@ std::unique_ptr<engines::Session> open_database(const std::string& books, Access
     engines::OpenOptions options;
     options.read_only = access == Access::ReadOnly;
     options.create = books == ":memory:";
+    options.before_commit = {"SYS_TRANSACTION_END", "SYS_6601_GONE"};
     try {
         return engine.open(books, options);
     } catch (const engines::Failure& failure) {

@@ -9,11 +9,11 @@
 
 namespace automation {
 
-// Takes the texts of one check's findings. After the first few hundred only their number counts:
+// Takes the texts of one check's findings. After the first hundred only their number counts:
 // nobody reads ten thousand lines about one damaged period.
 class Findings {
 public:
-    static constexpr std::size_t most = 200;
+    static constexpr std::size_t most = 100;
     void add(std::string text);
     // The texts, the last one telling how many were left out.
     std::vector<std::string> take();
