@@ -10,11 +10,12 @@
 
 namespace engines {
 
-// A procedure that runs at the end of every transaction whose rows left something to settle:
-// whenever the pending table holds rows, inside the transaction, just before its commit.
+// A procedure of the books that runs at the end of every transaction whose rows left something to
+// settle: whenever the pending table holds rows, inside the transaction, just before its commit.
+// Books without these objects have nothing to settle.
 struct BeforeCommit {
-    std::string procedure; // without parameters; empty: none
-    std::string pending_table;
+    std::string procedure = "SYS_TRANSACTION_END"; // without parameters
+    std::string pending_table = "SYS_6601_GONE";
 };
 
 struct OpenOptions {
