@@ -183,6 +183,11 @@ void MainWindow::refresh_books() {
 
 void MainWindow::say(const QString& text) { status_->say(text); }
 
+void MainWindow::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    pages_->currentWidget()->setFocus();
+}
+
 // Leaving asks every form that holds unsaved work, the last one first.
 void MainWindow::closeEvent(QCloseEvent* event) {
     while (pages_->count() > 1) {

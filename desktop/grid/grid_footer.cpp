@@ -1,9 +1,8 @@
-// Paints sums bold and right-aligned; below a ruled form also the total in capital numerals.
+// Paints sums bold and right-aligned; below a paper form its texts in one run.
 #include "desktop/grid/grid_footer.h"
 
 #include <QPainter>
 
-#include "desktop/grid/capital_numerals.h"
 #include "desktop/grid/cell_text.h"
 #include "desktop/grid/digit_boxes.h"
 #include "desktop/grid/grid_header.h"
@@ -60,26 +59,27 @@ void GridFooter::paint_column(QPainter& painter, int column, const QRect& cell) 
                      view_.title_header().closes_group(column) ? token::rule_3 : token::rule_2);
 }
 
-// 合计 人民币（大写） in the room before the first ruled column.
-void GridFooter::paint_in_words(QPainter& painter, int right) {
+// The texts of a paper form stand in one run before its ruled columns: 合计 人民币（大写）, and the
+// total in words, which must not be overlooked.
+void GridFooter::paint_run(QPainter& painter, int right) {
     const host::TDBGridEh& grid = *view_.grid();
-    QString total;
-    for (int i = static_cast<int>(grid.Columns.size()) - 1; i >= 0; --i)
-        if (grid.Columns[static_cast<std::size_t>(i)].RuledAmount) total = qt(grid.footer_text(i));
     const int left = view_.verticalHeader()->width();
-    const QRect box(left + 16, 1, right - left - 16, height() - 1);
     painter.fillRect(QRect(left, 1, right - left - 1, height() - 1), token::paper_2);
-    painter.setFont(fonts::body());
-    painter.setPen(token::ink_2);
-    const QString words = QStringLiteral("合计      人民币（大写）");
-    painter.drawText(box, Qt::AlignVCenter, words);
     QFont bold = fonts::digits(true);
     bold.setLetterSpacing(QFont::AbsoluteSpacing, 1);
-    const int used = painter.fontMetrics().horizontalAdvance(words) + 4;
-    painter.setFont(bold);
-    painter.setPen(total.startsWith('-') ? token::cinnabar_1 : token::ink_1);
-    if (!total.isEmpty() && !is_zero_amount(total))
-        painter.drawText(box.adjusted(used, 0, 0, 0), Qt::AlignVCenter, capital_numerals(total));
+    int x = left + 16;
+    bool first = true;
+    for (const host::GridColumn& column : grid.Columns) {
+        if (column.Footer != host::FooterKind::Text || column.FooterText.empty()) continue;
+        const QString text = qt(column.FooterText);
+        painter.setFont(first ? fonts::body() : bold);
+        painter.setPen(first                  ? token::ink_2
+                       : text.startsWith(QStringLiteral("负")) ? token::cinnabar_1
+                                              : token::ink_1);
+        painter.drawText(QRect(x, 1, right - x, height() - 1), Qt::AlignVCenter, text);
+        x += painter.fontMetrics().horizontalAdvance(text) + 10;
+        first = false;
+    }
 }
 
 void GridFooter::paintEvent(QPaintEvent*) {
@@ -100,11 +100,10 @@ void GridFooter::paintEvent(QPaintEvent*) {
         if (view_.grid()->Columns[static_cast<std::size_t>(i)].RuledAmount)
             first_ruled = std::min(first_ruled, cell.left());
     }
-    if (ruled) paint_in_words(painter, first_ruled);
+    if (ruled) paint_run(painter, first_ruled);
     painter.restore();
     painter.fillRect(origin - 1, 0, 1, height(), token::rule_2);
     painter.fillRect(0, 0, width(), 1, token::rule_3);
-    if (ruled) painter.fillRect(0, height() - 1, width(), 1, token::rule_2);
 }
 
 } // namespace desktop

@@ -18,7 +18,7 @@ protected:
 
 private:
     void paint_column(QPainter& painter, int column, const QRect& cell);
-    void paint_in_words(QPainter& painter, int right);
+    void paint_run(QPainter& painter, int right);
     GridView& view_;
 };
 

@@ -61,7 +61,7 @@ private:
         const bool there = index.data(Available).toBool();
         painter.setFont(fonts::body());
         painter.setPen(!there ? token::ink_4 : active ? token::indigo_1 : token::ink_1);
-        painter.drawText(row.adjusted(32, 0, -40, 0), Qt::AlignVCenter, index.data().toString());
+        painter.drawText(row.adjusted(32, 0, -34, 0), Qt::AlignVCenter, index.data().toString());
         painter.setFont(fonts::tiny());
         painter.setPen(!there ? token::ink_4 : active ? token::indigo_1 : token::ink_3);
         painter.drawText(row.adjusted(0, 0, -12, 0), Qt::AlignVCenter | Qt::AlignRight,
@@ -96,16 +96,14 @@ NavigationPanel::NavigationPanel(const std::function<bool(int)>& available, QWid
     : QWidget(parent), box_(new FindBox(this)), tree_(new QTreeWidget(this)) {
     setFixedWidth(token::navigation);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(8, 8, 1, 0);
+    column->setContentsMargins(0, 8, 1, 0);
     column->setSpacing(8);
     auto* box_row = new QHBoxLayout;
-    box_row->setContentsMargins(0, 0, 7, 0);
+    box_row->setContentsMargins(8, 0, 7, 0);
     box_row->addWidget(box_);
     column->addLayout(box_row);
-    auto* tree_row = new QHBoxLayout;
-    tree_row->setContentsMargins(-8, 0, 0, 0);
-    tree_row->addWidget(tree_);
-    column->addLayout(tree_row, 1);
+    column->addWidget(tree_, 1);
+    tree_->setObjectName("navigation");
     tree_->setHeaderHidden(true);
     tree_->setFrameShape(QFrame::NoFrame);
     tree_->setIndentation(0);

@@ -23,7 +23,7 @@ OverviewPage::OverviewPage(QWidget* parent) : QWidget(parent), todo_(new TodoCar
     setFocusPolicy(Qt::StrongFocus);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 0, 16, 16);
-    column->setSpacing(16);
+    column->setSpacing(0);
     auto* top = new QHBoxLayout;
     auto* refresh_button = new HintedButton(this, ButtonLook::Tool);
     refresh_button->set_drawing("refresh-cw");
@@ -32,7 +32,7 @@ OverviewPage::OverviewPage(QWidget* parent) : QWidget(parent), todo_(new TodoCar
     connect(refresh_button, &QPushButton::clicked, this, [this] { refresh(); });
     top->addStretch(1);
     top->addWidget(refresh_button);
-    top->setContentsMargins(0, 10, 0, 10 - 16);
+    top->setContentsMargins(0, 10, 0, 10);
     column->addLayout(top);
     auto* steps = new StepsCard(this);
     auto* cash = new CashCard(this);
@@ -40,11 +40,13 @@ OverviewPage::OverviewPage(QWidget* parent) : QWidget(parent), todo_(new TodoCar
     cash->setFixedHeight(256);
     todo_->setFixedHeight(256);
     column->addWidget(steps);
+    column->addSpacing(16);
     auto* middle = new QHBoxLayout;
     middle->setSpacing(16);
     middle->addWidget(cash, 5);
     middle->addWidget(todo_, 4);
     column->addLayout(middle);
+    column->addSpacing(16);
     column->addWidget(profit, 1);
     for (Card* card : {static_cast<Card*>(steps), static_cast<Card*>(cash),
                        static_cast<Card*>(profit), static_cast<Card*>(todo_)})

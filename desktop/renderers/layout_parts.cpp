@@ -7,6 +7,7 @@
 #include <QSplitter>
 
 #include "desktop/renderers/edit_sync.h"
+#include "desktop/renderers/field_edit.h"
 #include "desktop/renderers/form_view.h"
 #include "desktop/renderers/hint_line.h"
 #include "desktop/renderers/justified_label.h"
@@ -92,10 +93,13 @@ void add_control(const LayoutNode& node, QBoxLayout& box, const LayoutPlace& pla
 std::size_t add_segments(const std::vector<LayoutNode>& nodes, std::size_t at, QBoxLayout& box,
                          const LayoutPlace& place) {
     auto* row = new QHBoxLayout;
-    row->setSpacing(-1);
+    row->setSpacing(0);
+    bool first = true;
     while (at < nodes.size() && is_segment(nodes[at])) {
         QWidget* widget = draw_control(*nodes[at].control, place.view);
         if (nodes[at].width > 0) widget->setFixedWidth(width_of_characters(nodes[at].width));
+        widget->setProperty("first", first);
+        first = false;
         row->addWidget(widget);
         ++at;
     }
@@ -220,8 +224,8 @@ void give_width(const LayoutNode& node, QWidget& widget) {
     if (characters == 0)
         characters = edge ? 10 : dynamic_cast<host::TNumberEdit*>(node.control) ? 8 : 20;
     const int width = width_of_characters(characters) + (edge ? 20 : 0);
-    if (link) widget.setMinimumWidth(width);
-    else widget.setFixedWidth(width);
+    auto* code = link ? widget.findChild<FieldEdit*>() : nullptr;
+    (code ? static_cast<QWidget*>(code) : &widget)->setFixedWidth(width);
 }
 
 void add_node(const LayoutNode& node, QBoxLayout& box, LayoutPlace place) {

@@ -31,7 +31,8 @@ protected:
         painter.fillRect(rect(), down ? token::indigo_1
                                  : underMouse() ? token::paper_3 : token::paper_0);
         painter.setPen(token::rule_3);
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        // Neighbours share one line: only the first has a left edge of its own.
+        painter.drawRect(rect().adjusted(property("first").toBool() ? 0 : -1, 0, -1, -1));
         painter.setFont(fonts::body());
         painter.setPen(!isEnabled() ? token::ink_4 : down ? QColor(Qt::white) : token::ink_1);
         painter.drawText(rect(), Qt::AlignCenter, text());

@@ -25,8 +25,7 @@ public:
                const QModelIndex& index) const override {
         const bool selected = option.state & QStyle::State_Selected;
         const auto* tree = static_cast<const QWidget*>(option.widget);
-        const QRect row(0, option.rect.y(), tree->width(), option.rect.height());
-        if (selected) painter->fillRect(row, tree->hasFocus() ? token::indigo_3
+        if (selected) painter->fillRect(option.rect, tree->hasFocus() ? token::indigo_3
                                                               : token::selected_quiet);
         const QString text = index.data().toString();
         const qsizetype blank = text.indexOf(' ');

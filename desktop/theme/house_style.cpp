@@ -81,6 +81,13 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     }
 }
 
+// The ground behind the last section of a header is painted by the header itself.
+void HouseStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const {
+    if (element != CE_HeaderEmptyArea)
+        QProxyStyle::drawControl(element, option, painter, widget);
+}
+
 int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                             const QWidget* widget) const {
     switch (metric) {
