@@ -32,7 +32,10 @@ PanelDialog::PanelDialog(const QString& caption, QWidget* over, bool bold_captio
 
 int PanelDialog::run() {
     Veil veil(parentWidget());
-    return exec();
+    const int result = exec();
+    // Not every window system hands the focus back by itself.
+    if (parentWidget()) parentWidget()->window()->activateWindow();
+    return result;
 }
 
 void PanelDialog::reject() { QDialog::reject(); }

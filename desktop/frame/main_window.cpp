@@ -92,7 +92,10 @@ void MainWindow::add_form(host::TForm& form) {
     switching_ = true;
     tabs_->insertTab(index, qt(form.TabTitle()));
     switching_ = false;
-    view->on_changed = [this, view] { refresh_tab(*view); };
+    view->on_changed = [this, view] {
+        refresh_tab(*view);
+        follow_active();
+    };
     refresh_tab(*view);
     tabs_->setCurrentIndex(index);
     tab_chosen(index);
@@ -148,6 +151,16 @@ void MainWindow::tab_chosen(int index) {
         overview_->setFocus();
     }
     status_->say({});
+}
+
+// A form may bring another to the front by itself.
+void MainWindow::follow_active() {
+    host::TForm* active = host::the_host().active;
+    FormView* front = view_in_front();
+    if (!active || active->IsModal() || (front && front->form() == active)) return;
+    for (int i = 1; i < pages_->count(); ++i)
+        if (static_cast<FormView*>(pages_->widget(i))->form() == active && tabs_->currentIndex() > 0)
+            tabs_->setCurrentIndex(i);
 }
 
 void MainWindow::close_tab(int index) {

@@ -53,6 +53,7 @@ private:
     void lay_out(QMenuBar* menus);
     void tab_chosen(int index);
     void close_tab(int index);
+    void follow_active();
     void refresh_tab(FormView& view);
     int index_of(const FormView& view) const;
     DesktopServices services_;

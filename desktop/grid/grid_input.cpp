@@ -101,23 +101,22 @@ void GridView::take_suggestion(int index) {
 }
 
 // The keys that stay with the editor or the list below it instead of going to the form.
-bool GridView::own_key(const host::Key& key) {
-    if (!grid_) return false;
+OwnKey GridView::own_key(const host::Key& key) {
+    if (!grid_) return OwnKey::No;
     if (popup_->isVisible() && popup_->takes(key)) {
         popup_->key(key);
-        return true;
+        return OwnKey::Used;
     }
-    if (!editor_->isVisible() || !editor_->hasFocus()) {
-        // Marking rows is the grid's own affair.
-        return grid_->MultiSelect && key.shift && !key.alt &&
-               (key.code == KeyCode::Up || key.code == KeyCode::Down);
-    }
+    const bool up_or_down = key.code == KeyCode::Up || key.code == KeyCode::Down;
+    // Marking rows is the grid's own affair.
+    if (!editor_->hasFocus())
+        return own_when(grid_->MultiSelect && key.shift && !key.alt && up_or_down);
     const bool all = editor_->hasSelectedText() && editor_->selectedText() == editor_->text();
     const bool untouched = !grid_->editing() && (all || editor_->text().isEmpty());
-    if (key.code == KeyCode::Left) return !untouched && editor_->cursorPosition() > 0;
+    if (key.code == KeyCode::Left) return own_when(!untouched && editor_->cursorPosition() > 0);
     if (key.code == KeyCode::Right)
-        return !untouched && editor_->cursorPosition() < editor_->text().size();
-    return line_takes(key);
+        return own_when(!untouched && editor_->cursorPosition() < editor_->text().size());
+    return own_when(line_takes(key));
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {

@@ -4,12 +4,12 @@
 #include <QPointer>
 #include <QTableView>
 
+#include "desktop/renderers/form_view.h"
 #include "host/controls/grid.h"
 
 namespace desktop {
 
 class CellEditor;
-class FormView;
 class GridHeader;
 class GridModel;
 class SuggestionPopup;
@@ -58,7 +58,7 @@ private:
     void edited(const QString& text);
     void offer();         // suggestions for what is typed
     void take_suggestion(int index);
-    bool own_key(const host::Key& key);
+    OwnKey own_key(const host::Key& key);
     void mark_to(int row);
     void paint_empty_rows(QPainter& painter);
     void remember_columns();

@@ -10,7 +10,7 @@ QWidget* draw_button(host::TButton& button, FormView& view) {
     auto* widget = new HintedButton(&view, ButtonLook::Plain);
     view.claim(widget, button);
     view.set_own_keys(button,
-                      [](const host::Key& key) { return key.code == host::KeyCode::Space; });
+                      [](const host::Key& key) { return own_when(key.code == host::KeyCode::Space); });
     view.listen(button, [widget, &button] {
         QString caption = qt(button.Caption.get());
         QString hint = qt(button.KeyHint);

@@ -40,9 +40,9 @@ QWidget* draw_combo_box(host::TComboBox& box, FormView& view) {
     view.claim(widget, box);
     view.set_own_keys(box, [widget](const host::Key& key) {
         using host::KeyCode;
-        if (widget->view()->isVisible() || is_opening_key(key)) return true;
-        if (widget->isEditable()) return line_takes(key);
-        return key.code == KeyCode::Character && !key.ctrl && !key.alt;
+        if (widget->view()->isVisible() || is_opening_key(key)) return OwnKey::Yes;
+        if (widget->isEditable()) return own_when(line_takes(key));
+        return own_when(key.code == KeyCode::Character && !key.ctrl && !key.alt);
     });
     view.listen(box, [widget, &box] { refresh(widget, box); });
     auto choose = [widget, &box, &view](const QString& text) {

@@ -46,7 +46,7 @@ int width_of_characters(int characters) {
 
 void sync_edit(FieldEdit* widget, host::TEdit& edit, FormView& view, Handover handover) {
     view.claim(widget, edit);
-    view.set_own_keys(edit, line_takes);
+    view.set_own_keys(edit, [](const host::Key& key) { return own_when(line_takes(key)); });
     view.listen(edit, [widget, &edit] {
         const QString text = qt(edit.Text.get());
         if (widget->text() != text) widget->setText(text);

@@ -94,11 +94,9 @@ bool FormView::move_focus(host::TWinControl& control) {
 void FormView::sync_focus() {
     if (!form_ || syncing_ || !isVisible()) return;
     QWidget* wanted = widget_of(form_->ActiveControl());
-    if (!wanted || !wanted->isEnabled() || window() != QApplication::activeWindow()) {
-        if (wanted && !QApplication::activeModalWidget()) wanted->setFocus();
-        return;
-    }
-    QWidget* now = QApplication::focusWidget();
+    if (!wanted || !wanted->isEnabled()) return;
+    QWidget* now = window() == QApplication::activeWindow() ? QApplication::focusWidget()
+                                                            : window()->focusWidget();
     if (now == wanted || (now && wanted->isAncestorOf(now))) return;
     syncing_ = true;
     wanted->setFocus(Qt::TabFocusReason); // as the form does: all of its text is marked
@@ -141,7 +139,9 @@ bool FormView::character_taken(Claim& claim, QKeyEvent& event, char32_t characte
 bool FormView::key_pressed(Claim& claim, QKeyEvent& event) {
     const host::Key key = to_key(event);
     if (key.code == host::KeyCode::None || (key.alt && is_plain_character(key))) return false;
-    if (claim.own_keys && claim.own_keys(key))
+    const OwnKey own = claim.own_keys ? claim.own_keys(key) : OwnKey::No;
+    if (own == OwnKey::Used) return true;
+    if (own == OwnKey::Yes)
         return is_plain_character(key) && character_taken(claim, event, key.character);
     QPointer<FormView> self(this);
     if (send_key(key)) return true;
@@ -165,6 +165,8 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
         }
         break;
     case QEvent::KeyPress:
+        // What nobody used wanders up through the parents; it was seen once already.
+        if (watched != QApplication::focusWidget()) break;
         if (claim && !replaying_ && key_pressed(*claim, *static_cast<QKeyEvent*>(event))) {
             event->accept();
             return true;

@@ -20,6 +20,12 @@ class TWinControl;
 
 namespace desktop {
 
+// What a widget does with a key: leaves it to the form, takes it, or has already acted on it.
+enum class OwnKey { No, Yes, Used };
+inline OwnKey own_when(bool takes) {
+    return takes ? OwnKey::Yes : OwnKey::No;
+}
+
 // The form's controls hold the truth. Widgets listen to them and hand every event of the person to
 // them through `run`, the one gate, after which the focus of the widgets follows the form's own.
 // The form may go at any event; `release` then cuts every tie, and the view is deleted later.
@@ -39,7 +45,7 @@ public:
     void claim(QWidget* widget, host::TWinControl& control);
     QWidget* widget_of(const host::TControl* control) const;
     // Widgets that take keys for themselves (text, lists) say which; absent: none.
-    using OwnKeys = std::function<bool(const host::Key&)>;
+    using OwnKeys = std::function<OwnKey(const host::Key&)>;
     void set_own_keys(const host::TWinControl& control, OwnKeys own);
     // Run once when the form goes, before the view does.
     void at_release(std::function<void()> action) { release_actions_.push_back(std::move(action)); }

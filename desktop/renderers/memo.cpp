@@ -14,9 +14,10 @@ QWidget* draw_memo(host::TMemo& memo, FormView& view) {
     view.claim(widget, memo);
     view.set_own_keys(memo, [](const host::Key& key) {
         using host::KeyCode;
-        return line_takes(key) || (!key.ctrl && (key.code == KeyCode::Enter ||
-               key.code == KeyCode::Up || key.code == KeyCode::Down ||
-               key.code == KeyCode::PageUp || key.code == KeyCode::PageDown));
+        const bool moves = key.code == KeyCode::Enter || key.code == KeyCode::Up ||
+                           key.code == KeyCode::Down || key.code == KeyCode::PageUp ||
+                           key.code == KeyCode::PageDown;
+        return own_when(line_takes(key) || (moves && !key.ctrl));
     });
     view.listen(memo, [widget, &memo] {
         const QString text = qt(memo.Text.get());

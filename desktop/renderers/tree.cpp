@@ -104,11 +104,11 @@ QWidget* draw_tree(host::TTreeView& tree, FormView& view) {
     view.claim(widget, tree);
     view.set_own_keys(tree, [](const host::Key& key) {
         using host::KeyCode;
-        return !key.ctrl && !key.alt &&
+        return own_when(!key.ctrl && !key.alt &&
                (key.code == KeyCode::Up || key.code == KeyCode::Down || key.code == KeyCode::Left ||
                 key.code == KeyCode::Right || key.code == KeyCode::Home ||
                 key.code == KeyCode::End || key.code == KeyCode::PageUp ||
-                key.code == KeyCode::PageDown);
+                key.code == KeyCode::PageDown));
     });
     view.listen(tree, [sync] { sync->refresh(); });
     QObject::connect(widget, &QTreeWidget::currentItemChanged, widget,

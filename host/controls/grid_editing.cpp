@@ -223,6 +223,7 @@ bool TDBGridEh::key_down(Key key) {
     case KeyCode::F4: return press_button(), true;
     case KeyCode::Enter:
         if (ReadOnly && OnDblClick) return double_click(), true;
+        if (!commit_edit()) return true; // refused: the cursor stays where it is
         return next_cell();
     case KeyCode::Backspace:
         if (!editing()) start_edit();

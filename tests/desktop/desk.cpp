@@ -25,8 +25,10 @@ void send(QWidget* to, int key, Qt::KeyboardModifiers modifiers, const QString& 
 
 QWidget* target() {
     if (QWidget* focus = QApplication::focusWidget()) return focus;
-    return QApplication::activeModalWidget() ? QApplication::activeModalWidget()
-                                             : QApplication::activeWindow();
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == "frame") return window;
+    return nullptr;
 }
 
 void press(const std::string& name) {
@@ -102,7 +104,8 @@ void Desk::watch() {
         } else if (!modal_work_.empty()) {
             const auto work = modal_work_.front();
             modal_work_.erase(modal_work_.begin());
-            work();
+            // Not from inside the timer: what stands up meanwhile has to be answered too.
+            QTimer::singleShot(0, modal, work);
         }
     });
     timer->start(look_every);
