@@ -159,7 +159,8 @@ void MainWindow::follow_active() {
     FormView* front = view_in_front();
     if (!active || active->IsModal() || (front && front->form() == active)) return;
     for (int i = 1; i < pages_->count(); ++i)
-        if (static_cast<FormView*>(pages_->widget(i))->form() == active && tabs_->currentIndex() > 0)
+        if (static_cast<FormView*>(pages_->widget(i))->form() == active &&
+            tabs_->currentIndex() > 0)
             tabs_->setCurrentIndex(i);
 }
 

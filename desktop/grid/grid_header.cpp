@@ -24,7 +24,7 @@ GridHeader::GridHeader(host::TDBGridEh& grid, QWidget* parent)
 }
 
 const host::GridColumn* GridHeader::column_at(int logical) const {
-    if (logical < 0 || logical >= static_cast<int>(grid_->Columns.size())) return nullptr;
+    if (!grid_ || logical < 0 || logical >= static_cast<int>(grid_->Columns.size())) return nullptr;
     return &grid_->Columns[static_cast<std::size_t>(logical)];
 }
 
@@ -45,7 +45,7 @@ QString GridHeader::lower(int logical) const {
 }
 
 int GridHeader::levels() const {
-    for (int i = 0; i < static_cast<int>(grid_->Columns.size()); ++i)
+    for (int i = 0; grid_ && i < static_cast<int>(grid_->Columns.size()); ++i)
         if (!isSectionHidden(i) && !upper(i).isEmpty()) return 2;
     return 1;
 }

@@ -13,6 +13,7 @@ public:
     QSize sizeHint() const override;
     // The width below which the title of a column would be cut.
     int needed_width(int column) const;
+    void detach() { grid_ = nullptr; } // the grid goes before its header
     // The column is the last of a group of columns with one upper title.
     bool closes_group(int column) const;
 

@@ -95,11 +95,10 @@ void GridModel::cursor_moved(int) {
     if (on_cursor) on_cursor();
 }
 
+// The form is being destroyed and its grid may be gone already: nothing may look at it now.
 void GridModel::dataset_gone() {
-    beginResetModel();
     dataset_ = nullptr;
     rows_ = 0;
-    endResetModel();
 }
 
 } // namespace desktop

@@ -78,6 +78,7 @@ GridView::~GridView() { delete popup_.data(); }
 
 void GridView::detach() {
     grid_ = nullptr;
+    header_->detach();
     editor_->hide();
     popup_->hide();
     model_->detach();

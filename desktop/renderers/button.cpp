@@ -9,14 +9,16 @@ namespace desktop {
 QWidget* draw_button(host::TButton& button, FormView& view) {
     auto* widget = new HintedButton(&view, ButtonLook::Plain);
     view.claim(widget, button);
-    view.set_own_keys(button,
-                      [](const host::Key& key) { return own_when(key.code == host::KeyCode::Space); });
+    view.set_own_keys(
+        button, [](const host::Key& key) { return own_when(key.code == host::KeyCode::Space); });
     view.listen(button, [widget, &button] {
         QString caption = qt(button.Caption.get());
         QString hint = qt(button.KeyHint);
         // A caption that already ends with its key ("登帐 F2") shows it once.
         if (!hint.isEmpty() && caption.endsWith(" " + hint)) caption.chop(hint.size() + 1);
-        widget->set_look(button.Default ? ButtonLook::Primary : ButtonLook::Plain);
+        // The button that does what the dialog is for stands out, also where Enter goes on instead.
+        const bool filled = button.Default || button.Name() == "btn_ok";
+        widget->set_look(filled ? ButtonLook::Primary : ButtonLook::Plain);
         widget->set_drawing(button.Icon);
         widget->set_texts(caption, hint);
         widget->setToolTip(qt(button.Hint.get()));

@@ -10,7 +10,8 @@ namespace desktop {
 QWidget* draw_check_box(host::TCheckBox& box, FormView& view) {
     auto* widget = new QCheckBox(&view);
     view.claim(widget, box);
-    view.set_own_keys(box, [](const host::Key& key) { return own_when(key.code == host::KeyCode::Space); });
+    view.set_own_keys(
+        box, [](const host::Key& key) { return own_when(key.code == host::KeyCode::Space); });
     view.listen(box, [widget, &box] {
         widget->setText(qt(box.Caption.get()));
         widget->setChecked(box.Checked);

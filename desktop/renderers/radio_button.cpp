@@ -11,8 +11,8 @@ QWidget* draw_radio_button(host::TRadioButton& button, FormView& view) {
     auto* widget = new QRadioButton(&view);
     widget->setAutoExclusive(false);
     view.claim(widget, button);
-    view.set_own_keys(button,
-                      [](const host::Key& key) { return own_when(key.code == host::KeyCode::Space); });
+    view.set_own_keys(
+        button, [](const host::Key& key) { return own_when(key.code == host::KeyCode::Space); });
     view.listen(button, [widget, &button] {
         widget->setText(qt(button.Caption.get()));
         widget->setChecked(button.Checked);

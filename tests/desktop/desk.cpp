@@ -57,7 +57,8 @@ Desk::Desk(std::function<void(int)> open) {
     host.ui = &interface_;
     data.answer("SELECT ID,PARAM FROM D6600", {"ID int", "PARAM text"},
                 {{"1", "2014-01"}, {"2", "2016-06"}});
-    data.answer("SELECT COUNT(*) AS N", {"N int", "U int", "P int", "S int"}, {{"38", "3", "5", "0"}});
+    data.answer("SELECT COUNT(*) AS N", {"N int", "U int", "P int", "S int"},
+                {{"38", "3", "5", "0"}});
     data.answer("SELECT PZZ,COUNT(*)", {"PZZ text", "N int", "M int"}, {{"记", "38", "38"}});
     data.answer("SELECT V.KM_ID", {"KM_ID text", "KM_NAME text", "O money", "I money", "E money"},
                 {{"1001", "现金", "6107.20", "15616.00", "14032.90"},

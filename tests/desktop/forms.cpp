@@ -183,8 +183,9 @@ TListForm::TListForm(int rows, TForm* parent) : TForm(parent) {
     };
     Act_Refresh.OnExecute = [this] { ++refreshed; };
     Act_Quit.OnExecute = [this] { Close(); };
-    layout = Rows({ToolBar({&Act_Add, &Act_Modify, nullptr, &Act_Refresh, nullptr, &Act_Quit}),
-                   Columns({Control(ConditionLabel), Spring(), Control(Balanced)}), Rest(DBGridEh)});
+    layout =
+        Rows({ToolBar({&Act_Add, &Act_Modify, nullptr, &Act_Refresh, nullptr, &Act_Quit}),
+              Columns({Control(ConditionLabel), Spring(), Control(Balanced)}), Rest(DBGridEh)});
 }
 
 TDialogForm::TDialogForm(TForm* parent) : TForm(parent) {
@@ -210,7 +211,8 @@ TDialogForm::TDialogForm(TForm* parent) : TForm(parent) {
     btn_Cancel.Cancel = true;
     btn_Cancel.KeyHint = "Esc";
     btn_Cancel.ModalResult = mrCancel;
-    layout = Rows({Field("代    号", Code, 10), Columns({Field("会计年度:", Year, 8), Text("2000 – 2099")}),
+    layout = Rows({Field("代    号", Code, 10),
+                   Columns({Field("会计年度:", Year, 8), Text("2000 – 2099")}),
                    Field("会计期间:", Month, 8), Field("科目代码:", Account, 8),
                    Group("余额方向", {Columns({Control(Debit), Control(Credit), Spring()})}),
                    Control(Cash), Rule(), Text("帐套启用日期 2014-01    当前会计期间 2016-06"),
@@ -228,7 +230,8 @@ TTreeForm::TTreeForm(TForm* parent) : TForm(parent) {
     Tree.AddRoot("1131 应收帐款");
     Tree.Select(bank);
     Act_Quit.OnExecute = [this] { Close(); };
-    layout = Rows({ToolBar({&Act_Quit}), Columns({Control(One), Control(Two), Spring()}), Rest(Tree)});
+    layout =
+        Rows({ToolBar({&Act_Quit}), Columns({Control(One), Control(Two), Spring()}), Rest(Tree)});
 }
 
 } // namespace tests
