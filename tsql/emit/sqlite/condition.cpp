@@ -29,8 +29,14 @@ std::string Emitter::exact_comparison(const BoundPtr& left, const BoundPtr& righ
                                       const std::string& op) {
     const int left_scale = left->type.stored_scale();
     const int right_scale = right->type.stored_scale();
-    Fragment a = value_of(left);
-    Fragment b = value_of(right);
+    // A literal's own form is not asked for when it is about to be fitted to the other side.
+    const bool fits_right = is_number_literal(right) && right_scale <= left_scale &&
+                            as_decimal(right->type).precision + left_scale <= 18 &&
+                            right_scale < left_scale;
+    const bool fits_left = !fits_right && is_number_literal(left) && left_scale < right_scale &&
+                           as_decimal(left->type).precision + right_scale <= 18;
+    Fragment a = fits_left ? Fragment{} : value_of(left);
+    Fragment b = fits_right ? Fragment{} : value_of(right);
     const auto fitted = [&](const BoundPtr& number, const Fragment& other, int scale) {
         const int whole = as_decimal(number->type).precision - number->type.stored_scale();
         const Type to = other.form == Form::Wide
@@ -38,14 +44,10 @@ std::string Emitter::exact_comparison(const BoundPtr& left, const BoundPtr& righ
                             : Type::decimal(std::min(18, whole + scale), scale);
         return literal(static_cast<const BoundLiteral&>(*number), to, Conversion::Cast, 0);
     };
-    if (is_number_literal(right) && right_scale <= left_scale &&
-        as_decimal(right->type).precision + left_scale <= 18 &&
-        (right_scale < left_scale || a.form == Form::Wide)) {
+    if (fits_right) {
         return a.text + op + fitted(right, a, left_scale).text;
     }
-    if (is_number_literal(left) && left_scale <= right_scale &&
-        as_decimal(left->type).precision + right_scale <= 18 &&
-        (left_scale < right_scale || b.form == Form::Wide)) {
+    if (fits_left) {
         return fitted(left, b, right_scale).text + op + b.text;
     }
     if (a.form == b.form && left_scale == right_scale) {

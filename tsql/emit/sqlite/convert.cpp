@@ -59,7 +59,7 @@ Fragment Emitter::exact_to_exact(Fragment value, const Type& from, const Type& t
         result.text = cast_call("zf_cast", value.text, from, to, 0);
         return result;
     }
-    if (value.bound * power_of_ten(up) >= narrow_limit) {
+    if (up > 0 && value.bound * power_of_ten(up) >= narrow_limit) {
         return plain(cast_call("zf_cast", value.text, from, to, 0), to);
     }
     Fragment result = rescaled(std::move(value), from.stored_scale(), to.stored_scale());
@@ -130,6 +130,14 @@ Fragment Emitter::convert(const BoundConvert& node) {
     const bool safe = conditional_ == 0 || !operand.type.is_text() || node.type.is_text();
     if (operand.kind == BoundKind::Literal && node.mode != ConvertMode::Try && safe) {
         const auto how = node.mode == ConvertMode::Assign ? Conversion::Assign : Conversion::Cast;
+        // A small number written down beside a wide decimal stays narrow: what stands beside it
+        // often is a sum, which is INTEGER, too.
+        const int whole = as_decimal(operand.type).precision - operand.type.stored_scale();
+        if (form_of(node.type) == Form::Wide && operand.type.is_exact() &&
+            how == Conversion::Cast && whole + node.type.scale <= 18) {
+            return literal(static_cast<const BoundLiteral&>(operand),
+                           Type::decimal(18, node.type.scale), how, node.style);
+        }
         return literal(static_cast<const BoundLiteral&>(operand), node.type, how, node.style);
     }
     if (operand.kind == BoundKind::Value && conditional_ == 0 && node.mode != ConvertMode::Try) {

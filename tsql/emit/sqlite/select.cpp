@@ -96,8 +96,6 @@ std::string Emitter::select_text(const BoundSelect& select, const BoundQuery* ow
         text += order_text(*owner, &select, sets > 1);
     }
     if (select.top && select.top->percent) {
-        std::vector<ColumnForm> ignored;
-        BoundQuery bare;
         return text + " LIMIT zf_percent(" + value_of(select.top->count).text +
                ",(SELECT count(*) FROM (" +
                list_text(parts[0].items, select, select.distinct, true) + parts[0].tail + ")))";
