@@ -47,7 +47,7 @@ SqliteSession::SqliteSession(const std::string& books, const OpenOptions& option
 void SqliteSession::refresh_catalog() {
     const std::int64_t version = objects_.version();
     if (version == known_version_) return;
-    objects_.load(catalog_);
+    if (version != objects_.saved_version()) objects_.load(catalog_);
     known_version_ = version;
 }
 

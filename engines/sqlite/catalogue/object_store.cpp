@@ -79,7 +79,11 @@ void ObjectStore::save(const tsql::CatalogChange& change) {
         bind_text(put.get(), 3, stored.definition);
         run(connection_, put.get());
     }
-    run_text(connection_, "UPDATE zf_counter SET value = value + 1 WHERE name = ''");
+    // By chance rather than by counting, so that a number undone and given again by another
+    // connection is not taken for one's own.
+    sqlite3_randomness(sizeof saved_version_, &saved_version_);
+    run_text(connection_, "UPDATE zf_counter SET value = " + std::to_string(saved_version_) +
+                              " WHERE name = ''");
 }
 
 std::int64_t ObjectStore::version() {

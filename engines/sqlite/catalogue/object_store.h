@@ -18,12 +18,16 @@ public:
     void load(tsql::Catalog& catalog);
     // Writes what a definition changed; inside the transaction of the definition.
     void save(const tsql::CatalogChange& change);
-    // Grows with every definition, by whichever connection; tells whether a catalogue is stale.
+    // Another number after every definition, by whichever connection; tells whether a catalogue is
+    // stale.
     std::int64_t version();
+    // The number of this connection's last definition, which its own catalogue knows.
+    std::int64_t saved_version() const { return saved_version_; }
 
 private:
     sqlite3* connection_;
     StatementHandle version_;
+    std::int64_t saved_version_ = 0;
 };
 
 } // namespace engines

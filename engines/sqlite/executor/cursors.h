@@ -15,6 +15,8 @@ namespace engines {
 struct Cursor {
     std::shared_ptr<const void> owner; // keeps the query alive
     const tsql::SqlQuery* query = nullptr;
+    const tsql::Plan* plan = nullptr; // the one that declared it
+    tsql::LiteralValues literals;     // of the text that declared it
     bool open = false;
     std::vector<std::vector<TypedValue>> rows;
     std::int64_t place = -1; // row last fetched; -1 before the first

@@ -78,7 +78,8 @@ private:
     bool propagates() const { return catchers_ > 0; }
 
     // run_query.cpp
-    std::int64_t run_query(const tsql::SqlQuery& query, RowSink& sink);
+    std::int64_t run_query(const tsql::SqlText& text, std::span<const tsql::PlanColumn> columns,
+                           RowSink& sink);
     // Runs a text that gives no rows wanted and returns the rows it changed.
     std::int64_t run_text(const tsql::SqlText& text, StatementVerb verb);
     // The single cell of a text, null when there is no row.

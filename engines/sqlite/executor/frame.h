@@ -28,6 +28,7 @@ struct Frame {
     std::string trigger;   // of a trigger its name
     const std::vector<int>* updated_columns = nullptr;
     std::optional<std::int64_t> scope_identity;
+    tsql::Type return_type = tsql::Type::integer(); // of a scalar function; a procedure gives int
     OwnedValue return_value;
     std::vector<std::string> temporary_tables;    // made here, go with the frame
     const std::vector<TypedValue>* row = nullptr; // of INSERT … EXEC

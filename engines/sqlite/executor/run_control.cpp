@@ -23,12 +23,7 @@ Flow Executor::loop(const tsql::WhileStep& step) {
 }
 
 Flow Executor::leave(const tsql::ReturnStep& step) {
-    if (step.value) {
-        const auto routine = parts_.compiler.routine(frame_->routine);
-        const bool scalar = routine && !routine->return_type.is_null();
-        frame_->return_value =
-            cell_of_text(*step.value, scalar ? routine->return_type : tsql::Type::integer());
-    }
+    if (step.value) frame_->return_value = cell_of_text(*step.value, frame_->return_type);
     return Flow::leave_routine;
 }
 

@@ -36,6 +36,8 @@ Flow Executor::declare_cursor(const tsql::DeclareCursorStep& step) {
     Cursor cursor;
     cursor.owner = frame_->owner;
     cursor.query = &step.query;
+    cursor.plan = frame_->plan;
+    cursor.literals = *frame_->literals;
     cursors_.emplace(step.name, std::move(cursor));
     return Flow::next;
 }
@@ -44,7 +46,15 @@ Flow Executor::open_cursor(const tsql::OpenCursorStep& step) {
     Cursor& cursor = cursor_named(cursors_, step.name);
     if (cursor.open) raise_error(16905, "The cursor is already open.");
     KeepingSink kept;
-    run_query(*cursor.query, kept);
+    {
+        // The query belongs to the text that declared the cursor, the variables to this one.
+        Frame declared = *frame_;
+        declared.owner = cursor.owner;
+        declared.literals = &cursor.literals;
+        declared.plan = cursor.plan;
+        const FrameScope scope(frame_, declared);
+        run_query(cursor.query->sql, cursor.query->columns, kept);
+    }
     cursor.rows = std::move(kept.rows);
     cursor.place = -1;
     cursor.open = true;

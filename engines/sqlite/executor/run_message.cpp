@@ -73,7 +73,7 @@ Flow Executor::print(const tsql::PrintStep& step) {
 
 Flow Executor::raise_error_step(const tsql::RaiseErrorStep& step) {
     KeepingSink kept;
-    run_query({step.values, step.columns}, kept);
+    run_query(step.values, step.columns, kept);
     const std::vector<TypedValue>& row = kept.rows.at(0);
     std::vector<std::string> arguments;
     for (std::size_t i = 3; i < row.size(); ++i)
@@ -107,7 +107,7 @@ Flow Executor::throw_step(const tsql::ThrowStep& step) {
     const std::vector<tsql::PlanColumn> columns{{"", tsql::Type::integer(), true},
                                                 {"", tsql::Type::nvarchar(2048), true},
                                                 {"", tsql::Type::integer(), true}};
-    run_query({*step.values, columns}, kept);
+    run_query(*step.values, columns, kept);
     const std::vector<TypedValue>& row = kept.rows.at(0);
     throw Failure(user_error(number_of_cell(row, 0, 50000), text_of_cell(row[1]), 16,
                              number_of_cell(row, 2, 1)));

@@ -63,12 +63,13 @@ Stored Executor::parameter_value(const tsql::PlanParameter& parameter, tsql::Typ
     }
 }
 
-std::int64_t Executor::run_query(const tsql::SqlQuery& query, RowSink& sink) {
-    const StatementLease lease = parts_.statements.lease(query.sql, frame_->owner);
-    bind(lease.get(), query.sql);
+std::int64_t Executor::run_query(const tsql::SqlText& text,
+                                 std::span<const tsql::PlanColumn> columns, RowSink& sink) {
+    const StatementLease lease = parts_.statements.lease(text, frame_->owner);
+    bind(lease.get(), text);
     std::int64_t rows = 0;
     int code = step(lease.get(), StatementVerb::other);
-    sink.begin(query.columns);
+    sink.begin(columns);
     for (; code == SQLITE_ROW; code = step(lease.get(), StatementVerb::other)) {
         ++rows;
         if (!sink.row(lease.get())) break;
@@ -103,7 +104,7 @@ bool Executor::is_true(const tsql::SqlText& condition) {
 }
 
 Flow Executor::query(const tsql::SqlQuery& query) {
-    row_count_ = run_query(query, sink());
+    row_count_ = run_query(query.sql, query.columns, sink());
     last_error_ = 0;
     return Flow::next;
 }

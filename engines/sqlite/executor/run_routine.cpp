@@ -32,6 +32,7 @@ Frame Executor::frame_of(const std::shared_ptr<const tsql::CompiledRoutine>& rou
     frame.owner = routine;
     frame.plan = routine->plan.get();
     frame.literals = &routine->plan->constants;
+    if (!routine->return_type.is_null()) frame.return_type = routine->return_type;
     frame.variables.resize(std::max(routine->plan->variables.size(), routine->parameters.size()));
     frame.routine = routine->name.empty() ? "sp_executesql" : routine->name;
     return frame;
