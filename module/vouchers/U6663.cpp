@@ -72,6 +72,13 @@ void TF6663::remember_choice() {
 
 // ---- checking ----
 
+// Strict books keep what was posted; small firms may take it back.
+bool TF6663::books_are_strict() {
+    TClientDataSet mode;
+    opensql(mode, FunctionCode, "SELECT VALUE FROM SYS_SETTING WHERE NAME='mode'");
+    return !mode.IsEmpty() && mode.FieldByName("VALUE").AsText() == "strict";
+}
+
 // The last voucher is not looked at: a gap before it shows at the one that follows the gap.
 bool TF6663::numbers_run_on(const std::string& period) {
     TClientDataSet numbers;
@@ -98,6 +105,9 @@ void TF6663::btn_okClick(const TButton& sender) {
     const auto period = Period::parse(period_);
     if (!period) refuse("当前会计期间“" + period_ + "”不是年月!请检查会计科目初始。");
     const bool posting = &sender == &btn_ok;
+    if (!posting && books_are_strict()) {
+        refuse("本帐套按严格方式管理,不能反登帐!请用红字凭证更正。");
+    }
     const std::string batch = posting ? posting_batch(*period) : unposting_batch(*period);
     const std::string answer =
         ExecSql(FunctionCode, period_, "Edit", batch, 0, false, true, false, true);

@@ -28,6 +28,7 @@ private:
     void read_counts();
     void remember_choice();
     void restore_choice();
+    bool books_are_strict();
     bool numbers_run_on(const std::string& period);
     std::string period_;
 };

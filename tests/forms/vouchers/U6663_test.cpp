@@ -10,6 +10,7 @@ protected:
     void SetUp() override {
         answer_counts("2024-03", "2", "1");
         answer_numbers({"1", "2"});
+        data.answer("SELECT VALUE FROM SYS_SETTING WHERE NAME='mode'", {"VALUE text"}, {});
     }
     void answer_counts(const std::string& period, const std::string& to_post,
                        const std::string& not_audited) {
