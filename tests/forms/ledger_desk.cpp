@@ -3,16 +3,18 @@
 
 namespace tests {
 
-LedgerDesk::LedgerDesk(BooksOptions options)
-    : books(std::move(options)), anna(books.data(), books.person()) {}
+namespace {
 
-BooksOptions LedgerDesk::march(const std::string& scheme) {
+BooksOptions march() {
     BooksOptions options;
     options.start = "2024-03";
-    options.scheme = scheme;
     options.today = "2024-03-15";
     return options;
 }
+
+} // namespace
+
+LedgerDesk::LedgerDesk() : books(march()), anna(books.data(), books.person()) {}
 
 void LedgerDesk::new_voucher() {
     anna.open(661);

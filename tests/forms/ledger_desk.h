@@ -14,8 +14,7 @@ namespace tests {
 class LedgerDesk : public testing::Test {
 protected:
     using Cells = std::vector<std::pair<std::string, std::string>>;
-    explicit LedgerDesk(BooksOptions options = march());
-    static BooksOptions march(const std::string& scheme = "1");
+    LedgerDesk();
 
     void new_voucher(); // opens the list and a blank voucher
     // Types a debit and a credit of the amount and saves; the form is ready for the next voucher.
