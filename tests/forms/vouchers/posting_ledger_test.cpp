@@ -75,8 +75,8 @@ TEST_F(PostingLedger, unposting_leaves_audit_and_carry_forward_marks) {
 }
 
 TEST_F(PostingLedger, opening_balances_come_from_the_period_before) {
-    books.execute("INSERT INTO D6602 (QJ,KM_ID,INX,J,D) VALUES ('2024-02','1001',1,70,0);"
-                  "INSERT INTO D6602 (QJ,KM_ID,INX,J,D) VALUES ('2024-02','3101',1,0,70)");
+    books.execute("UPDATE D6602 SET J=70 WHERE QJ='2024-02' AND KM_ID='1001' AND INX=1;"
+                  "UPDATE D6602 SET D=70 WHERE QJ='2024-02' AND KM_ID='3101' AND INX=1");
     new_voucher();
     save_voucher("1131", "1001", "100");
     audit_all();
