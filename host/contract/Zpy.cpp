@@ -7,6 +7,7 @@
 #include <memory>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "host/values/text.h"
 
@@ -58,11 +59,23 @@ char initial_of(char32_t character) {
     return known[character] = letter ? static_cast<char>(first) : '\0';
 }
 
+// Readings by their first character: lists of a million rows are searched by ear.
+const std::unordered_map<char32_t, std::vector<const Reading*>>& readings_by_character() {
+    static const auto index = [] {
+        std::unordered_map<char32_t, std::vector<const Reading*>> made;
+        for (const Reading& reading : readings) made[reading.word[0]].push_back(&reading);
+        return made;
+    }();
+    return index;
+}
+
 const Reading* reading_at(std::u32string_view text) {
+    const auto candidates = readings_by_character().find(text[0]);
+    if (candidates == readings_by_character().end()) return nullptr;
     const Reading* best = nullptr;
-    for (const Reading& reading : readings) {
-        if (best != nullptr && reading.word.size() <= best->word.size()) continue;
-        if (text.substr(0, reading.word.size()) == reading.word) best = &reading;
+    for (const Reading* reading : candidates->second) {
+        if (best != nullptr && reading->word.size() <= best->word.size()) continue;
+        if (text.substr(0, reading->word.size()) == reading->word) best = reading;
     }
     return best;
 }

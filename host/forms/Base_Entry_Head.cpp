@@ -13,6 +13,23 @@
 
 namespace host {
 
+namespace {
+
+// While the cursor only passes by, the lines of a head are not read.
+class LinesHeld {
+public:
+    explicit LinesHeld(bool& held) : held_(held), before_(held) { held_ = true; }
+    ~LinesHeld() { held_ = before_; }
+    LinesHeld(const LinesHeld&) = delete;
+    LinesHeld& operator=(const LinesHeld&) = delete;
+
+private:
+    bool& held_;
+    const bool before_;
+};
+
+} // namespace
+
 TFrm_Base_Entry_Head::TFrm_Base_Entry_Head(TForm* parent) : TFrm_Base_Panel(parent) {
     hide({&Act_Save, &Act_Other});
     DBGridEh.ReadOnly = true;
@@ -44,15 +61,19 @@ void TFrm_Base_Entry_Head::InitForm(const Trecord& record) {
 
 void TFrm_Base_Entry_Head::GetData() {
     const std::string key = current_key(AdoQry_Main, Settings.key_field);
-    opensql(AdoQry_Main, FunctionCode,
-            Settings.head_query + (Condition.empty() ? "" : " WHERE " + Condition) +
-                Settings.head_order);
-    return_to_key(AdoQry_Main, Settings.key_field, key);
+    {
+        const LinesHeld held(lines_held_);
+        opensql(AdoQry_Main, FunctionCode,
+                Settings.head_query + (Condition.empty() ? "" : " WHERE " + Condition) +
+                    Settings.head_order);
+        return_to_key(AdoQry_Main, Settings.key_field, key);
+    }
     lines_of_.clear();
     LoadLines();
 }
 
 void TFrm_Base_Entry_Head::LoadLines() {
+    if (lines_held_) return;
     const std::string key = current_key(AdoQry_Main, Settings.key_field);
     if (key.empty()) {
         lines_of_.clear();
@@ -87,9 +108,12 @@ void TFrm_Base_Entry_Head::document_saved(const std::string& key) {
     const Tfrm_Base_Entry_Body* body = EntryForm();
     const bool changed = body != nullptr && body->Mode == "Edit";
     if (!AdoQry_Main.Active()) return;
-    if (!changed || !return_to_key(AdoQry_Main, Settings.key_field, body->Key))
-        AdoQry_Main.Append();
-    refresh_row(key);
+    {
+        const LinesHeld held(lines_held_);
+        if (!changed || !return_to_key(AdoQry_Main, Settings.key_field, body->Key))
+            AdoQry_Main.Append();
+        refresh_row(key);
+    }
     lines_of_.clear();
     LoadLines();
 }

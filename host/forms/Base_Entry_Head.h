@@ -71,6 +71,7 @@ private:
     void document_saved(const std::string& key); // adds or renews its row
     bool current_document_still_there();
     void write_audit(bool audit);
+    bool lines_held_ = false;
     std::string lines_of_; // key of the document whose lines are shown
 };
 

@@ -116,6 +116,10 @@ TEST_F(Entry, the_list_shows_its_documents_and_the_lines_of_the_current_one_at_o
     EXPECT_EQ(list.AdoQry_Line.FieldByName("ZY").AsText(), "付款");
     list.AdoQry_Main.GotoRow(2);
     EXPECT_EQ(desk.data.queries().back(), "SELECT lines 'k3'");
+    const std::size_t before = desk.data.queries().size();
+    tests::press(list, "F5"); // the heads and the lines of the current one, once each
+    EXPECT_EQ(desk.data.queries().size(), before + 2);
+    EXPECT_EQ(desk.data.queries().back(), "SELECT lines 'k3'");
 }
 
 TEST_F(Entry, a_saved_document_joins_the_list_and_the_form_is_ready_for_the_next) {
