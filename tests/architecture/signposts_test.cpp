@@ -45,6 +45,15 @@ bool mentions(const SourceFile& build_file, const std::string& source) {
     return false;
 }
 
+// A source that another folder's test borrows.
+bool listed_by_full_path(const SourceFile& file) {
+    const auto& files = repository();
+    return std::any_of(files.begin(), files.end(), [&](const SourceFile& build) {
+        return build.name() == "CMakeLists.txt" &&
+               mentions(build, "${CMAKE_SOURCE_DIR}/" + file.path);
+    });
+}
+
 } // namespace
 
 TEST(Signposts, every_source_opens_with_a_line_that_says_its_job) {
@@ -68,7 +77,7 @@ TEST(Signposts, every_source_is_listed_in_the_build) {
         const bool listed = std::any_of(above.begin(), above.end(), [&](const SourceFile* build) {
             return mentions(*build, file.path.substr(build->directory().size() + 1));
         });
-        if (!listed) offences.add(file.path);
+        if (!listed && !listed_by_full_path(file)) offences.add(file.path);
     }
 }
 
@@ -88,8 +97,7 @@ TEST(Signposts, folders_of_the_first_two_levels_have_a_short_readme) {
         const auto readme = readmes.find(folder);
         if (readme == readmes.end()) {
             offences.add(folder + "/README.md is missing");
-        } else if (readme->second->lines.size() > longest_readme &&
-                   !folder.starts_with("module")) {
+        } else if (readme->second->lines.size() > longest_readme && !folder.starts_with("module")) {
             offences.add(folder + "/README.md has more than " + std::to_string(longest_readme) +
                          " lines");
         }
