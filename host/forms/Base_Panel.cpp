@@ -1,7 +1,6 @@
 // Forms with a main grid: actions, columns, colours.
 #include "host/forms/Base_Panel.h"
 
-#include "host/forms/parts/column_memory.h"
 #include "host/forms/parts/grid_export.h"
 #include "host/ports/host.h"
 
@@ -47,25 +46,6 @@ TFrm_Base_Panel::TFrm_Base_Panel(TForm* parent) : TFrm_Base_Common(parent) {
 
 void TFrm_Base_Panel::hide(std::initializer_list<TAction*> actions) {
     for (TAction* action : actions) action->Visible = false;
-}
-
-std::vector<TDBGridEh*> TFrm_Base_Panel::grids() const {
-    std::vector<TDBGridEh*> found;
-    for (TComponent* part : components())
-        if (auto* grid = dynamic_cast<TDBGridEh*>(part)) found.push_back(grid);
-    return found;
-}
-
-void TFrm_Base_Panel::FormShow() {
-    TFrm_Base_Common::FormShow();
-    if (columns_restored_) return;
-    columns_restored_ = true;
-    for (TDBGridEh* grid : grids()) restore_columns(*grid);
-}
-
-void TFrm_Base_Panel::FormClose() {
-    for (const TDBGridEh* grid : grids()) keep_columns(*grid);
-    TFrm_Base_Common::FormClose();
 }
 
 void TFrm_Base_Panel::SetFloatText(TField& field, const std::string& typed) {

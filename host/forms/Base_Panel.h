@@ -57,13 +57,7 @@ protected:
     // Negative values of columns with the tag 9 are red; forms extend it.
     virtual void DBGridEhGetCellParams(TField& field, CellParams& params);
     void FormKeyDown(Key& key) override;
-    void FormShow() override;  // columns as the person left them last time
-    void FormClose() override; // and kept for the next
     static void hide(std::initializer_list<TAction*> actions);
-    std::vector<TDBGridEh*> grids() const;
-
-private:
-    bool columns_restored_ = false;
 };
 
 } // namespace host

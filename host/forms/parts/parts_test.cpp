@@ -1,8 +1,6 @@
 // What base forms share: date ranges, locks, audits, deletes, search, export, columns.
-#include "host/contract/U_glo.h"
 #include "host/controls/grid.h"
 #include "host/forms/Base_Entry_Head.h"
-#include "host/forms/parts/column_memory.h"
 #include "host/forms/parts/date_ranges.h"
 #include "host/forms/parts/delete_guard.h"
 #include "host/forms/parts/document_audit.h"
@@ -204,24 +202,6 @@ TEST_F(Parts, an_export_that_cannot_be_written_is_said) {
     desk.ui.file = "/no/such/folder/a.csv";
     export_grid(form.Grid, "科目");
     EXPECT_NE(desk.ui.last_message().find("不能写入"), std::string::npos);
-}
-
-TEST_F(Parts, columns_keep_order_and_width_until_the_form_has_others) {
-    {
-        TSheet form;
-        std::swap(form.Grid.Columns[0], form.Grid.Columns[1]);
-        form.Grid.Columns[0].Width = 33;
-        keep_columns(form.Grid);
-    }
-    TSheet form;
-    restore_columns(form.Grid);
-    EXPECT_EQ(form.Grid.Columns[0].FieldName, "J");
-    EXPECT_EQ(form.Grid.Columns[0].Width, 33);
-    TSheet other;
-    other.Grid.Columns.pop_back();
-    restore_columns(other.Grid);
-    EXPECT_EQ(other.Grid.Columns[0].FieldName, "KM_ID");
-    EXPECT_EQ(other.Grid.Columns[0].Width, 10);
 }
 
 } // namespace host
