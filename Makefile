@@ -29,7 +29,7 @@ test-sanitized: packages
 	@ctest --test-dir build-asan --output-on-failure
 
 bench: build
-	@$(BUILD)/zf_bench
+	@$(BUILD)/zf_bench $(BUILD)
 
 format:
 	@git ls-files '*.cpp' '*.h' | xargs clang-format -i
