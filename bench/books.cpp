@@ -47,8 +47,9 @@ std::int64_t days_since_1900(host::Date day) { return day - *host::Date::of(1900
 
 void write_accounts(hand::Connection& connection, const std::vector<Account>& accounts) {
     hand::Statement insert(connection,
-                           "INSERT INTO D6801 (KM_ID,KM_NAME,KM_NAME2,FX,OID,PYM,KM_FL,KM_J,KM_K) "
-                           "VALUES (?1,?1,?1,?2,?3,?1,1,?4,0)");
+                           "INSERT INTO D6801 (KM_ID,KM_NAME,KM_NAME2,FX,OID,PYM,KM_FL,KM_J,KM_K,"
+                           "BEGIN1,BEGIN2,BEGIN3,BEGIN4,BEGIN5) "
+                           "VALUES (?1,?1,?1,?2,?3,?1,1,?4,0,0,0,0,0,0)");
     for (const Account& account : accounts)
         insert.bind(1, account.code).bind(2, account.side).bind(3, account.parent)
             .bind(4, std::int64_t{account.level}).run();
@@ -59,14 +60,16 @@ public:
     VoucherWriter(hand::Connection& connection, const std::vector<std::string>& leaves)
         : head_(connection, "INSERT INTO D6601 (NOID,PZQJ,PZZ,PZZ_H,PZZ_Z,BDATE,USER_ID,T,D,T_SY) "
                             "VALUES (?1,?2,'记',?3,1,?4,'admin',1,?5,0)"),
-          line_(connection, "INSERT INTO D6601A (NOID,ZY,KM_ID,J,D,INX) VALUES (?1,?2,?3,?4,?5,?6)"),
+          line_(connection, "INSERT INTO D6601A (NOID,ZY,KM_ID,J,D,INX) "
+                            "VALUES (?1,?2,?3,?4,?5,?6)"),
           leaves_(leaves) {}
 
     void write(const host::Period& period, int number, bool posted) {
         char key[64];
         std::snprintf(key, sizeof key, "%s记%03d", period.to_text().c_str(), number);
         const int days = period.last_day() - period.first_day() + 1;
-        const host::Date day = period.first_day().plus_days((number * days) / (vouchers_a_period + 1));
+        const int passed = number * days / (vouchers_a_period + 1);
+        const host::Date day = period.first_day().plus_days(passed);
         head_.bind(1, key).bind(2, period.to_text()).bind(3, std::int64_t{number})
             .bind(4, days_since_1900(day) * ticks_a_day).bind(5, std::int64_t{posted}).run();
         // Four lines, now and then more: 40,700 lines a period.
@@ -94,8 +97,8 @@ private:
 // Closing balances of the posted periods: two rows an account, as posting leaves them.
 void write_balances(hand::Connection& connection, const host::Period& period) {
     hand::Statement insert(
-        connection, "INSERT INTO D6602 (QJ,KM_ID,INX,J,D,SY_J,SY_D) SELECT ?1, D6801.KM_ID, ?2, "
-                    "CASE FX WHEN '借' THEN 100000 ELSE 0 END,"
+        connection, "INSERT OR REPLACE INTO D6602 (QJ,KM_ID,INX,J,D,SY_J,SY_D) "
+                    "SELECT ?1, D6801.KM_ID, ?2, CASE FX WHEN '借' THEN 100000 ELSE 0 END,"
                     "CASE FX WHEN '借' THEN 0 ELSE 100000 END,0,0 FROM D6801");
     const std::string text = period.to_text();
     for (std::int64_t kind = 0; kind <= 1; ++kind) insert.bind(1, text).bind(2, kind).run();
@@ -127,7 +130,7 @@ void fill(const BigBooks& books, const std::vector<Account>& accounts, host::Per
     hand::Statement current(connection, "UPDATE D6600 SET PARAM=?1 WHERE ID=2");
     const std::string last = books.last.to_text();
     current.bind(1, last).run();
-    connection.run("COMMIT; ANALYZE; PRAGMA wal_checkpoint(TRUNCATE)");
+    connection.run("COMMIT; PRAGMA wal_checkpoint(TRUNCATE)");
 }
 
 } // namespace

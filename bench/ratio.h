@@ -14,7 +14,7 @@ double cpu_seconds();
 // greatest ratio, or the most processor milliseconds, that we allow ourselves; 0 means none.
 struct Row {
     std::string work;
-    double hand_ms = 0; // median processor milliseconds of the hand-written way; 0 when there is none
+    double hand_ms = 0; // median processor milliseconds of the hand-written way; 0: there is none
     double ours_ms = 0; // median of ours
     double budget_ratio = 0;
     double budget_ms = 0;

@@ -41,8 +41,9 @@ constexpr Reference references[] = {
 std::string query_of(const Reference& reference) {
     const std::string column = std::string("A.") + reference.column;
     return "SELECT DISTINCT '" + std::string(reference.says) + ":', " + column + " FROM " +
-           reference.table + " A WHERE " + column + " IS NOT NULL AND NOT EXISTS (SELECT * FROM " + reference.target +
-           " B WHERE B." + reference.key + " = " + column + ") ORDER BY " + column;
+           reference.table + " A WHERE " + column +
+           " IS NOT NULL AND NOT EXISTS (SELECT * FROM " + reference.target + " B WHERE B." +
+           reference.key + " = " + column + ") ORDER BY " + column;
 }
 
 } // namespace

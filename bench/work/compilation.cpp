@@ -29,7 +29,8 @@ void define_schema(tsql::Catalog& catalog) {
 
 std::string line_insert(int number) {
     return "INSERT INTO D6601A (NOID, ZY, KM_ID, J, D, INX)  VALUES ('2024-03记" +
-           std::to_string(number) + "','收到货款','1002','            100.00','              0.00',0);";
+           std::to_string(number) +
+           "','收到货款','1002','            100.00','              0.00',0);";
 }
 
 // A few statements of different shapes: what a form sends on an ordinary day.
@@ -69,7 +70,8 @@ std::vector<Row> compilation(const BigBooks& books) {
     int number = 0;
     Row cached = measure_ours("compiling a voucher line, cached", 9,
                               {[&] {
-                                  for (int i = 0; i < 1000; ++i) warm.compile(line_insert(++number));
+                                  for (int i = 0; i < 1000; ++i)
+                                      warm.compile(line_insert(++number));
                               }},
                               1000);
     cached.budget_ms = 0.010;

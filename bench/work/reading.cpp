@@ -63,7 +63,8 @@ std::vector<Row> voucher_list(const BigBooks& books) {
         " SELECT D6601.*, SYS_USER.USER_NAME FROM D6601 INNER JOIN   SYS_USER ON D6601.USER_ID = "
         "SYS_USER.USER_ID  where (D6601.BDATE>='" + period.first_day().to_text() +
         "') AND (D6601.BDATE<'" + period.last_day().plus_days(1).to_text() +
-        "') AND (D6601.PZZ_H>=0) AND (D6601.PZZ_H<=99999) ORDER BY D6601.PZQJ,D6601.PZZ,D6601.PZZ_H";
+        "') AND (D6601.PZZ_H>=0) AND (D6601.PZZ_H<=99999) "
+        "ORDER BY D6601.PZQJ,D6601.PZZ,D6601.PZZ_H";
     Row row = measure(in_books("voucher list of one month", books), 9,
                       {[&] { read_all(by_hand.bind(1, from).bind(2, to), 13); }},
                       {[&] { ours.read(query); }});

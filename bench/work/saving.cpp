@@ -32,7 +32,7 @@ std::string batch(const NextVoucher& voucher, const std::vector<std::string>& ac
     for (int i = 0; i < 4; ++i)
         text += "INSERT INTO D6601A (NOID, ZY, KM_ID, J, D, INX)  VALUES (" + quoted(key) +
                 ",'收到货款','" + accounts[(voucher.number + i) % accounts.size()] + "','" +
-                (i < 3 ? "            100.00','              0.00'," 
+                (i < 3 ? "            100.00','              0.00',"
                        : "              0.00','            300.00',") +
                 std::to_string(i) + ");";
     return text;
@@ -42,9 +42,10 @@ class HandSaver {
 public:
     explicit HandSaver(const std::string& file)
         : connection_(file),
-          head_(connection_, "INSERT INTO D6601 (NOID,PZQJ,PZZ,PZZ_H,PZZ_Z,BDATE,USER_ID) VALUES "
-                             "(?1,?2,?3,?4,1,?5,'admin')"),
-          line_(connection_, "INSERT INTO D6601A (NOID,ZY,KM_ID,J,D,INX) VALUES (?1,?2,?3,?4,?5,?6)"),
+          head_(connection_, "INSERT INTO D6601 (NOID,PZQJ,PZZ,PZZ_H,PZZ_Z,BDATE,USER_ID,"
+                             "T,D,T_SY) VALUES (?1,?2,?3,?4,1,?5,'admin',0,0,0)"),
+          line_(connection_, "INSERT INTO D6601A (NOID,ZY,KM_ID,J,D,INX) "
+                             "VALUES (?1,?2,?3,?4,?5,?6)"),
           last_(connection_, "SELECT ID, HASH FROM SYS_LOG ORDER BY ID DESC LIMIT 1"),
           log_(connection_, "INSERT INTO SYS_LOG (ID,LOG_TIME,USER_ID,FUNCTION_CODE,DOC_KEY,"
                             "OPERATION,DIGEST,HASH) VALUES (?1,?2,'admin','661',?3,'Add',?4,?5)") {}

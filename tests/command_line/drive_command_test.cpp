@@ -50,7 +50,8 @@ TEST_F(DriveCommand, a_password_is_taken_from_the_environment_and_a_wrong_one_is
     make("secret");
     const std::string quit = "{\"op\":\"quit\"}\n";
     EXPECT_EQ(run_program({"drive", books_}, quit, {{"ZHANGFANG_PASSWORD", "secret"}}).status, 0);
-    const ProgramRun wrong = run_program({"drive", books_}, quit, {{"ZHANGFANG_PASSWORD", "Secret"}});
+    const ProgramRun wrong =
+        run_program({"drive", books_}, quit, {{"ZHANGFANG_PASSWORD", "Secret"}});
     EXPECT_EQ(wrong.status, 1);
     EXPECT_NE(wrong.errors.find("用户名或密码不对"), std::string::npos) << wrong.errors;
     EXPECT_EQ(run_program({"drive", books_}, quit).status, 1);

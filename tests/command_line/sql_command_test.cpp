@@ -7,9 +7,10 @@
 namespace tests {
 
 TEST(SqlCommand, batches_go_to_an_empty_database_and_print_tables) {
-    const ProgramRun run = run_program({"sql", ":memory:"}, "CREATE TABLE T (A int, B nvarchar(5))\nGO\n"
-                                                     "INSERT INTO T VALUES (1, '现金')\nGO\n"
-                                                     "SELECT * FROM T\n");
+    const ProgramRun run = run_program({"sql", ":memory:"},
+                                       "CREATE TABLE T (A int, B nvarchar(5))\nGO\n"
+                                       "INSERT INTO T VALUES (1, '现金')\nGO\n"
+                                       "SELECT * FROM T\n");
     EXPECT_EQ(run.status, 0) << run.errors;
     EXPECT_NE(run.out.find("现金"), std::string::npos) << run.out;
 }
