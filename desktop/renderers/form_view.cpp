@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <utility>
+
 #include "desktop/renderers/key_bridge.h"
 #include "desktop/renderers/layout_builder.h"
 #include "host/forms/event_gate.h"
@@ -25,19 +27,20 @@ FormView::~FormView() { release(); }
 
 void FormView::release() {
     if (!form_) return;
+    // From here on nothing that Qt still sends reaches the form: its parts may be gone already.
+    host::TForm* const form = std::exchange(form_, nullptr);
     for (auto& action : release_actions_) action();
     release_actions_.clear();
     after_actions_.clear();
     // Parts that went before their form have dropped their listeners themselves.
-    const auto& alive = form_->components();
+    const auto& alive = form->components();
     for (auto& [component, handle] : handles_)
-        if (component == form_ || std::find(alive.begin(), alive.end(), component) != alive.end())
+        if (component == form || std::find(alive.begin(), alive.end(), component) != alive.end())
             component->forget(handle);
     handles_.clear();
     for (QObject* widget : control_of_.keys()) widget->removeEventFilter(this);
     control_of_.clear();
     claims_.clear();
-    form_ = nullptr;
     on_changed = nullptr;
     setEnabled(false);
 }
