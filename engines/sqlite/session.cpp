@@ -120,12 +120,19 @@ Outcome SqliteSession::execute_atomically(std::string_view batch, ResultReceiver
     if (!outcome.ok()) {
         const Outcome undone = guarded([&] {
             if (transactions_.lost() || transactions_.depth() == 0) return;
-            if (outer == 0 || !transactions_.rollback_to(mark)) transactions_.rollback();
+            if (outer > 0 && transactions_.rollback_to(mark))
+                transactions_.release(mark);
+            else
+                transactions_.rollback();
         });
         return outcome;
     }
-    if (outer > 0) return outcome;
-    const Outcome committed = guarded([&] { transactions_.commit(); });
+    const Outcome committed = guarded([&] {
+        if (outer > 0)
+            transactions_.release(mark);
+        else
+            transactions_.commit();
+    });
     if (!committed.ok()) {
         outcome.error = committed.error;
         receiver.error(*outcome.error);

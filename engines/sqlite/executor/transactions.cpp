@@ -97,6 +97,15 @@ bool Transactions::rollback_to(const std::string& name) {
     return false;
 }
 
+void Transactions::release(const std::string& name) {
+    for (std::size_t i = savepoints_.size(); i-- > 0;) {
+        if (!equal(savepoints_[i].name, name)) continue;
+        run_text(connection_, "RELEASE " + savepoint_name(savepoints_[i].number));
+        forget_savepoints(i);
+        return;
+    }
+}
+
 bool Transactions::lost() {
     if (depth_ == 0 || sqlite3_get_autocommit(connection_) == 0) return false;
     rollback();

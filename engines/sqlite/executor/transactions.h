@@ -35,6 +35,8 @@ public:
     void save(const std::string& name);
     // To a savepoint; false when there is none of that name.
     bool rollback_to(const std::string& name);
+    // Forgets a savepoint and keeps what was done since: open ones make every write dearer.
+    void release(const std::string& name);
     // Notices that SQLite undid the transaction by itself, as it does when the disk is full.
     bool lost();
 
