@@ -21,32 +21,20 @@ std::string beside_the_program() {
     return (program.parent_path() / library_name).string();
 }
 
-struct Opened {
-    host::ModuleEntry entry = nullptr;
-    std::string problem;
-};
-
-Opened open_library(const std::string& path) {
-    std::error_code ignored;
-    if (!fs::exists(path, ignored))
-        return {nullptr, "找不到财务模块 " + path + ",请重新安装本程序!"};
-    void* library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (library == nullptr)
-        return {nullptr, "财务模块 " + path + " 不能装入,请重新安装本程序! " + ::dlerror()};
-    void* entry = ::dlsym(library, entry_name);
-    if (entry == nullptr)
-        return {nullptr, "财务模块 " + path + " 没有入口 " + entry_name + ",请重新安装本程序!"};
-    return {reinterpret_cast<host::ModuleEntry>(entry), ""};
+[[noreturn]] void refuse(const std::string& what) {
+    throw Refusal(what + ",请重新安装本程序!");
 }
 
 } // namespace
 
-std::string loading_problem(const std::string& path) { return open_library(path).problem; }
-
 Module::Module(const std::string& path) {
-    const Opened opened = open_library(path);
-    if (!opened.problem.empty()) throw Refusal(opened.problem);
-    entry_ = opened.entry;
+    std::error_code ignored;
+    if (!fs::exists(path, ignored)) refuse("找不到财务模块 " + path);
+    void* library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (library == nullptr) refuse("财务模块 " + path + " 不能装入(" + ::dlerror() + ")");
+    void* entry = ::dlsym(library, entry_name);
+    if (entry == nullptr) refuse("财务模块 " + path + " 没有入口 " + entry_name);
+    entry_ = reinterpret_cast<host::ModuleEntry>(entry);
 }
 
 const Module& Module::loaded() {

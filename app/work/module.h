@@ -22,7 +22,4 @@ private:
     host::ModuleEntry entry_ = nullptr;
 };
 
-// A library of that path, for the message when it cannot be loaded: "" when it can.
-std::string loading_problem(const std::string& path);
-
 } // namespace app
