@@ -6,11 +6,9 @@
 #include "app/login/password_source.h"
 #include "app/work/module.h"
 #include "app/work/query_window.h"
+#include "app/work/run_driver.h"
 #include "app/work/workplace.h"
-#include "automation/drive/driver.h"
 #include "automation/drive/stream_lines.h"
-#include "host/forms/form.h"
-#include "host/ports/host.h"
 
 namespace app {
 
@@ -23,20 +21,13 @@ struct Wanted {
 };
 
 int drive(const Wanted& wanted) {
-    const Module& module = Module::loaded();
+    Module::loaded();
     Workplace work(wanted.books, wanted.today);
     work.log_in(wanted.user, [&] { return given_password("用户 " + wanted.user + " 的密码: "); });
     QueryWindow window(wanted.books, work.user().administrator, work.today());
     automation::StreamRequests requests(std::cin);
     automation::StreamAnswers answers(std::cout);
-    host::TForm* owner = nullptr;
-    automation::Driver driver(
-        {requests, answers, [&](const host::Trecord& record) { module.open(record, owner); },
-         &window});
-    host::the_host().ui = &driver;
-    host::TForm frame(nullptr); // owns the forms: they go before what they speak to
-    owner = &frame;
-    driver.run();
+    run_driver(requests, answers, &window);
     return 0;
 }
 

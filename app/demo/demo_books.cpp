@@ -11,13 +11,11 @@
 #include "app/demo/typed_story.h"
 #include "app/login/password.h"
 #include "app/refusal.h"
-#include "app/work/module.h"
+#include "app/work/run_driver.h"
 #include "app/work/scripted_person.h"
 #include "app/work/workplace.h"
 #include "automation/check/check.h"
-#include "automation/drive/driver.h"
 #include "automation/sql/collected_result.h"
-#include "host/ports/host.h"
 #include "host/values/sql_text.h"
 #include "schema/schema.h"
 
@@ -35,16 +33,10 @@ void create_empty(const std::string& books, const Story& story) {
 }
 
 void type_in(const std::string& books, const Story& story) {
-    const Module& module = Module::loaded();
     Workplace work(books, host::Date::parse(story.today));
     work.log_in("admin", [] { return std::optional<std::string>(); });
     ScriptedPerson person(typed(story));
-    automation::Driver driver({person, person, [&](const host::Trecord& record) {
-                                   module.open(record, nullptr);
-                               }});
-    host::the_host().ui = &driver;
-    driver.run();
-    host::the_host().ui = nullptr;
+    run_driver(person, person);
     if (!person.trouble().empty())
         throw Refusal("演示数据没有全部录入: " + person.trouble());
 }

@@ -5,11 +5,13 @@
 #include <filesystem>
 #include <unistd.h>
 
+#include "app/data/error_sentence.h"
 #include "app/demo/demo_books.h"
 #include "app/refusal.h"
 #include "app/work/module.h"
 #include "app/work/workplace.h"
 #include "desktop/desktop.h"
+#include "host/forms/form.h"
 
 namespace app {
 
@@ -61,13 +63,15 @@ host::Trecord menu_pick(int code) {
 }
 
 desktop::DesktopServices services_for(const DesktopWanted& wanted, const std::string& books,
-                                      Workplace& work, const Module& module) {
+                                      Workplace& work, host::TForm& frame) {
     desktop::DesktopServices services;
     services.books = [&work, books] {
         return desktop::BooksLabel{work.company(), work.user().name,
                                    fs::path(books).filename().string(), "本机"};
     };
-    services.open_function = [&module](int code) { module.open(menu_pick(code), nullptr); };
+    services.open_function = [&frame](int code) {
+        Module::loaded().open(menu_pick(code), &frame);
+    };
     services.log_in = [&work](const std::string& user, const std::string& password) {
         try {
             work.log_in(user, [&password] { return password; });
@@ -96,10 +100,11 @@ bool let_in_without_asking(Workplace& work, const std::string& user) {
 }
 
 int run_on(const DesktopWanted& wanted, const std::string& books, int argc, char** argv) {
-    const Module& module = Module::loaded();
+    Module::loaded();
     Workplace work(books, std::nullopt);
+    host::TForm frame(nullptr); // owns the forms: they go before the books are closed
     work.settings().write(settings_section, last_books, books);
-    desktop::DesktopServices services = services_for(wanted, books, work, module);
+    desktop::DesktopServices services = services_for(wanted, books, work, frame);
     if (let_in_without_asking(work, services.last_user)) services.log_in = nullptr;
     return desktop::run(argc, argv, services);
 }
@@ -114,6 +119,8 @@ int run_desktop(const DesktopWanted& wanted) {
         return run_on(wanted, books_to_open(wanted.books), 1, argv);
     } catch (const Refusal& refusal) {
         return desktop::show_failure(1, argv, refusal.what());
+    } catch (const engines::Failure& failure) {
+        return desktop::show_failure(1, argv, sentence_for(failure.error()));
     }
 }
 

@@ -3,12 +3,10 @@
 
 #include "app/login/password_source.h"
 #include "app/refusal.h"
-#include "app/work/module.h"
+#include "app/work/run_driver.h"
 #include "app/work/scripted_person.h"
 #include "app/work/workplace.h"
-#include "automation/drive/driver.h"
 #include "automation/sql/text_table.h"
-#include "host/ports/host.h"
 
 namespace app {
 
@@ -72,17 +70,11 @@ std::string current_period(engines::Session& session) {
 } // namespace
 
 void print_trial_balance(const std::string& books, int level, std::ostream& out) {
-    const Module& module = Module::loaded();
     Workplace work(books, std::nullopt);
     work.log_in("admin", [] { return given_password("用户 admin 的密码: "); });
     const std::string period = current_period(work.session());
     ScriptedPerson person(conditions(period, level));
-    automation::Driver driver({person, person, [&](const host::Trecord& record) {
-                                   module.open(record, nullptr);
-                               }});
-    host::the_host().ui = &driver;
-    driver.run();
-    host::the_host().ui = nullptr;
+    run_driver(person, person);
     if (!person.trouble().empty()) throw Refusal("试算平衡表没有打开: " + person.trouble());
     const json& rows = person.answer_to("rows").at("rows");
     const json& footer = person.answer_to("footer").at("footer");

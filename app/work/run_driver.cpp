@@ -1,0 +1,28 @@
+// A driver as the host's user interface, for as long as it has requests.
+#include "app/work/run_driver.h"
+
+#include "app/work/module.h"
+#include "automation/drive/driver.h"
+#include "host/forms/form.h"
+#include "host/ports/host.h"
+
+namespace app {
+
+void run_driver(automation::RequestLines& requests, automation::AnswerLines& answers,
+                automation::QueryPort* query) {
+    const Module& module = Module::loaded();
+    host::TForm* owner = nullptr;
+    automation::Driver driver(
+        {requests, answers, [&](const host::Trecord& record) { module.open(record, owner); },
+         query});
+    host::the_host().ui = &driver;
+    {
+        host::TForm frame(nullptr); // owns the forms: they go before what they speak to
+        owner = &frame;
+        driver.run();
+        host::release_closed_forms();
+    }
+    host::the_host().ui = nullptr;
+}
+
+} // namespace app
