@@ -46,6 +46,16 @@ void refuse_while_in_use(const std::string& books) {
             throw Refusal("帐套 " + books + " 正在被使用,请先关闭所有打开它的程序!");
 }
 
+// A backup may lie where nothing can be written. Elsewhere it is opened for writing, since a reader
+// leaves the companions behind.
+std::unique_ptr<engines::Session> open_backup(const std::string& file) {
+    try {
+        return open_books(file);
+    } catch (const Refusal&) {
+        return open_books(file, Access::ReadOnly);
+    }
+}
+
 void move_aside(const std::string& books, const std::string& aside) {
     std::error_code error;
     fs::rename(books, aside, error);
@@ -66,7 +76,7 @@ void backup_books(const std::string& books, const std::string& file) {
 std::string restore_books(const std::string& file, const std::string& books,
                           const std::string& moment) {
     require_file(books);
-    auto backup = open_books(file, Access::ReadOnly);
+    const auto backup = open_backup(file);
     std::error_code ignored;
     const bool replaces = fs::exists(books, ignored);
     if (replaces && fs::equivalent(file, books, ignored))

@@ -56,6 +56,7 @@ TEST_F(Backup, restoring_where_no_books_are_makes_them) {
     write(books_, "before");
     backup_books(books_, copy_);
     EXPECT_EQ(restore_books(copy_, folder_.file("new.zf"), "m"), "");
+    EXPECT_EQ(folder_.files(), 3u); // the books, the copy, the new books: nothing else is left
     EXPECT_TRUE(has(folder_.file("new.zf"), "before"));
 }
 
