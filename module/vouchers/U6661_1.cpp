@@ -14,6 +14,26 @@
 #include "module/vouchers/voucher_words.h"
 
 namespace module {
+namespace {
+
+std::string rows_in_one_text(const TClientDataSet& rows,
+                             std::initializer_list<const char*> fields) {
+    std::string text;
+    for (int row = 0; row < rows.RecordCount(); ++row) {
+        for (const char* field : fields) {
+            text += rows.text_at(row, rows.FieldByName(field).index()) + '\x1f';
+        }
+    }
+    return text;
+}
+
+// All of a voucher that somebody else may change, to tell whether somebody did.
+std::string voucher_in_one_text(const TClientDataSet& head, const TClientDataSet& lines) {
+    return rows_in_one_text(head, {"PZQJ", "PZZ", "PZZ_H", "PZZ_Z", "BDATE", "USER_ID", "T", "D"}) +
+           rows_in_one_text(lines, {"ZY", "KM_ID", "J", "D"});
+}
+
+} // namespace
 
 // ---- opening ----
 
@@ -72,6 +92,7 @@ void TF6661_1::InitForm(const std::string& key, TClientDataSet* list, bool read_
 void TF6661_1::OpenNoid(const std::string& key) {
     opensql(AdoQry_Head, FunctionCode, select_voucher_head(key));
     opensql(AdoQry_Main, FunctionCode, select_voucher_lines(key));
+    as_opened_ = voucher_in_one_text(AdoQry_Head, AdoQry_Main);
     Tfrm_Base_Entry_Body::OpenNoid(key);
 }
 
@@ -114,7 +135,6 @@ void TF6661_1::number_new_voucher() {
     PZQJ.Caption = period_;
     EDATE.Caption = "";
     AuditState.Caption = "未审核";
-    as_opened_.clear();
 }
 
 void TF6661_1::show_stored_head() {
@@ -129,7 +149,6 @@ void TF6661_1::show_stored_head() {
     PZQJ.Caption = head.FieldByName("PZQJ").AsText();
     EDATE.Caption = audited_on.IsNull() ? "" : audited_on.AsDateTime().date.to_text();
     AuditState.Caption = !audited ? "未审核" : "已审核 " + head.FieldByName("sk").AsText();
-    as_opened_ = voucher_as_stored(Key);
 }
 
 // ---- leaving a field ----
@@ -320,24 +339,12 @@ void TF6661_1::check_accounts_take_entries(const std::vector<VoucherLine>& lines
 }
 
 void TF6661_1::check_unchanged_by_others() {
-    const std::string now = voucher_as_stored(Key);
-    if (now == as_opened_) return;
-    if (now.empty()) refuse("凭证已被他人删除,不能保存!请退出后刷新凭证列表。");
+    TClientDataSet head, lines;
+    opensql(head, FunctionCode, select_voucher_head(Key));
+    if (head.IsEmpty()) refuse("凭证已被他人删除,不能保存!请退出后刷新凭证列表。");
+    opensql(lines, FunctionCode, select_voucher_lines(Key));
+    if (voucher_in_one_text(head, lines) == as_opened_) return;
     refuse("凭证在打开之后已被他人修改、审核或登帐,不能保存!请退出后重新打开该凭证。");
-}
-
-// Head and lines in one text, to tell whether somebody else changed them; "" when it is gone.
-std::string TF6661_1::voucher_as_stored(const std::string& key) {
-    std::string text;
-    for (const std::string& query : {select_voucher_head(key), select_voucher_lines(key)}) {
-        TClientDataSet rows;
-        opensql(rows, FunctionCode, query);
-        for (int row = 0; row < rows.RecordCount(); ++row) {
-            for (const auto& field : rows.Fields())
-                text += rows.text_at(row, field->index()) + '\x1f';
-        }
-    }
-    return text;
 }
 
 // ---- statements ----

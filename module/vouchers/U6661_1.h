@@ -74,7 +74,6 @@ private:
     void check_head();
     void check_accounts_take_entries(const std::vector<VoucherLine>& lines);
     void check_unchanged_by_others();
-    std::string voucher_as_stored(const std::string& key);
     VoucherHead head_to_save(const std::string& period) const;
 
     bool new_voucher() const { return Mode == "Add" || Mode == "CopyAdd"; }

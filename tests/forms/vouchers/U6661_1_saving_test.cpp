@@ -216,6 +216,20 @@ TEST_F(VoucherSaving, what_others_changed_meanwhile_is_not_overwritten) {
     EXPECT_TRUE(data.executed().empty());
 }
 
+TEST_F(VoucherSaving, what_others_deleted_meanwhile_does_not_come_back) {
+    start();
+    anna->row(0);
+    anna->click("Act_Modify");
+    anna->cell(0, "ZY", "收贷款");
+    data.answer("SELECT D6601.*, SYS_USER.USER_NAME FROM D6601 INNER JOIN   SYS_USER ON "
+                "D6601.USER_ID = SYS_USER.USER_ID  where d6601.noid='2024-03记007'",
+                {"NOID text"}, {});
+    data.answer("SELECT NOID FROM D6601 WHERE", {"NOID text"}, {});
+    anna->click("Act_Save");
+    anna->expect_message("凭证已被他人删除,不能保存!请退出后刷新凭证列表。");
+    EXPECT_TRUE(data.executed().empty());
+}
+
 TEST_F(VoucherSaving, an_audited_voucher_opens_read_only) {
     start();
     anna->row(1);

@@ -1,4 +1,6 @@
 // Entering one voucher: what is typed, what is refused, what is saved.
+#include "host/controls/grid.h"
+#include "host/forms/form.h"
 #include "tests/forms/vouchers/voucher_desk.h"
 
 namespace tests {
@@ -259,6 +261,43 @@ TEST_F(VoucherEntry, allocation_needs_a_line_on_a_cash_account) {
     anna->line(0, {{"ZY", "收货款"}, {"KM_ID", "1131"}, {"J", "100"}});
     anna->click("Act_xj");
     anna->expect_message("当前凭证没有现金流量核算的科目存在!不需要进行现金流量的分配!");
+}
+
+// What the grid offers while the text is typed in the first line, a row a text.
+std::vector<std::string> offered(Person& anna, const std::string& field, const std::string& typed) {
+    std::vector<std::string> rows;
+    anna.focus("DBGridEh");
+    anna.row(0);
+    anna.inside([&] {
+        host::TForm& form = *host::the_host().active;
+        auto& grid = dynamic_cast<host::TDBGridEh&>(*form.FindComponent("DBGridEh"));
+        grid.SelectField(field);
+        grid.start_edit();
+        grid.set_edit_text(typed);
+        for (const host::Suggestion& one : grid.suggestions()) {
+            std::string row;
+            for (const std::string& cell : one.cells) row += (row.empty() ? "" : " ") + cell;
+            rows.push_back(row);
+        }
+        grid.cancel_edit();
+    });
+    return rows;
+}
+
+TEST_F(VoucherEntry, accounts_are_suggested_with_their_side_and_balance) {
+    new_voucher();
+    EXPECT_EQ(offered(*anna, "KM_ID", "ys"),
+              (std::vector<std::string>{"1131 应收帐款 YSZK 借 585.00",
+                                        "1133 其他应收款 QTYSK 平 0.00"}));
+    EXPECT_EQ(offered(*anna, "KM_ID", "1").front(), "1001 现金 XJ 借 350.00");
+    EXPECT_EQ(offered(*anna, "KM_ID", "现").size(), 1u);
+    EXPECT_TRUE(offered(*anna, "KM_ID", "无此科目").empty());
+}
+
+TEST_F(VoucherEntry, summaries_are_suggested_by_text_and_pinyin) {
+    new_voucher();
+    EXPECT_EQ(offered(*anna, "ZY", "tx"), (std::vector<std::string>{"提现 TX"}));
+    EXPECT_EQ(offered(*anna, "ZY", "").size(), 2u);
 }
 
 TEST_F(VoucherEntry, a_picker_is_worked_by_keys_alone) {
