@@ -82,7 +82,7 @@ QRect GridHeader::group_rect(int logical) const {
 
 bool GridHeader::closes_group(int logical) const {
     const auto* column = column_at(logical);
-    if (!column || levels() == 1 || column->RuledAmount) return false;
+    if (!column || levels() == 1 || is_ruled(*grid_)) return false;
     const int next = visualIndex(logical) + 1;
     if (next >= count()) return false;
     const QString own = upper(logical), after = upper(logicalIndex(next));

@@ -83,43 +83,46 @@ FormKind kind_of(const LayoutNode& root) {
     return contains(root, Kind::Title) ? FormKind::Document : FormKind::List;
 }
 
-void build_layout(const LayoutNode& root, FormView& view) {
-    auto* bands = new QVBoxLayout(&view);
-    bands->setContentsMargins(0, 0, 0, 0);
-    bands->setSpacing(0);
-    const FormKind kind = kind_of(root);
+void add_bands(const LayoutNode& root, QVBoxLayout& bands, FormView& view, FormKind kind) {
     const std::vector<LayoutNode> single{root};
     const auto& nodes = root.kind == Kind::Rows ? root.children : single;
     std::vector<LayoutNode> block;
     bool rest = false;
     auto close_block = [&] {
-        add_block(block, *bands, view, kind);
+        add_block(block, bands, view, kind);
         block.clear();
     };
     for (const LayoutNode& node : nodes) {
         switch (node.kind) {
         case Kind::ToolBar:
             close_block();
-            add_node(node, *bands, LayoutPlace{view});
+            add_node(node, bands, LayoutPlace{view});
             break;
         case Kind::Buttons:
         case Kind::StatusLine:
             close_block();
-            if (!rest) bands->addStretch(1);
+            if (!rest) bands.addStretch(1);
             rest = true;
-            add_ruled(node, *bands, view);
+            add_ruled(node, bands, view);
             break;
         case Kind::Rest:
         case Kind::Splitter:
             close_block();
             rest = true;
-            add_rest(node, *bands, view, kind);
+            add_rest(node, bands, view, kind);
             break;
         default: block.push_back(node);
         }
     }
     close_block();
-    if (!rest) bands->addStretch(1);
+    if (!rest) bands.addStretch(1);
+}
+
+void build_layout(const LayoutNode& root, FormView& view) {
+    auto* bands = new QVBoxLayout(&view);
+    bands->setContentsMargins(0, 0, 0, 0);
+    bands->setSpacing(0);
+    add_bands(root, *bands, view, kind_of(root));
 }
 
 } // namespace desktop

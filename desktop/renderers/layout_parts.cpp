@@ -11,6 +11,7 @@
 #include "desktop/renderers/form_view.h"
 #include "desktop/renderers/hint_line.h"
 #include "desktop/renderers/justified_label.h"
+#include "desktop/renderers/layout_builder.h"
 #include "desktop/renderers/renderers.h"
 #include "desktop/renderers/splitter.h"
 #include "desktop/renderers/title_label.h"
@@ -80,6 +81,9 @@ void add_control(const LayoutNode& node, QBoxLayout& box, const LayoutPlace& pla
         box.addWidget(widget, node.width < 0 ? 1 : 0, Qt::AlignVCenter);
         return;
     }
+    // A text that is hidden leaves no gap where it would stand.
+    if (dynamic_cast<host::TLabel*>(node.control) && node.width >= 0)
+        return box.addWidget(widget, 0, Qt::AlignLeft);
     auto* row = new QHBoxLayout;
     row->setSpacing(0);
     const bool flag = dynamic_cast<host::TCheckBox*>(node.control);
@@ -176,16 +180,14 @@ void add_rule(QBoxLayout& box, const LayoutPlace& place) {
     box.addWidget(line);
 }
 
-void add_splitter(const LayoutNode& node, QBoxLayout& box, LayoutPlace place) {
+void add_splitter(const LayoutNode& node, QBoxLayout& box, const LayoutPlace& place) {
     auto* splitter = new Splitter(node.horizontal ? Qt::Horizontal : Qt::Vertical, &place.view);
-    place.in_rows = false;
-    place.label_width = 0;
     for (const LayoutNode& child : node.children) {
         auto* part = new QWidget(splitter);
         auto* column = new QVBoxLayout(part);
         column->setContentsMargins(0, 0, 0, 0);
         column->setSpacing(0);
-        add_node(child, *column, place);
+        add_bands(child, *column, place.view, FormKind::List);
         splitter->addWidget(part);
     }
     splitter->share(node.share);

@@ -43,6 +43,7 @@ TF6661_1::TF6661_1(TForm* parent) : Tfrm_Base_Entry_Body(parent) {
     PZZ_Z.Min = Amount();
     PZZ_H.Max = PZZ_Z.Max = Amount::from_whole(99'999);
     Act_Other.Caption = "模板";
+    Difference.FontColor = 255; // a difference is a warning
     grid_.define_fields();
     AdoQry_Main.Open();
     F6661_2 = std::make_unique<TF6661_2>(this);

@@ -27,7 +27,7 @@ public:
     TLabel EDATE{this, "EDATE"};                    // audit date
     TLabel DebitTotal{this, "DebitTotal"};
     TLabel CreditTotal{this, "CreditTotal"};
-    TLabel Difference{this, "Difference"};                 // which side is more, and by how much
+    TPanel Difference{this, "Difference"};                 // which side is more, and by how much
     TAction Act_xj{this, "Act_xj", "分配", "F8", "split"}; // cash-flow allocation
     TMenuItem N2{this, "N2", "存为模板"};                  // save as template
     TPopupMenu PoPMenu{this, "PoPMenu"};

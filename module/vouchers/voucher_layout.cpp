@@ -34,7 +34,7 @@ LayoutNode voucher_layout(TF6661_1& form) {
         {ToolBar({&form.Act_Save, nullptr, &form.Act_AddLine, &form.Act_DeleteLine, nullptr,
                   &form.Act_Other, &form.Act_xj, &form.N2, nullptr, &form.Act_Print,
                   &form.Act_Preview, nullptr, &form.Act_Quit}),
-         Columns({Field("凭证字", form.PZZ, 6), Field("", form.PZZ_H, 6), Text("号"), Spring(),
+         Columns({Field("凭证字", form.PZZ, 6), Control(form.PZZ_H, 6), Text("号"), Spring(),
                   Rows({Title("记帐凭证"),
                         Columns({Spring(), Text("第"), Control(form.PZQJ), Text("期"), Spring()})}),
                   Spring(), Field("日期", form.BDATE, 12), Field("附单据(张)", form.PZZ_Z, 5)}),

@@ -48,7 +48,7 @@ void press(const std::string& name) {
 
 } // namespace
 
-Desk::Desk(std::function<void(int)> open) {
+Desk::Desk(std::function<void(int)> open, const std::string& today) : clock_(today) {
     host::Host& host = host::the_host();
     host.data = &data;
     host.clock = &clock_;
@@ -84,7 +84,7 @@ Desk::Desk(std::function<void(int)> open) {
 Desk::~Desk() {
     watcher_.reset();
     auto& forms = host::the_host().forms;
-    while (!forms.empty()) delete forms.back();
+    while (!forms.empty()) delete forms.front(); // and with it what it opened
     window_.reset();
     host::the_host() = host::Host();
 }

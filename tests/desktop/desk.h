@@ -20,7 +20,8 @@ namespace tests {
 // what was prepared, else by Enter (which is 确定, and 否 for a question), and are remembered.
 class Desk {
 public:
-    explicit Desk(std::function<void(int code)> open = nullptr);
+    explicit Desk(std::function<void(int code)> open = nullptr,
+                  const std::string& today = "2016-06-28");
     ~Desk();
 
     FakeData data;
@@ -40,7 +41,7 @@ public:
 
 private:
     void watch();
-    FixedClock clock_{"2016-06-28"};
+    FixedClock clock_;
     MemorySettings settings_;
     CountedBytes random_;
     desktop::DesktopInterface interface_;

@@ -1,0 +1,125 @@
+// The module's own forms under a person's hands, on books known by heart.
+#include <gtest/gtest.h>
+
+#include "host/contract/U_glo.h"
+#include "host/controls/grid.h"
+#include "host/forms/form.h"
+#include "host/ports/host.h"
+#include "tests/desktop/desk.h"
+#include "tests/forms/small_books.h"
+#include "tests/support/module_library.h"
+
+namespace tests {
+namespace {
+
+host::Trecord menu_pick(int code) {
+    host::Trecord record;
+    record.set_code(code);
+    return record;
+}
+
+struct BooksDesk : Desk {
+    BooksDesk() : Desk([](int code) { module_entry()(menu_pick(code), nullptr); }, "2024-03-15") {
+        answer_as_small_books(data);
+        host::G_UserId = "anna";
+        host::G_UserName = "李敏";
+    }
+    std::string active() const {
+        const host::TForm* form = host::the_host().active;
+        return form ? form->ClassName() : "";
+    }
+};
+
+TEST(ModuleForms, a_voucher_is_typed_from_the_menu_to_the_books_without_the_mouse) {
+    BooksDesk desk;
+    desk.keys({"Ctrl+G", "6", "6", "1", "Enter"});
+    ASSERT_EQ(desk.active(), "TF6661");
+    desk.keep("661");
+    desk.keys({"Insert"});
+    ASSERT_EQ(desk.active(), "TF6661_1");
+    host::TForm& form = *host::the_host().active;
+    auto& grid = *dynamic_cast<host::TDBGridEh*>(form.FindComponent("DBGridEh"));
+    for (int i = 0; i < 5 && form.ActiveControl() != &grid; ++i) desk.keys({"Tab"});
+    ASSERT_EQ(form.ActiveControl(), &grid);
+    desk.type("收货款");
+    desk.keys({"Enter"});
+    desk.type("1001");
+    desk.keep("661_1_suggestions");
+    desk.keys({"Enter"});
+    desk.type("100");
+    desk.keys({"Enter", "Enter"});
+    desk.type("收货款");
+    desk.keys({"Enter"});
+    desk.type("qtys"); // 其他应收款 by its initials
+    desk.keys({"Enter", "Enter"});
+    desk.type("100.00");
+    desk.keep("661_1");
+    desk.keys({"F2"});
+    EXPECT_EQ(desk.messages, std::vector<std::string>());
+    ASSERT_EQ(desk.data.executed().size(), 1u);
+    const std::string& batch = desk.data.executed().back().batch;
+    EXPECT_NE(batch.find("INSERT INTO D6601 "), std::string::npos) << batch;
+    EXPECT_NE(batch.find("'收货款','1001'"), std::string::npos) << batch;
+    EXPECT_NE(batch.find("'收货款','1133'"), std::string::npos) << batch;
+}
+
+TEST(ModuleForms, an_unfinished_voucher_is_refused_and_the_focus_stays) {
+    BooksDesk desk;
+    desk.keys({"Ctrl+G", "6", "6", "1", "Enter", "Insert"});
+    ASSERT_EQ(desk.active(), "TF6661_1");
+    host::TForm& form = *host::the_host().active;
+    auto& grid = *dynamic_cast<host::TDBGridEh*>(form.FindComponent("DBGridEh"));
+    for (int i = 0; i < 5 && form.ActiveControl() != &grid; ++i) desk.keys({"Tab"});
+    desk.type("收货款");
+    desk.keys({"Enter"});
+    desk.type("1001");
+    desk.keys({"Enter"});
+    desk.type("100");
+    desk.keys({"Enter", "F2"});
+    EXPECT_EQ(desk.messages,
+              std::vector<std::string>{"必须有两行以上完整地填写科目，及借或贷金额!"});
+    EXPECT_EQ(form.ActiveControl(), &grid);
+    EXPECT_TRUE(desk.data.executed().empty());
+}
+
+TEST(ModuleForms, every_function_of_the_first_books_is_drawn) {
+    BooksDesk desk;
+    for (int code : {661, 662, 681, 682, 683}) {
+        const std::string text = std::to_string(code);
+        desk.keys({"Ctrl+G", text.substr(0, 1), text.substr(1, 1), text.substr(2, 1), "Enter"});
+        EXPECT_NE(host::the_host().active, nullptr) << code;
+        desk.keep(text);
+    }
+    EXPECT_EQ(host::the_host().forms.size(), 5u);
+}
+
+TEST(ModuleForms, posting_stands_over_the_frame_until_it_is_left) {
+    BooksDesk desk;
+    bool stood = false;
+    desk.when_modal([&] {
+        desk.settle();
+        stood = desk.active() == "TF6663";
+        desk.keep("663");
+        desk.keys({"Esc"});
+    });
+    desk.keys({"Ctrl+G", "6", "6", "3", "Enter"});
+    EXPECT_TRUE(stood);
+    EXPECT_TRUE(host::the_host().modal.empty());
+}
+
+TEST(ModuleForms, the_trial_balance_asks_for_its_period_first) {
+    BooksDesk desk;
+    bool asked = false;
+    desk.when_modal([&] {
+        desk.settle();
+        asked = desk.active() == "TF6689F";
+        desk.keep("689F");
+        desk.keys({"Esc"});
+    });
+    desk.keys({"Ctrl+G", "6", "8", "9", "Enter"});
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(desk.active(), "TF6689");
+}
+
+} // namespace
+} // namespace tests
