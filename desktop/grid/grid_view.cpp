@@ -159,24 +159,19 @@ void GridView::lay_columns_out() {
     if (!grid_ || laying_out_ || !isVisible()) return;
     laying_out_ = true;
     const auto digit = QFontMetrics(fonts::body()).horizontalAdvance('0');
-    const bool first = !laid_out_;
-    int used = 0, filler = -1;
+    int filler = -1;
     for (int i = 0; i < model_->columnCount(); ++i) {
         const auto& column = grid_->Columns[static_cast<std::size_t>(i)];
         if (!column.Visible) continue;
-        int width = columnWidth(i);
-        if (column.RuledAmount) width = token::digit_box * digit_boxes::count;
-        else if (first && column.Width == 0) width = content_width(i);
-        else if (first && column.Width > 0)
-            width = std::max(column.Width * digit + 18, header_->needed_width(i));
         if (column.Width < 0 && filler < 0) filler = i;
-        else used += width;
-        if (width != columnWidth(i)) setColumnWidth(i, width);
+        else if (column.RuledAmount) setColumnWidth(i, token::digit_box * digit_boxes::count);
+        else if (!laid_out_ && column.Width <= 0) setColumnWidth(i, content_width(i));
+        else if (!laid_out_)
+            setColumnWidth(i, std::max(column.Width * digit + 18, header_->needed_width(i)));
     }
-    if (first) restore_columns();
-    if (first && grid_->DataSet) used = 0;
+    if (!laid_out_) restore_columns();
     if (filler >= 0) {
-        used = 0;
+        int used = 0;
         for (int i = 0; i < model_->columnCount(); ++i)
             if (i != filler && !isColumnHidden(i)) used += columnWidth(i);
         setColumnWidth(filler, std::max(viewport()->width() - used, 120));
