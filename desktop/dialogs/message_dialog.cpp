@@ -25,7 +25,7 @@ public:
         setObjectName("message");
         setFixedWidth(message_width);
         auto* row = new QHBoxLayout;
-        row->setContentsMargins(20, 16, 20, 16);
+        row->setContentsMargins(20, 14, 20, 14);
         row->setSpacing(16);
         auto* picture = new QLabel(this);
         picture->setPixmap(icons::pixmap(drawing, icon, token::indigo_1, devicePixelRatioF()));
@@ -36,9 +36,20 @@ public:
         words->setFont(fonts::message());
         words->setWordWrap(true);
         words->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        words->setMinimumHeight(icon);
+        // A wrapped label asks for more height than its text needs.
+        const int room = message_width - 2 - 2 * 20 - icon - 16;
+        const QRect text_box = QFontMetrics(fonts::message())
+                                   .boundingRect(QRect(0, 0, room, 4000), Qt::TextWordWrap, qt(text));
+        words->setFixedHeight(std::max(icon, text_box.height() + 4));
         row->addWidget(words, 1);
         body()->addLayout(row);
+        auto* rule = new QFrame(this);
+        rule->setFixedHeight(1);
+        rule->setAutoFillBackground(true);
+        QPalette ink = rule->palette();
+        ink.setColor(QPalette::Window, token::rule_1);
+        rule->setPalette(ink);
+        body()->addWidget(rule);
         buttons_ = new QHBoxLayout;
         buttons_->setContentsMargins(14, 10, 14, 10);
         buttons_->setSpacing(8);

@@ -21,8 +21,31 @@ host::Trecord menu_pick(int code) {
 struct BooksDesk : Desk {
     BooksDesk() : Desk([](int code) { module_entry()(menu_pick(code), nullptr); }, "2024-03-15") {
         answer_as_small_books(data);
+        answer_code_tables();
+        data.answer("SELECT param,(SELECT COUNT(*)", {"param text", "I int", "J int"},
+                    {{"2024-03", "5", "3"}});
+        data.answer("SELECT VALUE FROM SYS_SETTING WHERE NAME='mode'", {"VALUE text"}, {});
+        data.answer("select * from (SELECT D6602.KM_ID",
+                    {"KM_ID text", "KM_NAME text", "OID text", "KM_J int", "B1 money", "B2 money",
+                     "C1 money", "C2 money", "D1 money", "D2 money", "BB1 money", "BB2 money",
+                     "CC1 money", "CC2 money", "DD1 money", "DD2 money"},
+                    {{"1001", "现金", "Z", "1", "0", "0", "585", "0", "585", "0", "0", "0", "585",
+                      "0", "585", "0"},
+                     {"1131", "应收帐款", "Z", "1", "0", "0", "0", "585", "0", "585", "0", "0", "0",
+                      "585", "0", "585"},
+                     {"113101", "应收帐款-东方", "1131", "2", "0", "0", "0", "585", "-3", "585",
+                      "0", "0", "0", "0", "0", "0"}});
         host::G_UserId = "anna";
         host::G_UserName = "李敏";
+    }
+    void answer_code_tables() {
+        const std::string chart = "SELECT KM_ID,KM_NAME, OID  FROM D6801 where km_fl=1";
+        data.answer(chart, {"KM_ID text", "KM_NAME text", "OID text"},
+                    {{"1001", "现金", "Z"}, {"1002", "银行存款", "Z"}, {"100201", "工行", "1002"}});
+        data.answer("select * From d6802", {"PZZ text", "PZZ_PRINT text", "T int", "PYM text"},
+                    {{"记", "记帐凭证", "1", "JZPZ"}});
+        data.answer("select * From d6803", {"GUID text", "ZY text", "PYM text"},
+                    {{"G1", "收货款", "SHK"}});
     }
     std::string active() const {
         const host::TForm* form = host::the_host().active;
@@ -107,18 +130,23 @@ TEST(ModuleForms, posting_stands_over_the_frame_until_it_is_left) {
     EXPECT_TRUE(host::the_host().modal.empty());
 }
 
-TEST(ModuleForms, the_trial_balance_asks_for_its_period_first) {
+TEST(ModuleForms, the_trial_balance_asks_for_its_period_and_shows_it) {
     BooksDesk desk;
     bool asked = false;
     desk.when_modal([&] {
         desk.settle();
         asked = desk.active() == "TF6689F";
         desk.keep("689F");
-        desk.keys({"Esc"});
+        desk.keys({"F2"});
     });
     desk.keys({"Ctrl+G", "6", "8", "9", "Enter"});
     EXPECT_TRUE(asked);
-    EXPECT_EQ(desk.active(), "TF6689");
+    ASSERT_EQ(desk.active(), "TF6689");
+    desk.keep("689");
+    host::TForm& form = *host::the_host().active;
+    auto& grid = *dynamic_cast<host::TDBGridEh*>(form.FindComponent("DBGridEh"));
+    EXPECT_EQ(grid.DataSet->RecordCount(), 3);
+    EXPECT_EQ(grid.footer_text(grid.column_index("C1")), "585.00");
 }
 
 } // namespace
