@@ -13,8 +13,13 @@ picture() {
     shift
     "$program" --screenshot "docs/images/$name.png" "$@" "$folder/demo.zf"
 }
+# The vouchers that are not audited yet stand at the end of the list.
+last=(--key PgDown --key PgDown --key PgDown --key PgDown)
 picture shell
-picture voucher_list --function 661
-picture voucher --function 661 --key Enter
-picture trial_balance --function 689 --key F2
-if command -v optipng > /dev/null; then optipng -quiet docs/images/*.png; fi
+picture voucher_list --function 661 "${last[@]}"
+picture voucher --function 661 "${last[@]}" --key Enter --key Tab --key Tab --key Tab --key Enter
+picture trial_balance --function 689 --key Tab --key Up --key F2
+# 255 colours are enough for a picture of flat grounds, and make it a third of the size.
+if command -v convert > /dev/null; then
+    for file in docs/images/*.png; do convert "$file" -strip +dither -colors 255 "PNG8:$file"; done
+fi

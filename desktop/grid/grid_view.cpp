@@ -65,7 +65,7 @@ GridView::GridView(host::TDBGridEh& grid, FormView& form, QWidget* parent)
     form.set_own_keys(grid, [this](const host::Key& key) { return own_key(key); });
     editor_->on_edited = [this](const QString& text) { edited(text); };
     editor_->on_lookup = [this] { form_.run([this] { grid_->press_button(); }); };
-    editor_->on_focus = [this] { viewport()->update(); };
+    editor_->on_focus = [this] { cursor_due(); }; // it goes when the focus leaves the grid
     popup_->on_chosen = [this](int index) { take_suggestion(index); };
     form.after_event([this] {
         if (cursor_due_) sync_cursor();
