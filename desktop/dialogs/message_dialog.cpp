@@ -38,8 +38,9 @@ public:
         words->setTextInteractionFlags(Qt::TextSelectableByMouse);
         // A wrapped label asks for more height than its text needs.
         const int room = message_width - 2 - 2 * 20 - icon - 16;
-        const QRect text_box = QFontMetrics(fonts::message())
-                                   .boundingRect(QRect(0, 0, room, 4000), Qt::TextWordWrap, qt(text));
+        const QRect text_box =
+            QFontMetrics(fonts::message())
+                .boundingRect(QRect(0, 0, room, 4000), Qt::TextWordWrap, qt(text));
         words->setFixedHeight(std::max(icon, text_box.height() + 4));
         row->addWidget(words, 1);
         body()->addLayout(row);
