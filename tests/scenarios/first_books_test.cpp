@@ -164,6 +164,17 @@ TEST_F(FirstBooks, unposting_takes_the_balances_back_and_leaves_the_audit) {
               "630.00");
 }
 
+TEST_F(FirstBooks, a_list_from_before_the_posting_does_not_take_the_audit_back) {
+    enter_both();
+    audit_all();
+    anna.open(662);
+    post();
+    anna.expect_active("TF6661#2");
+    anna.click("Act_UnAudit");
+    anna.expect_message("“2024-03记001”已登帐，不能反审核；请先反登帐!");
+    EXPECT_EQ(books.value("SELECT COUNT(*) FROM D6601 WHERE T=1 AND D=1"), "2");
+}
+
 TEST_F(FirstBooks, what_anybody_types_arrives_as_it_was_typed) {
     const std::string odd = "O'Brien; -- \"%S\" 😀𠀀";
     anna.open(661);
