@@ -1,5 +1,6 @@
 // Maps result codes and the words behind constraint failures.
 #include "engines/sqlite/connection/sqlite_error.h"
+#include "tsql/binder/scope.h"
 
 #include <cerrno>
 #include <vector>
@@ -55,18 +56,13 @@ Place place_of(const std::string& detail) {
     return place;
 }
 
-bool equal(std::string_view a, std::string_view b) {
-    const tsql::NameLess less;
-    return !less(a, b) && !less(b, a);
-}
-
 bool covers(const tsql::CatalogTable& table, const tsql::CatalogIndex& index,
             const std::vector<std::string>& columns) {
     if (!index.unique && !index.primary) return false;
     if (index.columns.size() != columns.size()) return false;
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const auto ordinal = static_cast<std::size_t>(index.columns[i]);
-        if (!equal(table.columns[ordinal].name, columns[i])) return false;
+        if (!tsql::same_name(table.columns[ordinal].name, columns[i])) return false;
     }
     return true;
 }
@@ -96,7 +92,7 @@ std::optional<Error> duplicate_in_index(const std::string& name, const tsql::Cat
         const auto* table = dynamic_cast<const tsql::CatalogTable*>(object.get());
         if (table == nullptr) continue;
         for (const auto& index : table->indexes) {
-            if (equal(table->stored_name + "." + index.name, name))
+            if (tsql::same_name(table->stored_name + "." + index.name, name))
                 return duplicate_in(*table, index);
         }
     }

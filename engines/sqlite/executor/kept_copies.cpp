@@ -2,24 +2,16 @@
 #include "engines/sqlite/executor/kept_copies.h"
 
 #include "tsql/binder/context.h"
+#include "tsql/emit/common/quote.h"
 
 namespace engines {
-namespace {
-
-std::string quoted(const std::string& name) {
-    std::string text = "temp.\"";
-    for (const char c : name) text.append(c == '"' ? 2 : 1, c);
-    return text + "\"";
-}
-
-} // namespace
 
 KeptCopies::KeptCopies(sqlite3* connection, const tsql::CatalogTable& table, int number)
     : connection_(connection) {
     for (std::size_t i = 0; i < copies_.size(); ++i) {
         const std::string copy = tsql::copy_name(table, i == 0);
-        copies_[i] = quoted(copy);
-        kept_[i] = quoted(copy + "~" + std::to_string(number));
+        copies_[i] = "temp." + tsql::quoted_name(copy);
+        kept_[i] = "temp." + tsql::quoted_name(copy + "~" + std::to_string(number));
         run_text(connection_, "CREATE TABLE " + kept_[i] + " AS SELECT * FROM " + copies_[i]);
     }
 }

@@ -2,6 +2,7 @@
 #include "engines/sqlite/executor/executor.h"
 #include "engines/sqlite/functions/call.h"
 #include "engines/sqlite/numbers/decimal.h"
+#include "tsql/emit/common/quote.h"
 
 namespace engines {
 namespace {
@@ -39,15 +40,6 @@ std::string with_constants(std::string text, const std::vector<std::string>& con
             text.replace(place, mark.size(), constants[i]);
     }
     return text;
-}
-
-std::string quoted(const std::string& name) {
-    std::string text = "\"";
-    for (const char c : name) {
-        text += c;
-        if (c == '"') text += c;
-    }
-    return text + "\"";
 }
 
 } // namespace
@@ -105,7 +97,7 @@ void Executor::drop_temporary_tables(Frame& frame) {
         const auto table = parts_.catalog.find_table(name);
         if (!table || !table->temporary) continue;
         engines::run_text(parts_.connection,
-                          "DROP TABLE IF EXISTS temp." + quoted(table->stored_name));
+                          "DROP TABLE IF EXISTS temp." + tsql::quoted_name(table->stored_name));
         tsql::CatalogChange change;
         change.drop.push_back(name);
         change.temporary = true;

@@ -3,16 +3,12 @@
 #include "engines/sqlite/executor/executor.h"
 #include "engines/sqlite/functions/call.h"
 #include "engines/sqlite/raise.h"
+#include "tsql/binder/scope.h"
 
 namespace engines {
 namespace {
 
 constexpr int deepest_nesting = 32;
-
-bool equal(std::string_view a, std::string_view b) {
-    const tsql::NameLess less;
-    return !less(a, b) && !less(b, a);
-}
 
 std::string plain_name(std::string_view name) {
     const auto point = name.rfind('.');
@@ -21,7 +17,7 @@ std::string plain_name(std::string_view name) {
 
 int parameter_index(const tsql::CompiledRoutine& routine, const std::string& name) {
     for (std::size_t i = 0; i < routine.parameters.size(); ++i)
-        if (equal(routine.parameters[i].name, name)) return static_cast<int>(i);
+        if (tsql::same_name(routine.parameters[i].name, name)) return static_cast<int>(i);
     return -1;
 }
 
@@ -64,7 +60,7 @@ Flow Executor::run_routine(const std::shared_ptr<const tsql::CompiledRoutine>& r
 Flow Executor::execute(const tsql::ExecuteStep& step) {
     std::shared_ptr<const tsql::CompiledRoutine> routine;
     std::size_t skip = 0;
-    if (equal(plain_name(step.procedure), "sp_executesql")) {
+    if (tsql::same_name(plain_name(step.procedure), "sp_executesql")) {
         std::string declarations;
         if (step.arguments.empty() || !step.arguments[0].value)
             raise_error(201, "Procedure or function 'sp_executesql' expects parameter "

@@ -1,14 +1,10 @@
 // What functions ask of the session: variables, identities, objects.
 #include "engines/sqlite/executor/executor.h"
 #include "engines/sqlite/raise.h"
+#include "tsql/binder/scope.h"
 
 namespace engines {
 namespace {
-
-bool equal(std::string_view a, std::string_view b) {
-    const tsql::NameLess less;
-    return !less(a, b) && !less(b, a);
-}
 
 // "dbo.D6801", "[dbo].[D6801]" and "D6801" name the same object.
 std::string bare_name(std::string_view name) {
@@ -68,7 +64,7 @@ std::int64_t Executor::next_identity(std::string_view name) {
 void Executor::identity_seen(std::string_view name, std::int64_t value) {
     const auto table = parts_.catalog.find_table(name);
     if (!table) raise_error(208, "Invalid object name '" + std::string(name) + "'.");
-    if (!equal(bare_name(options_.identity_insert), table->name))
+    if (!tsql::same_name(bare_name(options_.identity_insert), table->name))
         raise_error(544, "Cannot insert explicit value for identity column in table '" +
                              table->name + "' when IDENTITY_INSERT is set to OFF.");
     parts_.identities.seen(*table, value);
@@ -85,9 +81,9 @@ std::optional<std::int64_t> Executor::object_id(std::string_view name, std::stri
     const std::string bare = bare_name(name);
     const auto object = parts_.catalog.find(bare);
     if (!object) return std::nullopt;
-    if (!kind.empty() && !equal(kind, kind_code(*object))) {
-        const bool function =
-            object->kind == tsql::CatalogKind::Function && (equal(kind, "IF") || equal(kind, "TF"));
+    if (!kind.empty() && !tsql::same_name(kind, kind_code(*object))) {
+        const bool function = object->kind == tsql::CatalogKind::Function &&
+                              (tsql::same_name(kind, "IF") || tsql::same_name(kind, "TF"));
         if (!function) return std::nullopt;
     }
     return number_of(object->name);

@@ -2,17 +2,13 @@
 #include "engines/sqlite/executor/transactions.h"
 
 #include "engines/sqlite/raise.h"
+#include "tsql/binder/scope.h"
 
 namespace engines {
 namespace {
 
 std::string savepoint_name(int number) {
     return "zf_" + std::to_string(number);
-}
-
-bool equal(std::string_view a, std::string_view b) {
-    const tsql::NameLess less;
-    return !less(a, b) && !less(b, a);
 }
 
 } // namespace
@@ -87,7 +83,7 @@ void Transactions::save(const std::string& name) {
 
 bool Transactions::rollback_to(const std::string& name) {
     for (std::size_t i = savepoints_.size(); i-- > 0;) {
-        if (!equal(savepoints_[i].name, name)) continue;
+        if (!tsql::same_name(savepoints_[i].name, name)) continue;
         run_text(connection_, "ROLLBACK TO " + savepoint_name(savepoints_[i].number));
         identities_.forget();
         catalog_.restore(savepoints_[i].catalog);
@@ -99,7 +95,7 @@ bool Transactions::rollback_to(const std::string& name) {
 
 void Transactions::release(const std::string& name) {
     for (std::size_t i = savepoints_.size(); i-- > 0;) {
-        if (!equal(savepoints_[i].name, name)) continue;
+        if (!tsql::same_name(savepoints_[i].name, name)) continue;
         run_text(connection_, "RELEASE " + savepoint_name(savepoints_[i].number));
         forget_savepoints(i);
         return;
