@@ -34,7 +34,7 @@ void TF6661F::InitForm() {
     BDATE.set(period.first_day());
     EDATE.set(period.last_day());
     PZZ_H1.set(std::int64_t{1});
-    PZZ_H2.set(std::int64_t{9999});
+    PZZ_H2.set(std::int64_t{999999});
     const VoucherWords words = read_voucher_words(FunctionCode);
     by_kind_ = words.by_kind;
     std::vector<std::string> items = words.words;

@@ -41,6 +41,8 @@ TF6661_1::TF6661_1(TForm* parent) : Tfrm_Base_Entry_Body(parent) {
     Caption = "记帐凭证";
     PZZ_H.Min = Amount::from_whole(1);
     PZZ_Z.Min = Amount();
+    DateHint.FontColor = 255;
+    DateHint.Visible = false;
     PZZ_H.Max = PZZ_Z.Max = Amount::from_whole(99'999);
     Act_Other.Caption = "模板";
     Difference.FontColor = 255; // a difference is a warning
@@ -78,6 +80,7 @@ void TF6661_1::bind_events() {
     DBGridEh.OnSuggest = [this](const GridColumn& column, const std::string& typed) {
         return suggest(column, typed);
     };
+    BDATE.OnChange = [this] { refresh_date_hint(); };
     Act_xj.OnExecute = [this] { Act_xjExecute(); };
     N2.OnExecute = [this] { N2Click(); };
     PoPMenu.OnPopup = [this] { PoPMenuPopup(); };
@@ -122,6 +125,7 @@ void TF6661_1::RefreshData() {
     grid_.fill_up();
     refresh_totals();
     refresh_title();
+    refresh_date_hint();
     PZZ.OnChange = [this] { PZZChange(); };
     Act_Save.Enabled = false;
     PoPMenuPopup();
@@ -274,6 +278,14 @@ void TF6661_1::refresh_totals() {
     DBGridEh.changed();
 }
 
+// The last month's vouchers are often written in the first days of the next: a date outside the
+// period is taken as typed, and pointed out.
+void TF6661_1::refresh_date_hint() {
+    const auto period = Period::parse(PZQJ.Caption.get());
+    const auto day = BDATE.date();
+    DateHint.Visible = period && day && !period->contains(*day);
+}
+
 void TF6661_1::refresh_title() {
     SetTabTitle(Caption.get() + " " + PZZ.Text.get() + "-" + PZZ_H.Text.get());
 }
@@ -319,12 +331,6 @@ bool TF6661_1::AllCheck() {
 void TF6661_1::check_head() {
     CheckBlank(PZZ_H, "号");
     CheckDate(BDATE, "日期");
-    const auto period = Period::parse(period_);
-    const auto day = BDATE.date();
-    if (!period || (day && period->contains(*day))) return;
-    BDATE.SetFocus();
-    refuse("凭证日期 " + BDATE.Text.get() + " 不在当前会计期间 " + period_ + " 内!请改为 " +
-           period->first_day().to_text() + " 至 " + period->last_day().to_text() + " 之间的日期。");
 }
 
 // A copied voucher may name accounts that were closed or divided since.

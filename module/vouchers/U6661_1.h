@@ -21,6 +21,7 @@ public:
     TNumberEdit PZZ_H{this, "PZZ_H", " 号"};        // number within period and word
     TLabel PZQJ{this, "PZQJ"};                      // accounting period
     TDateEdit BDATE{this, "BDATE", "日期"};         // voucher date, within the period
+    TLabel DateHint{this, "DateHint", "日期不在本期"}; // shown while it is so
     TNumberEdit PZZ_Z{this, "PZZ_Z", "附单据(张)"}; // number of attached documents
     TLabel USER_ID{this, "USER_ID"};                // maker's name
     TLabel AuditState{this, "AuditState"};          // not audited, audited by, posted
@@ -67,6 +68,7 @@ private:
     void show_stored_head();
     void refresh_totals();
     void refresh_title();
+    void refresh_date_hint();
     std::vector<TDBGridEh::Suggestion> suggest(const GridColumn& column, const std::string& typed);
     const LeafAccounts& leaf_accounts();
     void take_account(const LeafAccount& account);

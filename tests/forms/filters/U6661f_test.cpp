@@ -28,7 +28,7 @@ protected:
 
 const std::string march =
     "(D6601.BDATE>='2024-03-01') AND (D6601.BDATE<'2024-04-01') AND (D6601.PZZ_H>=1) AND "
-    "(D6601.PZZ_H<=9999)";
+    "(D6601.PZZ_H<=999999)";
 
 TEST_F(VoucherFilter, offers_the_current_period_and_all_numbers) {
     ask();
@@ -38,7 +38,7 @@ TEST_F(VoucherFilter, offers_the_current_period_and_all_numbers) {
     EXPECT_EQ(condition(), march);
     anna->expect_active("TF6661");
     EXPECT_EQ(anna->value("ConditionLabel"),
-              " ●凭证日期:(2024-03-01 至 2024-03-31)     ●凭 证 号:(1 至 9999)");
+              " ●凭证日期:(2024-03-01 至 2024-03-31)     ●凭 证 号:(1 至 999999)");
 }
 
 TEST_F(VoucherFilter, posting_and_audit_states_narrow_the_list) {
