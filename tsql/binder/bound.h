@@ -68,6 +68,12 @@ struct BoundLiteral : BoundExpression {
     std::string text;
     int ordinal = -1;
     int constant = -1;
+
+    // Of a whole number: how many digits count.
+    int digits() const {
+        const std::size_t first = text.find_first_not_of('0');
+        return first == std::string::npos ? 1 : static_cast<int>(text.size() - first);
+    }
 };
 
 struct BoundValue : BoundExpression { // variable, system value, cell of an EXEC row

@@ -42,7 +42,8 @@ Type decimal_literal_type(std::string_view digits) {
     const std::size_t point = digits.find('.');
     std::string_view whole = digits.substr(0, point);
     const int scale = static_cast<int>(digits.size() - point - 1);
-    while (whole.size() > 1 && whole.front() == '0') {
+    // Leading zeros are no digits: 0.50 is decimal(2,2).
+    while (!whole.empty() && whole.front() == '0') {
         whole.remove_prefix(1);
     }
     const int precision = static_cast<int>(whole.size()) + scale;
@@ -228,8 +229,8 @@ Type Binder::unify(std::vector<BoundPtr*> values) {
             (*value)->kind == BoundKind::Literal && (*value)->type.kind == TypeKind::Int;
         // A number written down counts as many digits as it has, not the ten of an int.
         if (digits && type.is_decimal()) {
-            const auto& text = static_cast<const BoundLiteral&>(**value).text;
-            type = common_type(type, Type::decimal(static_cast<int>(text.size()), 0));
+            const int count = static_cast<const BoundLiteral&>(**value).digits();
+            type = common_type(type, Type::decimal(count, 0));
         } else {
             type = common_type(type, (*value)->type);
         }

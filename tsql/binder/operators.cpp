@@ -37,8 +37,7 @@ bool is_bitwise(BinaryOperator op) {
 // An operand of decimal arithmetic: a whole number written down has the digits it has.
 Type digits_of(const BoundExpression& value) {
     if (value.kind == BoundKind::Literal && value.type.kind == TypeKind::Int) {
-        const auto& text = static_cast<const BoundLiteral&>(value).text;
-        return Type::decimal(static_cast<int>(text.size()), 0);
+        return Type::decimal(static_cast<const BoundLiteral&>(value).digits(), 0);
     }
     if (value.kind == BoundKind::Negate) {
         return digits_of(*static_cast<const BoundUnary&>(value).operand);

@@ -22,8 +22,7 @@ Type branch_type(const BoundBody& body, std::size_t column, const Type& type) {
     if (item->kind != BoundKind::Literal) {
         return type;
     }
-    const auto& text = static_cast<const BoundLiteral&>(*item).text;
-    return Type::decimal(static_cast<int>(text.size()), 0);
+    return Type::decimal(static_cast<const BoundLiteral&>(*item).digits(), 0);
 }
 
 } // namespace

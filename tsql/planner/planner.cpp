@@ -61,19 +61,21 @@ void Planner::plan_all(const std::vector<StatementPtr>& statements, Steps& out) 
 void Planner::plan(const Statement& statement, Steps& out, bool may_defer) {
     const bool definition = is_definition(statement.kind);
     at_ = text ? locate(*text, statement.at.begin) : LineColumn{};
-    if (!may_defer || holds_statements(statement.kind)) {
+    if (!may_defer) {
         plan_now(statement, out);
         return;
     }
     // After a definition nothing is certain about tables until it has run.
     const std::size_t before = out.size();
-    const bool wait = changes_catalog && (definition || statement.kind <= StatementKind::Truncate);
+    const bool unsure = changes_catalog;
+    const bool wait = unsure && !holds_statements(statement.kind) &&
+                      (definition || statement.kind <= StatementKind::Truncate);
     if (!wait) {
         try {
             plan_now(statement, out);
             return;
         } catch (const Refusal& refusal) {
-            if (!definition && !may_pass(refusal.number)) {
+            if (!definition && !unsure && !may_pass(refusal.number)) {
                 throw;
             }
         }
