@@ -15,18 +15,6 @@ namespace tsql {
 
 namespace {
 
-LiteralKind literal_kind(TokenKind kind) {
-    switch (kind) {
-    case TokenKind::Integer: return LiteralKind::Integer;
-    case TokenKind::Decimal: return LiteralKind::Decimal;
-    case TokenKind::Float: return LiteralKind::Float;
-    case TokenKind::Money: return LiteralKind::Money;
-    case TokenKind::NationalText: return LiteralKind::NationalText;
-    case TokenKind::Binary: return LiteralKind::Binary;
-    default: return LiteralKind::Text;
-    }
-}
-
 bool asks_for_counts(std::string_view text, const std::vector<Token>& tokens) {
     return std::any_of(tokens.begin(), tokens.end(), [&](const Token& token) {
         return token.kind == TokenKind::SystemVariable &&

@@ -70,6 +70,7 @@ private:
     BoundPtr bind_logical(const Logical& logical, Scope& scope);
     BoundPtr bind_between(const Between& between, Scope& scope);
     BoundPtr bind_in_list(const InList& list, Scope& scope);
+    void expect_one_column(const BoundQuery& query, SourceRange at);
     BoundPtr bind_in_query(const InQuery& node, Scope& scope);
     BoundPtr bind_like(const Like& like, Scope& scope);
     BoundPtr bind_quantified(const QuantifiedComparison& node, Scope& scope);
@@ -128,6 +129,8 @@ private:
     std::shared_ptr<RangeTable> bind_multi_function(const CreateFunction& function,
                                                     const FunctionTable& table, Scope& scope);
     BoundSourcePtr bind_join(const Join& join, Scope& scope);
+    std::vector<BoundPtr> bind_parameters(const CreateFunction& function,
+                                          const FunctionTable& table, Scope& scope);
     void lateral(RangeTable& table, SourceRange at);
     void columns_of_query(RangeTable& range, const std::vector<Name>& names, SourceRange at);
 
@@ -146,7 +149,23 @@ private:
     BoundPtr assigned_value(const CatalogColumn& column, BoundPtr value);
     BoundPtr default_value(const CatalogColumn& column);
     void bind_output(const OutputClause& clause, BoundChange& change);
-    void find_triggers(BoundChange& change, int event);
+    void find_triggers(BoundChange& change, DmlKind event);
+    // WHERE, TOP, triggers and OUTPUT of an UPDATE or DELETE; gives the whole condition.
+    template <typename Syntax>
+    BoundPtr bind_rest(const Syntax& statement, BoundPtr condition, Scope& scope,
+                       BoundChange& change, DmlKind event) {
+        if (statement.where) {
+            condition = both(std::move(condition), bind_condition(*statement.where, scope));
+        }
+        bind_top(statement.top, scope, change.top);
+        find_triggers(change, event);
+        if (statement.output) {
+            bind_output(*statement.output, change);
+        }
+        return condition;
+    }
+    // Both conditions, either of which may be missing.
+    static BoundPtr both(BoundPtr left, BoundPtr right);
 
     BindContext& context_;
     std::vector<int> assigned_slots_; // of a SELECT that assigns variables

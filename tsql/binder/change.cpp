@@ -124,12 +124,22 @@ BoundPtr Binder::default_value(const CatalogColumn& column) {
     return assigned_value(column, bind_text(column.default_text, none, false));
 }
 
-void Binder::find_triggers(BoundChange& change, int event) {
+BoundPtr Binder::both(BoundPtr left, BoundPtr right) {
+    if (!left || !right) {
+        return left ? left : right;
+    }
+    auto bound = std::make_shared<BoundLogical>();
+    bound->at = left->at;
+    bound->operands = {std::move(left), std::move(right)};
+    return bound;
+}
+
+void Binder::find_triggers(BoundChange& change, DmlKind event) {
     const auto& surroundings = context_.surroundings;
     for (const auto& trigger : context_.catalog.triggers_of(change.table->name)) {
-        const bool fires = event == 0   ? trigger->on_insert
-                           : event == 1 ? trigger->on_update
-                                        : trigger->on_delete;
+        const bool fires = event == DmlKind::Insert   ? trigger->on_insert
+                           : event == DmlKind::Update ? trigger->on_update
+                                                      : trigger->on_delete;
         const bool itself = same_name(trigger->name, surroundings.trigger);
         if (!fires || trigger->disabled || itself || change.table->temporary) {
             continue;

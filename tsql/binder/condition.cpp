@@ -87,17 +87,21 @@ BoundPtr Binder::bind_in_list(const InList& list, Scope& scope) {
     return bound;
 }
 
+void Binder::expect_one_column(const BoundQuery& query, SourceRange at) {
+    if (query.columns.size() != 1) {
+        throw Refusal(116, at,
+                      "Only one expression can be specified in the select list when the subquery "
+                      "is not introduced with EXISTS.");
+    }
+}
+
 BoundPtr Binder::bind_in_query(const InQuery& node, Scope& scope) {
     auto bound = std::make_shared<BoundSubquery>(BoundKind::InQuery);
     bound->at = node.at;
     bound->negated = node.negated;
     bound->operand = bind_value(*node.operand, scope);
     bound->query = bind_query(*node.query, &scope, false);
-    if (bound->query->columns.size() != 1) {
-        throw Refusal(116, node.query->at,
-                      "Only one expression can be specified in the select list when the subquery "
-                      "is not introduced with EXISTS.");
-    }
+    expect_one_column(*bound->query, node.query->at);
     const Type& inner = bound->query->columns[0].type;
     if (!(bound->operand->type.is_text() && inner.is_text())) {
         bound->type = common_type(bound->operand->type, inner);
@@ -133,11 +137,7 @@ BoundPtr Binder::bind_quantified(const QuantifiedComparison& node, Scope& scope)
     bound->all = node.all;
     bound->operand = bind_value(*node.operand, scope);
     bound->query = bind_query(*node.query, &scope, false);
-    if (bound->query->columns.size() != 1) {
-        throw Refusal(116, node.query->at,
-                      "Only one expression can be specified in the select list when the subquery "
-                      "is not introduced with EXISTS.");
-    }
+    expect_one_column(*bound->query, node.query->at);
     bound->type = common_type(bound->operand->type, bound->query->columns[0].type);
     bound->operand = convert(bound->operand, bound->type);
     bound->collation = bound->operand->collation;

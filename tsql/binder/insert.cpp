@@ -152,7 +152,7 @@ BoundInsert Binder::bind_insert(const Insert& insert) {
     }
     insert_defaults(bound);
     bind_top(insert.top, scope, bound.top);
-    find_triggers(bound, 0);
+    find_triggers(bound, DmlKind::Insert);
     if (insert.output) {
         bind_output(*insert.output, bound);
     }

@@ -73,6 +73,23 @@ BoundSourcePtr Binder::bind_join(const Join& join, Scope& scope) {
     return bound;
 }
 
+std::vector<BoundPtr> Binder::bind_parameters(const CreateFunction& function,
+                                              const FunctionTable& table, Scope& scope) {
+    std::vector<BoundPtr> arguments;
+    for (std::size_t i = 0; i < table.arguments.size(); ++i) {
+        const Parameter& parameter = function.parameters[i];
+        const bool left_out = table.arguments[i]->kind == ExpressionKind::DefaultMark;
+        if (left_out && !parameter.default_value) {
+            throw Refusal(201, table.arguments[i]->at,
+                          "The function expects parameter '" + parameter.name +
+                              "', which has no default.");
+        }
+        const ExpressionPtr& value = left_out ? parameter.default_value : table.arguments[i];
+        arguments.push_back(convert(bind_value(*value, scope), bind_type(parameter.type, 1)));
+    }
+    return arguments;
+}
+
 std::shared_ptr<RangeTable> Binder::bind_function(const FunctionTable& table, Scope& scope) {
     const std::string& name = table.name.object().text;
     const auto module = context_.catalog.find_module(CatalogKind::Function, name);
@@ -94,11 +111,9 @@ std::shared_ptr<RangeTable> Binder::bind_function(const FunctionTable& table, Sc
         throw Refusal(217, table.at, "Maximum nesting level of views and functions exceeded.");
     }
     std::map<std::string, BoundPtr, NameLess> given;
-    for (std::size_t i = 0; i < table.arguments.size(); ++i) {
-        const Parameter& parameter = function->parameters[i];
-        const bool left_out = table.arguments[i]->kind == ExpressionKind::DefaultMark;
-        const ExpressionPtr& value = left_out ? parameter.default_value : table.arguments[i];
-        given[parameter.name] = convert(bind_value(*value, scope), bind_type(parameter.type, 1));
+    const std::vector<BoundPtr> arguments = bind_parameters(*function, table, scope);
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        given[function->parameters[i].name] = arguments[i];
     }
     auto range = std::make_shared<RangeTable>();
     range->kind = RangeKind::Query;
@@ -125,13 +140,7 @@ std::shared_ptr<RangeTable> Binder::bind_multi_function(const CreateFunction& fu
     outside.parent = scope.parent;
     BoundFill fill;
     fill.function = function.name.object().text;
-    for (std::size_t i = 0; i < table.arguments.size(); ++i) {
-        const Parameter& parameter = function.parameters[i];
-        const bool left_out = table.arguments[i]->kind == ExpressionKind::DefaultMark;
-        const ExpressionPtr& value = left_out ? parameter.default_value : table.arguments[i];
-        fill.arguments.push_back(
-            convert(bind_value(*value, outside), bind_type(parameter.type, 1)));
-    }
+    fill.arguments = bind_parameters(function, table, outside);
     if (outside.reached_out) {
         throw Refusal(102, table.at,
                       "The arguments of a function that fills a table may not depend on rows.");

@@ -166,11 +166,7 @@ BoundPtr Binder::bind_scalar_subquery(const ScalarSubquery& subquery, Scope& sco
     auto bound = std::make_shared<BoundSubquery>(BoundKind::Subquery);
     bound->at = subquery.at;
     bound->query = bind_query(*subquery.query, &scope, false);
-    if (bound->query->columns.size() != 1) {
-        throw Refusal(116, subquery.query->at,
-                      "Only one expression can be specified in the select list when the subquery "
-                      "is not introduced with EXISTS.");
-    }
+    expect_one_column(*bound->query, subquery.query->at);
     const RangeColumn& column = bound->query->columns[0];
     bound->type = column.type;
     bound->collation = column.collation;

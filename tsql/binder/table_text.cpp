@@ -5,8 +5,6 @@ namespace tsql {
 
 namespace {
 
-constexpr const char* actions[] = {"NO ACTION", "CASCADE", "SET NULL", "SET DEFAULT"};
-
 std::string column_list(const CatalogTable& table, const CatalogIndex& index) {
     std::string text;
     for (std::size_t i = 0; i < index.columns.size(); ++i) {
@@ -47,8 +45,9 @@ std::string foreign_key_text(const CatalogTable& table, const CatalogForeignKey&
         parent += (i == 0 ? "" : ", ") + bracketed(key.parent_columns[i]);
     }
     return "CONSTRAINT " + bracketed(key.name) + " FOREIGN KEY (" + own + ") REFERENCES " +
-           bracketed(key.parent) + " (" + parent + ") ON DELETE " + actions[key.on_delete] +
-           " ON UPDATE " + actions[key.on_update];
+           bracketed(key.parent) + " (" + parent + ") ON DELETE " +
+           CatalogForeignKey::action_text(key.on_delete) + " ON UPDATE " +
+           CatalogForeignKey::action_text(key.on_update);
 }
 
 } // namespace

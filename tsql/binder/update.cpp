@@ -4,20 +4,6 @@
 
 namespace tsql {
 
-namespace {
-
-BoundPtr both(BoundPtr left, BoundPtr right) {
-    if (!left || !right) {
-        return left ? left : right;
-    }
-    auto bound = std::make_shared<BoundLogical>();
-    bound->at = left->at;
-    bound->operands = {std::move(left), std::move(right)};
-    return bound;
-}
-
-} // namespace
-
 BoundUpdate Binder::bind_update(const Update& update) {
     BoundUpdate bound;
     Scope scope;
@@ -67,34 +53,7 @@ BoundUpdate Binder::bind_update(const Update& update) {
         }
         bound.set.push_back(std::move(set));
     }
-    if (update.where) {
-        bound.where = bind_condition(*update.where, scope);
-    }
-    bound.where = both(view_condition, bound.where);
-    bind_top(update.top, scope, bound.top);
-    find_triggers(bound, 1);
-    if (update.output) {
-        bind_output(*update.output, bound);
-    }
-    return bound;
-}
-
-BoundDelete Binder::bind_delete(const Delete& statement) {
-    BoundDelete bound;
-    Scope scope;
-    bind_with(statement.with, scope, bound.with, std::nullopt);
-    BoundPtr view_condition;
-    bound.target_in_from =
-        find_target(statement.target, statement.from, scope, bound, bound.from, view_condition);
-    if (statement.where) {
-        bound.where = bind_condition(*statement.where, scope);
-    }
-    bound.where = both(view_condition, bound.where);
-    bind_top(statement.top, scope, bound.top);
-    find_triggers(bound, 2);
-    if (statement.output) {
-        bind_output(*statement.output, bound);
-    }
+    bound.where = bind_rest(update, view_condition, scope, bound, DmlKind::Update);
     return bound;
 }
 

@@ -6,6 +6,11 @@
 
 namespace tsql {
 
+const char* CatalogForeignKey::action_text(int action) {
+    constexpr const char* actions[] = {"NO ACTION", "CASCADE", "SET NULL", "SET DEFAULT"};
+    return actions[action];
+}
+
 int CatalogTable::find_column(std::string_view column) const {
     const NameLess less;
     for (std::size_t i = 0; i < columns.size(); ++i) {

@@ -58,6 +58,9 @@ struct CatalogIndex {
 };
 
 struct CatalogForeignKey {
+    // "CASCADE" for an action, as both kinds of SQL write it.
+    static const char* action_text(int action);
+
     std::string name;
     std::vector<int> columns;
     std::string parent;

@@ -1,11 +1,10 @@
 // Literals, as nodes or as figures that shape the tree.
 #include "tsql/parser/grammar.h"
+#include "tsql/parser/parser.h"
 
 #include <charconv>
 
 namespace tsql {
-
-namespace {
 
 LiteralKind literal_kind(TokenKind kind) {
     switch (kind) {
@@ -18,8 +17,6 @@ LiteralKind literal_kind(TokenKind kind) {
     default: return LiteralKind::Text;
     }
 }
-
-} // namespace
 
 ExpressionPtr parse_literal(TokenCursor& cursor) {
     const Token& token = cursor.peek();

@@ -19,6 +19,9 @@ Batch parse(std::string_view text);
 // The same for tokens already cut from this text, as one has them after making its normal form.
 Batch parse(std::string_view text, const std::vector<Token>& tokens);
 
+// The literal a token of that kind becomes.
+LiteralKind literal_kind(TokenKind kind);
+
 // Parses a text that is one value or condition and nothing else, such as the default of a column.
 ExpressionPtr parse_expression(std::string_view text);
 

@@ -15,9 +15,7 @@ public:
     std::string take() { return std::move(text_); }
 
 private:
-    void line(const std::string& what) {
-        text_ += std::string(depth_ * 2, ' ') + what + '\n';
-    }
+    void line(const std::string& what) { text_ += std::string(depth_ * 2, ' ') + what + '\n'; }
 
     static std::string source(const PlanParameter& parameter) {
         const std::string index = " " + std::to_string(parameter.index);
@@ -38,11 +36,11 @@ private:
         ++depth_;
         for (std::size_t i = 0; i < statement.parameters.size(); ++i) {
             const PlanParameter& parameter = statement.parameters[i];
-            std::string shown = "?" + std::to_string(i + 1) + " " + source(parameter) + " " +
-                                parameter.type.text();
+            std::string shown =
+                "?" + std::to_string(i + 1) + " " + source(parameter) + " " + parameter.type.text();
             if (parameter.how != Conversion::None) {
-                shown += (parameter.how == Conversion::Assign ? " into " : " as ") +
-                         parameter.to.text();
+                shown +=
+                    (parameter.how == Conversion::Assign ? " into " : " as ") + parameter.to.text();
             }
             line(shown);
         }
@@ -160,8 +158,8 @@ private:
         }
     }
     void write(const SetOptionStep& step) {
-        line("set " + step.option + (step.value.empty() ? step.on ? " on" : " off"
-                                                        : " " + step.value));
+        line("set " + step.option +
+             (step.value.empty() ? step.on ? " on" : " off" : " " + step.value));
     }
     void write(const DeclareCursorStep& step) { sql("cursor " + step.name, step.query.sql); }
     void write(const BreakStep&) { line("break"); }

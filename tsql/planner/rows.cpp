@@ -11,10 +11,6 @@ namespace tsql {
 
 namespace {
 
-std::string stored(const CatalogTable& table) {
-    return (table.temporary ? "temp." : "") + quoted_name(table.stored_name);
-}
-
 bool assigns(const QueryStatement& statement) {
     const auto* select = statement.query.body->kind == QueryBodyKind::Select
                              ? &as<Select>(*statement.query.body)
@@ -149,7 +145,8 @@ SqlText Planner::collect_rows(const CatalogTable& table, const std::string& cond
         }
     }
     SqlText text{"INSERT INTO temp." + quoted_name(copy_name(table, true)) + "(zf_rowid" + names +
-                     ") SELECT rowid" + names + " FROM " + stored(table) + " WHERE " + condition,
+                     ") SELECT rowid" + names + " FROM " + sqlite::stored_table(table) + " WHERE " +
+                     condition,
                  {}};
     if (by_mark) {
         PlanParameter mark;
@@ -192,7 +189,8 @@ void Planner::insert(const Insert& statement, Steps& out) {
     }
     dml.main = emitter().insert(bound, bound.instead_of);
     if (captures && !bound.instead_of) {
-        dml.row_mark = SqlText{"SELECT coalesce(max(rowid),0) FROM " + stored(*bound.table), {}};
+        dml.row_mark =
+            SqlText{"SELECT coalesce(max(rowid),0) FROM " + sqlite::stored_table(*bound.table), {}};
         dml.collect.push_back(collect_rows(*bound.table, "rowid>?1", true));
     }
     add_output(bound, dml);
@@ -295,7 +293,7 @@ void Planner::truncate(const Truncate& statement, Steps& out) {
     SqlDml dml;
     dml.kind = DmlKind::Delete;
     dml.table = table->name;
-    dml.main = SqlText{"DELETE FROM " + stored(*table), {}};
+    dml.main = SqlText{"DELETE FROM " + sqlite::stored_table(*table), {}};
     dml.resets_identity = true;
     add(statement, std::move(dml), out);
 }

@@ -20,6 +20,14 @@ std::string enclosed(std::string_view text, char mark) {
 
 } // namespace
 
+std::string lower_case(std::string_view text) {
+    std::string result(text);
+    for (char& c : result) {
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+    }
+    return result;
+}
+
 std::string quoted_name(std::string_view name) {
     return enclosed(name, '"');
 }

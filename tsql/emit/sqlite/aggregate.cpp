@@ -1,4 +1,5 @@
 // Aggregates and window functions: SQLite's own where they are exact, ours for the rest.
+#include "tsql/emit/common/quote.h"
 #include "tsql/emit/sqlite/emitter.h"
 
 #include <algorithm>
@@ -6,13 +7,6 @@
 namespace tsql::sqlite {
 
 namespace {
-
-std::string lower_case(const std::string& name) {
-    std::string result = name;
-    std::transform(result.begin(), result.end(), result.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
-    return result;
-}
 
 const char* bound_text(FrameBoundKind kind) {
     switch (kind) {

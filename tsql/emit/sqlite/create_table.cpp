@@ -12,8 +12,6 @@ std::string stored_index(const CatalogTable& table, const CatalogIndex& index) {
     return (table.temporary ? "temp." : "") + quoted_name(table.stored_name + "." + index.name);
 }
 
-constexpr const char* actions[] = {"NO ACTION", "CASCADE", "SET NULL", "SET DEFAULT"};
-
 std::string foreign_key(const CatalogTable& table, const CatalogForeignKey& key) {
     std::string own;
     std::string parent;
@@ -23,8 +21,9 @@ std::string foreign_key(const CatalogTable& table, const CatalogForeignKey& key)
         parent += (i == 0 ? "" : ", ") + quoted_name(key.parent_columns[i]);
     }
     return "CONSTRAINT " + quoted_name(key.name) + " FOREIGN KEY (" + own + ") REFERENCES " +
-           quoted_name(key.parent) + " (" + parent + ") ON DELETE " + actions[key.on_delete] +
-           " ON UPDATE " + actions[key.on_update];
+           quoted_name(key.parent) + " (" + parent + ") ON DELETE " +
+           CatalogForeignKey::action_text(key.on_delete) + " ON UPDATE " +
+           CatalogForeignKey::action_text(key.on_update);
 }
 
 // A condition over the columns of one row, their table's name left out.

@@ -120,6 +120,8 @@ private:
     std::string set_operation_text(const BoundSetOperation& node, const std::vector<bool>* used,
                                    std::vector<ColumnForm>& forms, bool named);
     std::string order_text(const BoundQuery& query, const BoundSelect* select, bool by_number);
+    // The order by its expressions, for where the list's numbers mean nothing.
+    std::string order_by_value(const BoundQuery& query, const BoundSelect& select);
     std::string limit_text(const BoundQuery& query, const BoundSelect* select);
     std::string from_text(const std::vector<BoundSourcePtr>& from);
     std::string source_text(const BoundSource& source);
@@ -128,7 +130,6 @@ private:
     std::string apply_text(const BoundSource& source);
 
     // ---- changes (insert.cpp, update.cpp, delete.cpp)
-    std::string target_name(const RangeTable& target);
     std::string rows_of(const BoundChange& change, const std::vector<BoundSourcePtr>& from,
                         bool target_in_from, const BoundPtr& where);
     std::string old_rows(const BoundChange& change, const std::vector<BoundSourcePtr>& from,
@@ -150,6 +151,8 @@ private:
 };
 
 std::string alias_of(const RangeTable& table);
+// The table's name in the engine, quoted, with its schema when it is a temporary one.
+std::string stored_table(const CatalogTable& table);
 // The type a column is declared with in SQLite: the T-SQL type, its affinity fitting the values.
 std::string declared_column(const CatalogColumn& column);
 

@@ -12,6 +12,10 @@ std::string alias_of(const RangeTable& table) {
     return "t" + std::to_string(table.id);
 }
 
+std::string stored_table(const CatalogTable& table) {
+    return (table.temporary ? "temp." : "") + quoted_name(table.stored_name);
+}
+
 std::string Emitter::parameter(const PlanParameter& parameter) {
     for (std::size_t i = 0; i < parameters_.size(); ++i) {
         const PlanParameter& other = parameters_[i];

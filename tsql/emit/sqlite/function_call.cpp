@@ -4,7 +4,6 @@
 #include "tsql/emit/sqlite/emitter.h"
 
 #include <algorithm>
-#include <cctype>
 
 namespace tsql::sqlite {
 
@@ -23,10 +22,7 @@ constexpr DefaultArgument defaults[] = {
 };
 
 std::string runtime_name(const std::string& name) {
-    std::string result = "zf_" + name;
-    std::transform(result.begin(), result.end(), result.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
-    return result;
+    return "zf_" + lower_case(name);
 }
 
 bool takes_type(const std::string& name) {
@@ -145,8 +141,8 @@ Fragment Emitter::function(const BoundFunction& node) {
         return converted(std::move(result), real, node.type, ConvertMode::Cast, 0);
     }
     if (name == "YEAR" || name == "MONTH" || name == "DAY") {
-        result.text = "zf_datepart('" + runtime_name(name).substr(3) + "'," +
-                      value_of(node.arguments[0]).text + ")";
+        result.text =
+            "zf_datepart('" + lower_case(name) + "'," + value_of(node.arguments[0]).text + ")";
         result.bound = 10000;
         return result;
     }

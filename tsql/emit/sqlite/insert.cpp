@@ -12,10 +12,6 @@ const CatalogColumn& column_at(const BoundChange& change, int ordinal) {
     return change.table->columns[static_cast<std::size_t>(ordinal)];
 }
 
-std::string stored(const CatalogTable& table) {
-    return (table.temporary ? "temp." : "") + quoted_name(table.stored_name);
-}
-
 } // namespace
 
 std::string Emitter::insert_source(const BoundInsert& insert, const std::vector<int>& columns) {
@@ -69,8 +65,8 @@ std::string Emitter::insert_source(const BoundInsert& insert, const std::vector<
 
 SqlText Emitter::insert(const BoundInsert& insert, bool into_copy) {
     std::string text = with_clause(insert.with) + "INSERT INTO ";
-    text +=
-        into_copy ? "temp." + quoted_name(copy_name(*insert.table, true)) : stored(*insert.table);
+    text += into_copy ? "temp." + quoted_name(copy_name(*insert.table, true))
+                      : stored_table(*insert.table);
     std::string names;
     for (const int ordinal : insert.columns) {
         names += (names.empty() ? "" : ",") + quoted_name(column_at(insert, ordinal).name);
@@ -108,7 +104,7 @@ SqlText Emitter::output(const BoundChange& change, DmlKind kind) {
                        ".zf_rowid=" + alias_of(second) + ".zf_rowid ORDER BY " + alias_of(first) +
                        ".zf_rowid";
     if (change.output_into) {
-        text = "INSERT INTO " + stored(*change.output_into) + "(" + columns + ") " + text;
+        text = "INSERT INTO " + stored_table(*change.output_into) + "(" + columns + ") " + text;
     }
     return finish(std::move(text));
 }

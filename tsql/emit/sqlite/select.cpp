@@ -103,18 +103,23 @@ std::string Emitter::select_text(const BoundSelect& select, const BoundQuery* ow
     return text + limit_text(*owner, &select);
 }
 
+std::string Emitter::order_by_value(const BoundQuery& query, const BoundSelect& select) {
+    std::string text;
+    for (const BoundOrder& item : query.order) {
+        const BoundPtr& value = item.item >= 0
+                                    ? select.items[static_cast<std::size_t>(item.item)].expression
+                                    : item.expression;
+        text += (text.empty() ? " ORDER BY " : ", ") + collated(value) +
+                (item.descending ? " DESC" : "");
+    }
+    return text;
+}
+
 // TOP n WITH TIES: the rows whose rank by the order is at most n.
 std::string Emitter::ties_text(const BoundSelect& select, const BoundQuery& owner,
                                std::vector<ColumnForm>& forms, bool named) {
     SelectParts parts = select_parts(select, 0, nullptr);
-    std::string order;
-    for (const BoundOrder& item : owner.order) {
-        const BoundPtr& value = item.item >= 0
-                                    ? select.items[static_cast<std::size_t>(item.item)].expression
-                                    : item.expression;
-        order += (order.empty() ? "ORDER BY " : ", ") + collated(value) +
-                 (item.descending ? " DESC" : "");
-    }
+    const std::string order = order_by_value(owner, select);
     std::string columns;
     for (std::size_t i = 0; i < parts.items.size(); ++i) {
         forms.push_back({parts.items[i].form, parts.items[i].bound});
@@ -122,8 +127,9 @@ std::string Emitter::ties_text(const BoundSelect& select, const BoundQuery& owne
         columns += (i == 0 ? "" : ", ") + name + (named ? " AS " + name : "");
     }
     std::string list = list_text(parts.items, select, select.distinct, true);
-    return "SELECT " + columns + " FROM (" + list + ", rank() OVER (" + order + ") AS c0" +
-           parts.tail + ") WHERE c0<=" + value_of(select.top->count).text + " ORDER BY c0";
+    return "SELECT " + columns + " FROM (" + list + ", rank() OVER (" + order.substr(1) +
+           ") AS c0" + parts.tail + ") WHERE c0<=" + value_of(select.top->count).text +
+           " ORDER BY c0";
 }
 
 } // namespace tsql::sqlite

@@ -127,18 +127,8 @@ std::string Emitter::apply_text(const BoundSource& source) {
     }
     return text + alias_of(inner) + ".rowid IN (SELECT " + alias_of(inner) + ".rowid FROM " +
            table_text(inner) + (select.where ? " WHERE " + condition(select.where) : "") +
-           [&] {
-               std::string order;
-               for (const BoundOrder& item : table.query->order) {
-                   const BoundPtr& value =
-                       item.item >= 0 ? select.items[static_cast<std::size_t>(item.item)].expression
-                                      : item.expression;
-                   order += (order.empty() ? " ORDER BY " : ", ") + collated(value) +
-                            (item.descending ? " DESC" : "");
-               }
-               return order;
-           }() +
-           " LIMIT " + value_of(select.top->count).text + ")";
+           order_by_value(*table.query, select) + " LIMIT " + value_of(select.top->count).text +
+           ")";
 }
 
 } // namespace tsql::sqlite

@@ -55,10 +55,6 @@ bool flatten(const BoundSource& source, std::vector<const BoundSource*>& leaves,
 
 } // namespace
 
-std::string Emitter::target_name(const RangeTable& target) {
-    return (target.temporary ? "temp." : "") + quoted_name(target.stored_name);
-}
-
 // FROM … WHERE … of the rows that change, the target among the tables.
 std::string Emitter::rows_of(const BoundChange& change, const std::vector<BoundSourcePtr>& from,
                              bool target_in_from, const BoundPtr& where) {
@@ -72,7 +68,7 @@ std::string Emitter::rows_of(const BoundChange& change, const std::vector<BoundS
     if (change.top) {
         text += change.top->percent
                     ? " LIMIT zf_percent(" + value_of(change.top->count).text +
-                          ",(SELECT count(*) FROM " + target_name(*change.target) + "))"
+                          ",(SELECT count(*) FROM " + stored_table(*change.table) + "))"
                     : " LIMIT " + value_of(change.top->count).text;
     }
     return text;
@@ -97,7 +93,7 @@ SqlText Emitter::update(const BoundUpdate& update, bool skip_unchanged) {
         inner = flatten(*source, leaves, conditions) && inner;
     }
     collect = collect || (update.target_in_from && !inner);
-    std::string text = with_clause(update.with) + "UPDATE " + target_name(*update.target) + " AS ";
+    std::string text = with_clause(update.with) + "UPDATE " + stored_table(*update.table) + " AS ";
     std::string assignments;
     std::string changes;
     if (collect) {
@@ -149,7 +145,7 @@ SqlText Emitter::update(const BoundUpdate& update, bool skip_unchanged) {
 
 std::vector<SqlText> Emitter::update_in_turns(const BoundUpdate& update) {
     const std::string alias = alias_of(*update.target);
-    const std::string target = target_name(*update.target);
+    const std::string target = stored_table(*update.table);
     std::string list = alias + ".rowid";
     std::string columns = "r INTEGER PRIMARY KEY";
     std::string aside;
@@ -206,26 +202,6 @@ SqlText Emitter::fill_old_rows(const BoundUpdate& update) {
 
 SqlText Emitter::fill_old_rows(const BoundDelete& statement) {
     return finish(old_rows(statement, statement.from, statement.target_in_from, statement.where));
-}
-
-SqlText Emitter::remove(const BoundDelete& statement, bool from_copy) {
-    const std::string target = target_name(*statement.target);
-    const std::string alias = alias_of(*statement.target);
-    if (from_copy) {
-        return finish("DELETE FROM " + target + " WHERE rowid IN (SELECT zf_rowid FROM temp." +
-                      quoted_name(copy_name(*statement.table, false)) + ")");
-    }
-    const std::string with = with_clause(statement.with);
-    if (statement.from.empty() && !statement.top) {
-        std::string text = with + "DELETE FROM " + target + " AS " + alias;
-        if (statement.where) {
-            text += " WHERE " + condition(statement.where);
-        }
-        return finish(std::move(text));
-    }
-    return finish(with + "DELETE FROM " + target + " WHERE rowid IN (SELECT " + alias + ".rowid" +
-                  rows_of(statement, statement.from, statement.target_in_from, statement.where) +
-                  ")");
 }
 
 } // namespace tsql::sqlite
