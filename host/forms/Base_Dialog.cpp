@@ -28,9 +28,8 @@ void TFrm_Base_Dialog::btn_okClick() {
     if (CheckAll()) ModalResult = mrOk;
 }
 
-void TFrm_Base_Dialog::btn_CancelClick() {
-    if (CloseQuery()) ModalResult = mrCancel;
-}
+// Nothing is asked: pressing 取消 says what is meant. Esc, which may be a slip, asks first.
+void TFrm_Base_Dialog::btn_CancelClick() { ModalResult = mrCancel; }
 
 // Pressing a button by its key is going there and pressing it: the field left is checked first.
 void TFrm_Base_Dialog::press(TButton& button) {

@@ -97,7 +97,7 @@ TEST_F(CodeList, a_field_never_entered_is_checked_too) {
     EXPECT_TRUE(desk.data.executed().empty());
 }
 
-TEST_F(CodeList, changing_locks_the_key_and_cancel_asks_only_about_changes) {
+TEST_F(CodeList, changing_locks_the_key_and_esc_asks_only_about_changes) {
     desk.ui.inside.push_back([&](TForm& form) {
         EXPECT_TRUE(list.dialog.Word.ReadOnly);
         EXPECT_TRUE(list.dialog.Title.focused());
@@ -115,6 +115,13 @@ TEST_F(CodeList, changing_locks_the_key_and_cancel_asks_only_about_changes) {
         EXPECT_EQ(form.ModalResult.get(), mrCancel);
     });
     list.DBGridEh.double_click();
+    desk.ui.inside.push_back([&](TForm& form) {
+        tests::type(form, "x");
+        list.dialog.btn_Cancel.Click();
+        EXPECT_EQ(form.ModalResult.get(), mrCancel);
+    });
+    list.DBGridEh.double_click();
+    EXPECT_EQ(desk.ui.questions.size(), 2U); // both by Esc; the button asks nothing
     desk.ui.inside.push_back([&](TForm&) { EXPECT_FALSE(list.dialog.Word.ReadOnly); });
     tests::press(list, "Insert");
 }

@@ -113,6 +113,7 @@ bool TForm::press_button_for(const Key& key) {
         auto* button = dynamic_cast<TButton*>(component);
         if (button == nullptr || !button->usable()) continue;
         if (!(enter ? button->Default : button->Cancel)) continue;
+        if (esc && !CloseQuery()) return true; // unsaved work keeps it open
         SetFocusTo(*button);
         button->Click();
         return true;
