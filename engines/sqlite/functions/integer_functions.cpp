@@ -58,6 +58,10 @@ void imod(const Call& call) {
     call.give(divisor == -1 ? 0 : call.integer(0) % divisor);
 }
 
+void exclusive_or(const Call& call) {
+    call.give(call.integer(0) ^ call.integer(1));
+}
+
 // Negative digits round places before the point.
 void round_int(const Call& call) {
     const std::int64_t digits = call.integer(1);
@@ -81,6 +85,7 @@ constexpr FunctionEntry entries[] = {
     {"zf_mul8", 2, Nature::pure, mul8},
     {"zf_idiv", 2, Nature::pure, idiv},
     {"zf_imod", 2, Nature::pure, imod},
+    {"zf_xor", 2, Nature::pure, exclusive_or},
     {"zf_round_int", 3, Nature::pure, round_int},
 };
 

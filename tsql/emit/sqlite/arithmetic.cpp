@@ -51,10 +51,8 @@ Fragment Emitter::integer_arithmetic(const BoundArithmetic& node, Fragment left,
     switch (node.op) {
     case BinaryOperator::Divide: result.text = call("zf_idiv", left.text, right.text); break;
     case BinaryOperator::Modulo: result.text = call("zf_imod", left.text, right.text); break;
-    case BinaryOperator::BitXor:
-        result.text =
-            "((" + left.text + "|" + right.text + ")-(" + left.text + "&" + right.text + "))";
-        break;
+    // SQLite has no operator for it; naming an operand twice would double every level of nesting.
+    case BinaryOperator::BitXor: result.text = call("zf_xor", left.text, right.text); break;
     case BinaryOperator::BitAnd:
     case BinaryOperator::BitOr:
         result.text = "(" + left.text + sign_of(node.op) + right.text + ")";

@@ -30,6 +30,7 @@
 // Integers
 //   zf_int1(x) zf_int2(x) zf_int4(x)  x when within tinyint, smallint, int; else 8115
 //   zf_add8(a,b) zf_sub8(a,b) zf_mul8(a,b)  64 bits; 8115
+//   zf_xor(a,b)                       bits that differ
 //   zf_idiv(a,b) zf_imod(a,b)         towards zero; 8134. x % has the sign of the dividend
 //
 // Decimals
