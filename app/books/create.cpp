@@ -54,17 +54,26 @@ void insert_rows(engines::Session& session, const schema::TemplateTable& table) 
     }
 }
 
+// The template knows the words of every scheme; books keep those of their own, and 记 besides,
+// under which the carry-forward writes its voucher.
+std::string keep_words_of(int scheme) {
+    const char* words = scheme == 2   ? "'收','付','转'"
+                        : scheme == 3 ? "'现收','现付','银收','银付','转'"
+                                      : "'记'";
+    return "DELETE FROM D6802 WHERE PZZ NOT IN ('记'," + std::string(words) + ");";
+}
+
 std::string own_rows(const NewBooks& wanted) {
     const auto setting = [](const char* name, const std::string& value) {
         return "INSERT INTO SYS_SETTING (NAME, VALUE) VALUES (" + host::quoted(name) + "," +
                host::quoted(value) + ");";
     };
     return "INSERT INTO D6600 (ID, PARAM) VALUES (1,''),(2,''),(3,'" +
-           std::to_string(wanted.scheme) + "');" +
+           std::to_string(wanted.scheme) + "');" + keep_words_of(wanted.scheme) +
            "INSERT INTO SYS_USER (USER_ID, USER_NAME, PASSWORD_HASH, ADMINISTRATOR) VALUES "
-           "('admin','管理员'," + host::quoted(wanted.password_hash) + ",1);" +
-           setting("company", wanted.company) + setting("template", wanted.template_name) +
-           setting("mode", "small");
+           "('admin','管理员'," +
+           host::quoted(wanted.password_hash) + ",1);" + setting("company", wanted.company) +
+           setting("template", wanted.template_name) + setting("mode", "small");
 }
 
 void build(engines::Session& session, const NewBooks& wanted, const host::Clock& clock) {
