@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <exception>
 
-#include "bench/work/measures.h"
+#include "bench/measures/all.h"
 
 int main(int argc, char** argv) {
     const std::string folder = argc > 1 ? argv[1] : ".";

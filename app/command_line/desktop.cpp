@@ -2,7 +2,7 @@
 #include <memory>
 
 #include "app/command_line/commands.h"
-#include "app/work/desktop_session.h"
+#include "app/workplace/desktop_session.h"
 
 namespace app {
 

@@ -4,10 +4,10 @@
 
 #include "app/command_line/commands.h"
 #include "app/login/password_source.h"
-#include "app/work/module.h"
-#include "app/work/query_window.h"
-#include "app/work/run_driver.h"
-#include "app/work/workplace.h"
+#include "app/workplace/module.h"
+#include "app/workplace/query_window.h"
+#include "app/workplace/run_driver.h"
+#include "app/workplace/workplace.h"
 #include "automation/drive/stream_lines.h"
 
 namespace app {

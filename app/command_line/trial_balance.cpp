@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "app/command_line/commands.h"
-#include "app/work/printed_trial_balance.h"
+#include "app/workplace/printed_trial_balance.h"
 
 namespace app {
 

@@ -1,8 +1,8 @@
 // Runs a batch on a connection of its own.
-#include "app/work/query_window.h"
+#include "app/workplace/query_window.h"
 
 #include "app/books/open.h"
-#include "app/work/workplace.h"
+#include "app/workplace/workplace.h"
 #include "automation/sql/result_json.h"
 
 namespace app {

@@ -1,7 +1,7 @@
 // Reading: the trial balance of a period and the voucher list of a month.
 #include "bench/hand/connection.h"
-#include "bench/work/measures.h"
-#include "bench/work/session.h"
+#include "bench/measures/all.h"
+#include "bench/measures/session.h"
 #include "module/ledgers/trial_balance_query.h"
 
 namespace bench {

@@ -2,7 +2,7 @@
 // its literals.
 #include <string>
 
-#include "bench/work/measures.h"
+#include "bench/measures/all.h"
 #include "module/ledgers/trial_balance_query.h"
 #include "module/vouchers/posting_batch.h"
 #include "schema/schema.h"

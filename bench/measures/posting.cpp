@@ -3,8 +3,8 @@
 #include <unordered_map>
 
 #include "bench/hand/connection.h"
-#include "bench/work/measures.h"
-#include "bench/work/session.h"
+#include "bench/measures/all.h"
+#include "bench/measures/session.h"
 #include "module/vouchers/posting_batch.h"
 
 namespace bench {

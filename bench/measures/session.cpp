@@ -1,5 +1,5 @@
 // An open set of books and a receiver that reads all it is given.
-#include "bench/work/session.h"
+#include "bench/measures/session.h"
 
 #include "app/books/engines.h"
 #include "engines/engine.h"

@@ -1,5 +1,5 @@
 // Requests out, answers in.
-#include "app/work/scripted_person.h"
+#include "app/workplace/scripted_person.h"
 
 namespace app {
 

@@ -1,6 +1,6 @@
 // The desktop of a program that was built without one.
 #include "app/refusal.h"
-#include "app/work/desktop_session.h"
+#include "app/workplace/desktop_session.h"
 
 namespace app {
 

@@ -1,7 +1,7 @@
 // Saving one voucher of four lines, durable, with its row of the operation log.
 #include "bench/hand/connection.h"
-#include "bench/work/measures.h"
-#include "bench/work/session.h"
+#include "bench/measures/all.h"
+#include "bench/measures/session.h"
 #include "host/values/sql_text.h"
 #include "schema/log_chain.h"
 

@@ -1,5 +1,5 @@
 // Finds the books, opens them, and hands the desktop what it needs.
-#include "app/work/desktop_session.h"
+#include "app/workplace/desktop_session.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -8,8 +8,8 @@
 #include "app/data/error_sentence.h"
 #include "app/demo/demo_books.h"
 #include "app/refusal.h"
-#include "app/work/module.h"
-#include "app/work/workplace.h"
+#include "app/workplace/module.h"
+#include "app/workplace/workplace.h"
 #include "desktop/desktop.h"
 #include "host/forms/form.h"
 

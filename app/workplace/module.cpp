@@ -1,5 +1,5 @@
 // Loads the module at run time.
-#include "app/work/module.h"
+#include "app/workplace/module.h"
 
 #include <dlfcn.h>
 #include <filesystem>

@@ -1,11 +1,11 @@
 // Types the conditions into the form and reads its grid.
-#include "app/work/printed_trial_balance.h"
+#include "app/workplace/printed_trial_balance.h"
 
 #include "app/login/password_source.h"
 #include "app/refusal.h"
-#include "app/work/run_driver.h"
-#include "app/work/scripted_person.h"
-#include "app/work/workplace.h"
+#include "app/workplace/run_driver.h"
+#include "app/workplace/scripted_person.h"
+#include "app/workplace/workplace.h"
 #include "automation/sql/text_table.h"
 
 namespace app {

@@ -1,7 +1,7 @@
 // A driver as the host's user interface, for as long as it has requests.
-#include "app/work/run_driver.h"
+#include "app/workplace/run_driver.h"
 
-#include "app/work/module.h"
+#include "app/workplace/module.h"
 #include "automation/drive/driver.h"
 #include "host/forms/form.h"
 #include "host/ports/host.h"

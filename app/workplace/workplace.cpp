@@ -1,5 +1,5 @@
 // Puts engine, settings and clock behind the host's ports.
-#include "app/work/workplace.h"
+#include "app/workplace/workplace.h"
 
 #include "app/books/open.h"
 #include "automation/sql/collected_result.h"
