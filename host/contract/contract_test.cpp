@@ -5,6 +5,8 @@
 #include "host/contract/Zpy.h"
 #include "host/controls/edits.h"
 #include "host/dataset/client_dataset.h"
+#include "host/forms/Sys_Choose.h"
+#include "host/forms/Sys_Report.h"
 #include "host/values/errors.h"
 #include "tests/support/fake_interface.h"
 
@@ -17,6 +19,32 @@ public:
     TSheet() : TForm(nullptr) {}
     const char* ClassName() const override { return "TSheet"; }
     TLinkEdit Account{this, "Account", "科目"};
+};
+
+// A report that keeps what it was handed.
+class TReport : public TFrm_Sys_Report {
+public:
+    TReport() : TFrm_Sys_Report(nullptr) {}
+    const char* ClassName() const override { return "TReport"; }
+    void InitReport(TClientDataSet& head, TClientDataSet& lines, const std::string&,
+                    const std::string& title, const std::string&, const std::string& action,
+                    const std::string&, const std::string&) override {
+        handed = title + " " + action + " " + head.FieldByName("NOID").AsText() + " " +
+                 std::to_string(lines.RecordCount());
+    }
+    std::string handed;
+};
+
+// A chooser that puts its answer into the row it was given.
+class TPartner : public TFrm_Sys_GETDW {
+public:
+    TPartner() : TFrm_Sys_GETDW(nullptr) {}
+    const char* ClassName() const override { return "TPartner"; }
+    void init(TClientDataSet& target, const std::string& kind) override {
+        target.Edit();
+        target.FieldByName("NOID").SetValue(kind);
+        target.Post();
+    }
 };
 
 struct Contract : ::testing::Test {
@@ -33,6 +61,20 @@ TEST_F(Contract, a_query_fills_the_dataset_and_is_remembered) {
     const SentStatement& sent = the_host().statements.at(0);
     EXPECT_EQ(sent.call + "|" + sent.function + "|" + sent.text,
               "opensql|682|select pzz from d6802");
+}
+
+TEST_F(Contract, the_hosts_own_dialogs_work_on_the_callers_rows) {
+    rows.DefineField("NOID", FieldType::Text);
+    rows.Open();
+    rows.Append();
+    rows.Post();
+    TPartner partner;
+    static_cast<TFrm_Sys_GETDW&>(partner).init(rows, "K01");
+    TReport report;
+    static_cast<TFrm_Sys_Report&>(report).InitReport(rows, rows, "661", "记帐凭证", "", "preview",
+                                                     "", "");
+    EXPECT_EQ(report.handed, "记帐凭证 preview K01 1");
+    EXPECT_EQ(report.btn_Cancel.KeyHint, "Esc");
 }
 
 TEST_F(Contract, a_failed_query_throws_and_leaves_the_dataset_as_it_was) {
