@@ -4,6 +4,20 @@
 
 namespace tsql {
 
+namespace {
+
+// Which rows tie is a question of their order.
+void check_ties(const std::optional<Top>& top, const Query* owner) {
+    if (!top || !top->with_ties || (owner != nullptr && !owner->order.empty())) {
+        return;
+    }
+    throw Refusal(1062, top->at,
+                  "The TOP N WITH TIES clause is not allowed without a corresponding ORDER BY "
+                  "clause.");
+}
+
+} // namespace
+
 std::unique_ptr<BoundBody> Binder::bind_select(const Select& node, Scope& scope, const Query* owner,
                                                BoundQuery& result) {
     auto select = std::make_unique<BoundSelect>();
@@ -15,6 +29,7 @@ std::unique_ptr<BoundBody> Binder::bind_select(const Select& node, Scope& scope,
     }
     bind_grouping(node, scope, *select);
     select->distinct = node.distinct;
+    check_ties(node.top, owner);
     bind_top(node.top, scope, select->top);
     scope.aggregates_allowed = true;
     if (node.having) {

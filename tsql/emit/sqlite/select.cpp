@@ -127,7 +127,7 @@ std::string Emitter::ties_text(const BoundSelect& select, const BoundQuery& owne
         columns += (i == 0 ? "" : ", ") + name + (named ? " AS " + name : "");
     }
     std::string list = list_text(parts.items, select, select.distinct, true);
-    return "SELECT " + columns + " FROM (" + list + ", rank() OVER (" + order.substr(1) +
+    return "SELECT " + columns + " FROM (" + list + ", rank() OVER (" + (order.empty() ? "" : order.substr(1)) +
            ") AS c0" + parts.tail + ") WHERE c0<=" + value_of(select.top->count).text +
            " ORDER BY c0";
 }
