@@ -127,9 +127,9 @@ std::string Emitter::ties_text(const BoundSelect& select, const BoundQuery& owne
         columns += (i == 0 ? "" : ", ") + name + (named ? " AS " + name : "");
     }
     std::string list = list_text(parts.items, select, select.distinct, true);
-    return "SELECT " + columns + " FROM (" + list + ", rank() OVER (" + (order.empty() ? "" : order.substr(1)) +
-           ") AS c0" + parts.tail + ") WHERE c0<=" + value_of(select.top->count).text +
-           " ORDER BY c0";
+    const std::string by = order.empty() ? "" : order.substr(1); // without the blank before it
+    return "SELECT " + columns + " FROM (" + list + ", rank() OVER (" + by + ") AS c0" +
+           parts.tail + ") WHERE c0<=" + value_of(select.top->count).text + " ORDER BY c0";
 }
 
 } // namespace tsql::sqlite
