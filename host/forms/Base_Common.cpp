@@ -56,9 +56,19 @@ void TFrm_Base_Common::OpenFunction(const Trecord& record) {
     FunctionCode = std::to_string(record.code());
     const auto& user = record.user;
     SetUserParam(user[0], user[1], user[2], user[3], user[4], user[5]);
-    if (the_host().may({FunctionCode, "open"})) return;
-    DISPINFO("您没有打开“" + Caption.get() + "”的权限，请与系统管理员联系。", 5);
+    RequireRight("open", "打开“" + Caption.get() + "”");
+}
+
+void TFrm_Base_Common::RequireRight(const std::string& action, const std::string& what) const {
+    if (the_host().may({RightsFunction(), action})) return;
+    DISPINFO("您没有" + what + "的权限，请与系统管理员联系。", 5);
     Abort();
+}
+
+bool TFrm_Base_Common::BooksAreStrict() const {
+    TClientDataSet mode;
+    opensql(mode, FunctionCode, "SELECT VALUE FROM SYS_SETTING WHERE NAME='mode'");
+    return !mode.IsEmpty() && mode.FieldByName("VALUE").AsText() == "strict";
 }
 
 void TFrm_Base_Common::LeaveAllFields() {

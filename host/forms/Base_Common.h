@@ -44,10 +44,16 @@ public:
 
     std::string RightsFunction() const override;
 
+    // Small firms may take back what was posted and closed; strict books correct in red only.
+    bool BooksAreStrict() const;
+
 protected:
     // Takes the menu pick over: function code and parameters. Refuses with a message and Abort()
     // when the user may not open the function.
     void OpenFunction(const Trecord& record);
+    // For buttons that are no actions: refuses with a message and Abort() when the user lacks the
+    // right `action` ("post") on this function; `what` names the act in the message ("登帐").
+    void RequireRight(const std::string& action, const std::string& what) const;
 
     // Every field is checked as if it had been left, in the order of the layout; refuses by
     // Abort().

@@ -72,13 +72,6 @@ void TF6663::remember_choice() {
 
 // ---- checking ----
 
-// Strict books keep what was posted; small firms may take it back.
-bool TF6663::books_are_strict() {
-    TClientDataSet mode;
-    opensql(mode, FunctionCode, "SELECT VALUE FROM SYS_SETTING WHERE NAME='mode'");
-    return !mode.IsEmpty() && mode.FieldByName("VALUE").AsText() == "strict";
-}
-
 // The last voucher is not looked at: a gap before it shows at the one that follows the gap.
 bool TF6663::numbers_run_on(const std::string& period) {
     TClientDataSet numbers;
@@ -100,12 +93,12 @@ void TF6663::btn_okClick() {
 void TF6663::btn_okClick(const TButton& sender) {
     InitForm(record_);
     if (period_.empty()) refuse("没有初始建帐!请从[会计科目初始]模块进行首次建帐!");
-    if (!the_host().may({FunctionCode, "post"})) refuse("您没有登帐的权限，请与系统管理员联系。");
+    RequireRight("post", "登帐");
     if (R1.Checked && !numbers_run_on(period_)) refuse("凭证号不连续!");
     const auto period = Period::parse(period_);
     if (!period) refuse("当前会计期间“" + period_ + "”不是年月!请检查会计科目初始。");
     const bool posting = &sender == &btn_ok;
-    if (!posting && books_are_strict()) {
+    if (!posting && BooksAreStrict()) {
         refuse("本帐套按严格方式管理,不能反登帐!请用红字凭证更正。");
     }
     const std::string batch = posting ? posting_batch(*period) : unposting_batch(*period);

@@ -28,7 +28,6 @@ private:
     void read_counts();
     void remember_choice();
     void restore_choice();
-    bool books_are_strict();
     bool numbers_run_on(const std::string& period);
     std::string period_;
 };
