@@ -23,7 +23,7 @@ test: build
 	@ctest --test-dir $(BUILD) --output-on-failure
 
 test-sanitized: packages
-	@cmake -S . -B build-asan $(CMAKE_FLAGS) -DZF_SANITIZE=ON -DCMAKE_CXX_FLAGS_RELEASE="-O1 -g1" \
+	@cmake -S . -B build-asan $(CMAKE_FLAGS) -DZF_SANITIZE=ON \
 	  > build-asan.configure.log 2>&1 || { cat build-asan.configure.log; exit 1; }
 	@cmake --build build-asan -j $(JOBS)
 	@ctest --test-dir build-asan --output-on-failure
