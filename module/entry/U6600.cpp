@@ -7,6 +7,7 @@
 #include "module/masterdata/U6681.h"
 #include "module/masterdata/U6682.h"
 #include "module/masterdata/U6683.h"
+#include "module/masterdata/U6691.h"
 #include "module/vouchers/U6661.h"
 #include "module/vouchers/U6663.h"
 
@@ -54,6 +55,7 @@ constexpr Function functions[] = {
     {682, modeless<TF6682, F6682>}, // 凭证字
     {683, modeless<TF6683, F6683>}, // 常用摘要
     {689, modeless<TF6689, F6689>}, // 试算平衡表
+    {691, modeless<TF6691, F6691>}, // 现金流量项目
 };
 
 } // namespace

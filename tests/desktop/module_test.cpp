@@ -44,6 +44,9 @@ struct BooksDesk : Desk {
                     {{"1001", "现金", "Z"}, {"1002", "银行存款", "Z"}, {"100201", "工行", "1002"}});
         data.answer("select * From d6802", {"PZZ text", "PZZ_PRINT text", "T int", "PYM text"},
                     {{"记", "记帐凭证", "1", "JZPZ"}});
+        data.answer("SELECT * FROM D6820", {"ID text", "XJLL text", "IO text", "OID text"},
+                    {{"1", "经营活动产生的现金流量", "流入", "ZZZ"},
+                     {"11", "经营活动现金流入", "流入", "1"}});
         data.answer("select * From d6803", {"GUID text", "ZY text", "PYM text"},
                     {{"G1", "收货款", "SHK"}});
     }
@@ -107,13 +110,13 @@ TEST(ModuleForms, an_unfinished_voucher_is_refused_and_the_focus_stays) {
 
 TEST(ModuleForms, every_function_of_the_first_books_is_drawn) {
     BooksDesk desk;
-    for (int code : {661, 662, 681, 682, 683}) {
+    for (int code : {661, 662, 681, 682, 683, 691}) {
         const std::string text = std::to_string(code);
         desk.keys({"Ctrl+G", text.substr(0, 1), text.substr(1, 1), text.substr(2, 1), "Enter"});
         EXPECT_NE(host::the_host().active, nullptr) << code;
         desk.keep(text);
     }
-    EXPECT_EQ(host::the_host().forms.size(), 5u);
+    EXPECT_EQ(host::the_host().forms.size(), 6u);
 }
 
 TEST(ModuleForms, posting_stands_over_the_frame_until_it_is_left) {
