@@ -29,7 +29,7 @@ test-sanitized: packages
 	@ctest --test-dir build-asan --output-on-failure
 
 bench: build
-	@$(BUILD)/zf_bench $(BUILD)
+	@$(BUILD)/zf_bench $(BUILD) $(MEASURE)
 
 format:
 	@git ls-files '*.cpp' '*.h' | xargs clang-format -i

@@ -2,26 +2,49 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <string_view>
 
 #include "bench/measures/all.h"
 
+namespace {
+
+struct Measure {
+    std::string_view name;
+    std::vector<bench::Row> (*run)(const bench::BigBooks&);
+    bool at_every_size = true; // else in the smaller books only
+};
+
+constexpr Measure measures[] = {
+    {"compilation", bench::compilation, false}, {"posting", bench::posting},
+    {"saving", bench::saving},                  {"trial_balance", bench::trial_balance},
+    {"voucher_list", bench::voucher_list},
+};
+
+// Without a name every measure is wanted.
+bool wanted(const Measure& measure, int argc, char** argv) {
+    for (int i = 2; i < argc; ++i)
+        if (measure.name == argv[i]) return true;
+    return argc <= 2;
+}
+
+} // namespace
+
+// zf_bench [FOLDER [MEASURE …]]
 int main(int argc, char** argv) {
     const std::string folder = argc > 1 ? argv[1] : ".";
     const bool small = std::getenv("ZF_BENCH_SMALL") != nullptr;
     try {
         std::vector<bench::Row> rows;
-        const auto add = [&rows](const std::vector<bench::Row>& more) {
-            rows.insert(rows.end(), more.begin(), more.end());
-        };
         const int sizes[] = {small ? 10'000 * 3 : 100'000, small ? 100'000 : 1'000'000};
         for (int vouchers : sizes) {
             std::fprintf(stderr, "books of %d vouchers …\n", vouchers);
             const bench::BigBooks books = bench::big_books(folder, vouchers);
-            if (vouchers == sizes[0]) add(bench::compilation(books));
-            add(bench::posting(books));
-            add(bench::saving(books));
-            add(bench::trial_balance(books));
-            add(bench::voucher_list(books));
+            for (const Measure& measure : measures) {
+                if (!wanted(measure, argc, argv)) continue;
+                if (!measure.at_every_size && vouchers != sizes[0]) continue;
+                const std::vector<bench::Row> more = measure.run(books);
+                rows.insert(rows.end(), more.begin(), more.end());
+            }
         }
         bench::print(rows);
     } catch (const std::exception& failure) {

@@ -20,6 +20,7 @@ std::span<const FunctionEntry> object_functions();
 
 void register_aggregates(sqlite3* connection, Runtime& runtime);
 void register_text_aggregates(sqlite3* connection, Runtime& runtime);
+void register_groups(sqlite3* connection);
 void register_collations(sqlite3* connection);
 
 // All of the above. The runtime must outlive the connection.

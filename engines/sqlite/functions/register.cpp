@@ -37,6 +37,7 @@ void register_everything(sqlite3* connection, Runtime& runtime) {
         register_functions(connection, family, runtime);
     register_aggregates(connection, runtime);
     register_text_aggregates(connection, runtime);
+    register_groups(connection);
 }
 
 } // namespace engines

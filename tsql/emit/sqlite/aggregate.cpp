@@ -53,6 +53,13 @@ std::string Emitter::over_clause(const BoundAggregate& node) {
     return " OVER (" + text + ")";
 }
 
+Fragment Emitter::narrow_sum(const Type& type, const std::string& sum) {
+    Fragment result;
+    result.text = type.kind == TypeKind::Int ? "zf_int4(" + sum + ")" : sum;
+    result.bound = type.is_decimal() ? narrow_limit : bound_of(type);
+    return result;
+}
+
 Fragment Emitter::sum_of(const BoundAggregate& node, const std::string& over) {
     const BoundPtr& argument = node.arguments[0];
     const Fragment value = value_of(argument);
@@ -65,13 +72,7 @@ Fragment Emitter::sum_of(const BoundAggregate& node, const std::string& over) {
         result.form = Form::Wide;
         return result;
     }
-    result.text = "sum(" + distinct + value.text + ")" + over;
-    if (node.type.kind == TypeKind::Int) {
-        result.text = "zf_int4(" + result.text + ")";
-    } else if (node.type.is_decimal()) {
-        result.bound = narrow_limit;
-    }
-    return result;
+    return narrow_sum(node.type, "sum(" + distinct + value.text + ")" + over);
 }
 
 Fragment Emitter::average_of(const BoundAggregate& node, const std::string& over) {

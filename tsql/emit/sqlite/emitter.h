@@ -71,6 +71,8 @@ private:
     Fragment user_function(const BoundUserFunction& node);
     Fragment aggregate(const BoundAggregate& node);
     Fragment sum_of(const BoundAggregate& node, const std::string& over);
+    // What a sum of narrow numbers, given as SQLite's text, is in the sum's type.
+    Fragment narrow_sum(const Type& type, const std::string& sum);
     Fragment average_of(const BoundAggregate& node, const std::string& over);
     std::string string_aggregate(const BoundAggregate& node);
     std::string over_clause(const BoundAggregate& node);
@@ -127,6 +129,9 @@ private:
     std::string source_text(const BoundSource& source);
     std::string table_text(const RangeTable& table);
     std::string values_text(const RangeTable& table);
+    // The query as sums gathered in one pass, "" when it is not of that kind (gathering.cpp).
+    std::string gathered_query(const BoundQuery& query, const std::vector<bool>& used,
+                               std::vector<ColumnForm>& forms);
     std::string apply_text(const BoundSource& source);
 
     // ---- changes (insert.cpp, update.cpp, delete.cpp)
@@ -143,7 +148,8 @@ private:
     bool inline_literals_;
     std::set<int>* passed_;
     bool volatile_ = false;
-    int conditional_ = 0; // inside branches that may not be reached
+    bool gathers_ = false; // the table being emitted is read as a whole, whatever is asked of it
+    int conditional_ = 0;  // inside branches that may not be reached
     std::vector<PlanParameter> parameters_;
     std::map<int, std::vector<ColumnForm>> forms_; // of derived tables, by id
     // Grouping expressions that are NULL in the grouping being emitted.

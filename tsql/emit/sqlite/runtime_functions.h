@@ -97,8 +97,14 @@
 //   zf_string_agg_by(x,separator,key,descending)  in order of key; a text key by ZF
 //   zf_stdev(x) zf_stdevp(x) zf_var(x) zf_varp(x) [w]  of float
 //   zf_checksum_agg(x)
+//   zf_group_sums(k, key…, value…)  the integers `value…` summed by the bytes of the k keys, all
+//                            groups in one BLOB, for
+//   zf_groups(b)             a table of these groups: c1, c2 … the keys, then the sums; NULL for a
+//                            sum of NULLs; most_group_columns at most
 
 namespace tsql::sqlite {
+
+inline constexpr int most_group_columns = 16;
 
 inline constexpr const char* database_collation = "ZF";
 inline constexpr const char* case_sensitive_collation = "ZF_CS";

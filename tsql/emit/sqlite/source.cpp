@@ -69,7 +69,13 @@ std::string Emitter::table_text(const RangeTable& table) {
         used.push_back(column.used);
     }
     std::vector<ColumnForm> forms;
-    const std::string text = query_text(*table.query, &used, forms, true);
+    const bool gathers = std::exchange(gathers_, false); // not the tables inside
+    std::string text = gathers ? gathered_query(*table.query, used, forms) : "";
+    if (text.empty()) {
+        forms.clear();
+        text = query_text(*table.query, &used, forms, true);
+    }
+    gathers_ = gathers;
     forms_[table.id] = std::move(forms);
     return "(" + text + ")" + alias;
 }

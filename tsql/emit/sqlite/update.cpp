@@ -114,6 +114,7 @@ SqlText Emitter::update(const BoundUpdate& update, bool skip_unchanged) {
     // Tables first: what derived tables give decides how their columns are read.
     std::string from;
     std::string where;
+    gathers_ = conditions.empty() || update.target_in_from;
     for (const BoundSource* leaf : leaves) {
         if (!update.target_in_from || leaf->table != update.target) {
             from += (from.empty() ? " FROM " : ", ") + table_text(*leaf->table);
@@ -123,6 +124,7 @@ SqlText Emitter::update(const BoundUpdate& update, bool skip_unchanged) {
         from = from_text(update.from);
         conditions.clear();
     }
+    gathers_ = false;
     for (const BoundPtr& joined : conditions) {
         where += (where.empty() ? "" : " AND ") + condition(joined);
     }
