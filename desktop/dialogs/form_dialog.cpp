@@ -3,6 +3,7 @@
 
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/renderers/edit_sync.h"
 #include "desktop/renderers/form_view.h"
@@ -16,6 +17,11 @@ namespace {
 // "试算平衡表" opens "查询条件": the caption of a dialog is its form's own.
 QString caption_of(const host::TForm& form) { return qt(form.Caption.get()); }
 
+bool holds_a_grid(const host::LayoutNode& node) {
+    return node.kind == host::LayoutNode::Kind::Rest ||
+           std::any_of(node.children.begin(), node.children.end(), holds_a_grid);
+}
+
 } // namespace
 
 FormDialog::FormDialog(host::TForm& form, QWidget* over)
@@ -25,7 +31,9 @@ FormDialog::FormDialog(host::TForm& form, QWidget* over)
     const int least = form.PreferredWidth > 0 ? width_of_characters(form.PreferredWidth) : 360;
     // A document or list shown modally needs the room of a window.
     const bool wide = kind_of(form.layout) != FormKind::Dialog;
-    setMinimumSize(wide ? std::max(least, 960) : least, wide ? 600 : 0);
+    // A grid wants a dozen rows, so that a person sees what there is to choose from.
+    const int height = wide ? 600 : holds_a_grid(form.layout) ? 540 : 0;
+    setMinimumSize(wide ? std::max(least, 960) : least, height);
     view_->listen(form, [this] { follow(); });
 }
 

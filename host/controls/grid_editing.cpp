@@ -30,7 +30,8 @@ bool TDBGridEh::set_column(int index) {
         if (OnColEnter) OnColEnter();
         return true;
     } catch (const EAbort&) {
-        column_ = before;
+        // A form that refuses a column may have sent the person to another one instead.
+        if (column_ == index) column_ = before;
         changed();
         return false;
     }

@@ -7,6 +7,8 @@
 #include "module/refuse.h"
 #include "module/vouchers/U6661_2.h"
 #include "module/vouchers/U6661_3.h"
+#include "module/vouchers/U6661_4.h"
+#include "module/vouchers/U6661_5.h"
 #include "module/vouchers/capital_numerals.h"
 #include "module/vouchers/voucher_layout.h"
 #include "module/vouchers/voucher_number.h"
@@ -130,6 +132,21 @@ void TF6661_1::RefreshData() {
     Act_Save.Enabled = false;
     PoPMenuPopup();
     Act_Other.Enabled = FunctionCode == "661" && new_voucher();
+    prepare_allocation();
+}
+
+// The allocation of a saved voucher is read with it and saved with it, so that it follows a
+// changed number. A new voucher has none until the person asks for it.
+void TF6661_1::prepare_allocation() {
+    if (!F6661_5) {
+        F6661_5 = std::make_unique<TF6661_5>(this);
+        F6661_5->enable_on_edit(Act_Save);
+    }
+    if (new_voucher()) {
+        F6661_5->forget();
+    } else {
+        F6661_5->initnoid(Key, Mode);
+    }
 }
 
 void TF6661_1::number_new_voucher() {
@@ -291,16 +308,42 @@ void TF6661_1::refresh_title() {
 }
 
 void TF6661_1::Act_OtherExecute() {
-    DISPINFO("模块暂不开放!", 5);
+    CommitActive();
+    if (!F6661_4) F6661_4 = std::make_unique<TF6661_4>(this);
+    F6661_4->INIT(AdoQry_Main);
+    if (F6661_4->ShowModal() != mrOk) return;
+    mark_cash_lines();
+    grid_.fill_up();
+    Touch();
+}
+
+// A template does not know which accounts take part in the cash-flow allocation; the chart does.
+void TF6661_1::mark_cash_lines() {
+    for (AdoQry_Main.First(); !AdoQry_Main.Eof(); AdoQry_Main.Next()) {
+        const LeafAccount* account = leaf_accounts().find(grid_.current().account);
+        AdoQry_Main.Edit();
+        AdoQry_Main.FieldByName("KM_K").SetValue(account && account->cash_flow);
+        AdoQry_Main.Post();
+    }
 }
 
 void TF6661_1::Act_xjExecute() {
+    CommitActive();
     TClientDataSet lines;
     lines.CopyFrom(AdoQry_Main);
+    bool cash_flow = false;
+    Amount cash_change;
     for (lines.First(); !lines.Eof(); lines.Next()) {
-        if (lines.FieldByName("KM_K").AsBoolean()) return DISPINFO("模块暂不开放!", 5), void();
+        if (!lines.FieldByName("KM_K").AsBoolean()) continue;
+        cash_flow = true;
+        cash_change += lines.FieldByName("J").AsAmount() - lines.FieldByName("D").AsAmount();
     }
-    DISPINFO("当前凭证没有现金流量核算的科目存在!不需要进行现金流量的分配!", 5);
+    if (!cash_flow) {
+        refuse("当前凭证没有现金流量核算的科目存在!不需要进行现金流量的分配!");
+    }
+    const std::string key = new_voucher() ? voucher_key(period_, PZZ.Text, PZZ_H.Text) : Key;
+    if (!F6661_5->loaded()) F6661_5->initnoid(key, Mode);
+    if (F6661_5->allocate(cash_change)) Touch();
 }
 
 void TF6661_1::PoPMenuPopup() {
@@ -350,7 +393,7 @@ void TF6661_1::check_unchanged_by_others() {
     opensql(head, FunctionCode, select_voucher_head(Key));
     if (head.IsEmpty()) refuse("凭证已被他人删除,不能保存!请退出后刷新凭证列表。");
     opensql(lines, FunctionCode, select_voucher_lines(Key));
-    if (voucher_in_one_text(head, lines) == as_opened_) return;
+    if (voucher_in_one_text(head, lines) == as_opened_ && !F6661_5->stored_meanwhile()) return;
     refuse("凭证在打开之后已被他人修改、审核或登帐,不能保存!请退出后重新打开该凭证。");
 }
 
@@ -378,7 +421,8 @@ void TF6661_1::SaveData() {
     Tfrm_Base_Entry_Body::SaveData();
     const std::string batch = (own_key.empty() ? "" : delete_voucher(own_key)) +
                               insert_voucher_head(head) +
-                              insert_voucher_lines(head.key, grid_.read());
+                              insert_voucher_lines(head.key, grid_.read()) +
+                              F6661_5->getsql(head.key);
     const std::string answer =
         ExecSql(FunctionCode, head.key, Mode, batch, 65535, false, true, false, true);
     if (answer == "Y") Saved(head.key);

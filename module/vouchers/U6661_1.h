@@ -13,6 +13,8 @@ namespace module {
 
 class TF6661_2;
 class TF6661_3;
+class TF6661_4;
+class TF6661_5;
 
 class TF6661_1 : public Tfrm_Base_Entry_Body {
 public:
@@ -73,6 +75,8 @@ private:
     const LeafAccounts& leaf_accounts();
     void take_account(const LeafAccount& account);
     const LeafAccount& account_meant_by(const std::string& typed);
+    void mark_cash_lines();
+    void prepare_allocation();
     void check_head();
     void check_accounts_take_entries(const std::vector<VoucherLine>& lines);
     void check_unchanged_by_others();
@@ -88,6 +92,8 @@ private:
     std::string as_opened_;    // what was stored when the voucher was opened
     std::unique_ptr<TF6661_2> F6661_2;
     std::unique_ptr<TF6661_3> F6661_3;
+    std::unique_ptr<TF6661_4> F6661_4;
+    std::unique_ptr<TF6661_5> F6661_5;
 };
 
 } // namespace module

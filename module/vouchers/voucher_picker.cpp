@@ -5,6 +5,12 @@
 
 namespace module {
 
+bool move_among_rows(TClientDataSet& rows, const Key& key) {
+    if (key.code == KeyCode::Down && rows.RecNo() + 1 < rows.RecordCount()) rows.Next();
+    if (key.code == KeyCode::Up && rows.RecNo() > 0) rows.Prior();
+    return key.code == KeyCode::Down || key.code == KeyCode::Up;
+}
+
 VoucherPicker::VoucherPicker(TForm* parent) : TFrm_Base_Dialog(parent) {
     PreferredWidth = 64;
     DBGridEh.ReadOnly = true;
@@ -32,16 +38,8 @@ void VoucherPicker::FormKeyDown(Key& key) {
         key = {};
         return insert_->Click();
     }
-    if (move_row(key)) key = {};
+    if (move_among_rows(AdoQry_Main, key)) key = {};
     TFrm_Base_Dialog::FormKeyDown(key);
-}
-
-bool VoucherPicker::move_row(const Key& key) {
-    if (key.code == KeyCode::Down && AdoQry_Main.RecNo() + 1 < AdoQry_Main.RecordCount()) {
-        AdoQry_Main.Next();
-    }
-    if (key.code == KeyCode::Up && AdoQry_Main.RecNo() > 0) AdoQry_Main.Prior();
-    return key.code == KeyCode::Down || key.code == KeyCode::Up;
 }
 
 void VoucherPicker::take_row() {

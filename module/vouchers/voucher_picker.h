@@ -7,6 +7,9 @@
 
 namespace module {
 
+// The arrow keys up and down go among the rows, and no further; true when the key was one of them.
+bool move_among_rows(TClientDataSet& rows, const Key& key);
+
 // Arrow keys move among the rows while the search box keeps the focus; Enter or a double click
 // takes the row and closes, Insert fills the line and stays open. A picker has a search box and an
 // insert button of its own names and says what taking a row means.
@@ -27,7 +30,6 @@ protected:
 
 private:
     void take_row();
-    bool move_row(const Key& key);
     TEdit* search_ = nullptr;
     TButton* insert_ = nullptr;
 };

@@ -72,7 +72,45 @@ void answer_summaries(FakeData& data) {
     data.answer("SELECT * FROM D6803", columns, both);
 }
 
+void answer_templates(FakeData& data) {
+    const std::string all = "SELECT D6601M.*, V6801.KM_NAME_NEW AS KM_NAME_NEW FROM D6601M INNER "
+                            "JOIN V6801 ON D6601M.KM_ID = V6801.KM_ID ";
+    const std::vector<std::string> columns = {"NOID int", "ZY text",  "KM_ID text",      "J money",
+                                              "D money",  "INX int", "KM_NAME_NEW text"};
+    const Rows_ sale = {{"10001", "销售", "1131", "117.00", "0.00", "0", "应收帐款"},
+                        {"10001", "销售", "5101", "0.00", "100.00", "1", "主营业务收入"},
+                        {"10001", "代垫运费", "1133", "0.00", "17.00", "2", "其他应收款"}};
+    const Rows_ cash = {{"10002", "提现", "1001", "500.00", "0.00", "0", "现金"},
+                        {"10002", "提现", "100201", "0.00", "500.00", "1", "银行存款-工行"}};
+    Rows_ both = sale;
+    both.insert(both.end(), cash.begin(), cash.end());
+    const std::string search = "INNER JOIN (SELECT D6601M.NOID FROM D6601M INNER JOIN V6801 ON "
+                               "D6601M.KM_ID = V6801.KM_ID WHERE (V6801.KM_NAME_NEW LIKE '%";
+    data.answer(all + search + "提%'", columns, cash);
+    data.answer(all + search, columns, {});
+    data.answer(all, columns, both);
+}
+
 } // namespace
+
+void answer_allocation(FakeData& data, const std::vector<std::array<std::string, 3>>& amounts) {
+    Rows_ items = {{"1101", "销售商品、提供劳务收到的现金", "<null>", "<null>"},
+                   {"1109", "收到的其他与经营活动有关的现金", "<null>", "<null>"},
+                   {"1201", "购买商品、接受劳务支付的现金", "<null>", "<null>"}};
+    for (const auto& [item, inflow, outflow] : amounts) {
+        for (auto& row : items) {
+            if (row[0] == item) row = {item, row[1], inflow, outflow};
+        }
+    }
+    data.answer("SELECT D6820_1.ID, D6820_1.XJLL,A.J,A.D FROM D6820",
+                {"ID text", "XJLL text", "J money", "D money"}, items);
+}
+
+void answer_mode(FakeData& data, const std::string& mode) {
+    Rows_ rows;
+    if (!mode.empty()) rows.push_back({mode});
+    data.answer("SELECT VALUE FROM SYS_SETTING WHERE NAME='mode'", {"VALUE text"}, rows);
+}
 
 void answer_word_scheme(FakeData& data, const std::string& scheme) {
     data.answer("SELECT PARAM FROM D6600 WHERE ID=3", {"PARAM text"}, {{scheme}});
@@ -92,6 +130,9 @@ void answer_as_small_books(FakeData& data) {
     answer_vouchers(data);
     answer_accounts(data);
     answer_summaries(data);
+    answer_templates(data);
+    answer_allocation(data, {});
+    answer_mode(data, "");
 }
 
 } // namespace tests
