@@ -14,6 +14,7 @@ struct BooksLabel {
     std::string user;      // name of the logged-in user
     std::string database;  // "jiahe.db"
     std::string place;     // "本机", or the server's name
+    std::string mode;      // "小企业" or "严格": how corrections are made; empty: not told
 };
 
 // A picture of one function instead of a session: opens it, presses the keys, writes the PNG.
@@ -29,7 +30,9 @@ struct Screenshot {
 struct DesktopServices {
     std::function<BooksLabel()> books;            // asked after the login and after a change
     std::function<void(int code)> open_function;  // one menu pick
-    std::function<bool(int code)> has_function;   // absent: every function is there
+    std::function<void(const std::string& name)> open_administration; // one of the host's own
+    // May the function ("661", "users") be opened? The others are shown pale. Absent: all may.
+    std::function<bool(const std::string& key)> has_function;
     // Checks a login: "" lets in, anything else is the sentence to show. Absent: nothing is asked.
     std::function<std::string(const std::string& user, const std::string& password)> log_in;
     std::string last_user;

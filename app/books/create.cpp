@@ -9,6 +9,7 @@
 #include "app/books/pending_file.h"
 #include "app/data/error_sentence.h"
 #include "app/data/log_entry.h"
+#include "app/login/standard_roles.h"
 #include "app/refusal.h"
 #include "host/values/sql_text.h"
 #include "schema/schema.h"
@@ -73,7 +74,8 @@ std::string own_rows(const NewBooks& wanted) {
            "INSERT INTO SYS_USER (USER_ID, USER_NAME, PASSWORD_HASH, ADMINISTRATOR) VALUES "
            "('admin','管理员'," +
            host::quoted(wanted.password_hash) + ",1);" + setting("company", wanted.company) +
-           setting("template", wanted.template_name) + setting("mode", "small");
+           setting("template", wanted.template_name) + setting("mode", wanted.mode) +
+           standard_roles_batch();
 }
 
 void build(engines::Session& session, const NewBooks& wanted, const host::Clock& clock) {

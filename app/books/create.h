@@ -16,6 +16,7 @@ struct NewBooks {
     std::string template_name;              // of schema/schema.h
     std::optional<host::Period> start;      // opened at this period with zero balances, else not
     int scheme = 1;                         // voucher words: 1 记, 2 收 付 转, 3 现收 现付 银收 银付 转
+    std::string mode = "small";             // or "strict": corrections in red only
     std::string password_hash;              // of app/login/password.h; "" for no password
 };
 

@@ -1,4 +1,5 @@
 // zhangfang new BOOKS --company NAME [--template T] [--start YYYY-MM] [--scheme 1|2|3]
+// [--mode small|strict]
 #include <memory>
 
 #include "app/books/create.h"
@@ -33,6 +34,9 @@ void add_new(CLI::App& program, Chosen& chosen) {
         "启用期间 YYYY-MM,期初余额为零");
     command->add_option("--scheme", wanted->scheme, "凭证字: 1 记, 2 收付转, 3 现收现付银收银付转")
         ->check(CLI::IsMember({1, 2, 3}));
+    command->add_option("--mode", wanted->mode, "管理方式: small 小企业, strict 严格")
+        ->check(CLI::IsMember({"small", "strict"}))
+        ->capture_default_str();
     command->callback([wanted, &chosen] {
         chosen = [wanted] {
             wanted->password_hash = hash_of(new_password("管理员 admin 的密码: ").value_or(""));

@@ -46,9 +46,10 @@ engines::Outcome append_log_row(engines::Session& session, host::DateTime now,
             session.execute("SELECT TOP 1 ID, HASH FROM SYS_LOG ORDER BY ID DESC", last);
         !read.ok())
         return read;
-    // Half of what the columns take, since a character outside the basic plane counts two there.
+    // Half of what the columns take, since a character outside the basic plane counts two there;
+    // names of functions have none.
     const schema::LogRow row{last.id + 1,           to_the_second(now),
-                             cut(user, 20),         cut(entry.function, 5),
+                             cut(user, 20),         cut(entry.function, 10),
                              cut(entry.key, 100),   cut(entry.operation, 20),
                              schema::digest_of(batch)};
     std::string insert = "INSERT INTO SYS_LOG (ID, LOG_TIME, USER_ID, FUNCTION_CODE, DOC_KEY, "

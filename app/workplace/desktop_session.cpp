@@ -5,13 +5,16 @@
 #include <filesystem>
 #include <unistd.h>
 
+#include "app/administration/administration.h"
 #include "app/data/error_sentence.h"
 #include "app/demo/demo_books.h"
 #include "app/refusal.h"
 #include "app/workplace/module.h"
 #include "app/workplace/workplace.h"
 #include "desktop/desktop.h"
+#include "host/contract/function_table.h"
 #include "host/forms/form.h"
+#include "host/ports/host.h"
 
 namespace app {
 
@@ -67,10 +70,19 @@ desktop::DesktopServices services_for(const DesktopWanted& wanted, const std::st
     desktop::DesktopServices services;
     services.books = [&work, books] {
         return desktop::BooksLabel{work.company(), work.user().name,
-                                   fs::path(books).filename().string(), "本机"};
+                                   fs::path(books).filename().string(), "本机",
+                                   work.setting("mode") == "strict" ? "严格" : "小企业"};
     };
     services.open_function = [&frame](int code) {
         Module::loaded().open(menu_pick(code), &frame);
+    };
+    services.open_administration = [&frame](const std::string& name) {
+        open_administration(name, &frame);
+    };
+    services.has_function = [](const std::string& key) {
+        const host::Function* function = host::function_of(key);
+        return (function != nullptr && function->actions == 0) ||
+               host::the_host().may({key, "open"});
     };
     services.log_in = [&work](const std::string& user, const std::string& password) {
         try {

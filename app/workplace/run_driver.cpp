@@ -1,6 +1,7 @@
 // A driver as the host's user interface, for as long as it has requests.
 #include "app/workplace/run_driver.h"
 
+#include "app/administration/administration.h"
 #include "app/workplace/module.h"
 #include "automation/drive/driver.h"
 #include "host/forms/form.h"
@@ -13,8 +14,8 @@ void run_driver(automation::RequestLines& requests, automation::AnswerLines& ans
     const Module& module = Module::loaded();
     host::TForm* owner = nullptr;
     automation::Driver driver(
-        {requests, answers, [&](const host::Trecord& record) { module.open(record, owner); },
-         query});
+        {requests, answers, [&](const host::Trecord& record) { module.open(record, owner); }, query,
+         [&](const std::string& name) { return open_administration(name, owner); }});
     host::the_host().ui = &driver;
     {
         host::TForm frame(nullptr); // owns the forms: they go before what they speak to

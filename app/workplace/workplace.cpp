@@ -2,6 +2,7 @@
 #include "app/workplace/workplace.h"
 
 #include "app/books/open.h"
+#include "app/books/upgrade.h"
 #include "automation/sql/collected_result.h"
 #include "host/contract/U_glo.h"
 #include "host/ports/host.h"
@@ -45,14 +46,20 @@ Workplace::Workplace(const std::string& books, const std::optional<host::Date>& 
 Workplace::~Workplace() {
     host::Host& host = host::the_host();
     host.data = nullptr;
+    host.may = [](const host::Right&) { return false; };
     host.clock = nullptr;
     host.settings = nullptr;
     host.random = nullptr;
 }
 
+std::string Workplace::setting(const std::string& name) { return setting_of(*session_, name); }
+
 void Workplace::log_in(const std::string& user, const PasswordSource& password) {
     user_ = app::log_in(*session_, user, password);
     session_->set_person({user_.id, "zhangfang"});
+    if (user_.administrator) create_what_is_missing(*session_, clock_, user_.id);
+    rights_ = Rights::of(*session_, user_);
+    host::the_host().may = [this](const host::Right& right) { return rights_.allow(right); };
     data_ = std::make_unique<EngineData>(*session_, clock_, user_.id);
     host::the_host().data = data_.get();
     host::G_UserId = user_.id;

@@ -7,6 +7,7 @@
 
 #include "app/data/engine_data.h"
 #include "app/login/login.h"
+#include "app/login/rights.h"
 #include "app/settings/settings_file.h"
 #include "app/settings/surroundings.h"
 #include "engines/session.h"
@@ -32,11 +33,14 @@ public:
     Workplace(const Workplace&) = delete;
     Workplace& operator=(const Workplace&) = delete;
 
-    // Throws Refusal. Once in, forms may open.
+    // Throws Refusal. Once in, forms may open, as far as the person's rights go; an administrator's
+    // login creates what books of an earlier program lack.
     void log_in(const std::string& user, const PasswordSource& password);
 
     const User& user() const { return user_; } // after the login
     const std::string& company() const { return company_; }
+    // A setting of the books as it stands now; "" where there is none.
+    std::string setting(const std::string& name);
     const std::optional<host::Date>& today() const { return today_; }
     SettingsFile& settings() { return settings_; }
     engines::Session& session() { return *session_; }
@@ -49,6 +53,7 @@ private:
     SystemRandom random_;
     std::string company_;
     User user_;
+    Rights rights_;
     std::unique_ptr<EngineData> data_;
 };
 

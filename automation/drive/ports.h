@@ -41,6 +41,9 @@ struct DriverPorts {
     // One menu pick: calls the module's entry with the call record. Failures propagate.
     std::function<void(const host::Trecord&)> menu;
     QueryPort* query = nullptr; // null: queries are refused
+    // Opens one of the host's own functions by its name ("users"); false when there is none of that
+    // name. Absent: there are none.
+    std::function<bool(const std::string& name)> administration = nullptr;
 };
 
 } // namespace automation

@@ -13,17 +13,27 @@
 #include "desktop/frame/menus.h"
 #include "desktop/frame/status_line.h"
 #include "desktop/frame/tab_strip.h"
-#include "desktop/navigation/functions.h"
 #include "desktop/navigation/navigation_panel.h"
 #include "desktop/overview/overview_page.h"
 #include "desktop/renderers/form_view.h"
 #include "desktop/theme/text.h"
 #include "desktop/theme/tokens.h"
+#include "host/contract/function_table.h"
 #include "host/forms/event_gate.h"
 #include "host/forms/form.h"
 #include "host/ports/host.h"
 
 namespace desktop {
+namespace {
+
+// The function whose entry is marked in the navigation: the form's own, or its opener's.
+std::string function_in_front(const host::TForm* form) {
+    for (const host::TForm* up = form; up; up = up->Parent())
+        if (up->Tag != 0) return std::to_string(up->Tag);
+    return form ? form->RightsFunction() : std::string();
+}
+
+} // namespace
 
 MainWindow::MainWindow(const DesktopServices& services)
     : services_(services), tabs_(new TabStrip(this)), pages_(new QStackedWidget(this)),
@@ -34,7 +44,7 @@ MainWindow::MainWindow(const DesktopServices& services)
     lay_out(build_menus(*this));
     pages_->addWidget(overview_);
     tabs_->addTab(QStringLiteral("概览"));
-    navigation_->on_open = [this](int code) { open_function(code); };
+    navigation_->on_open = [this](const host::Function& function) { open(function); };
     navigation_->on_leave = [this] { pages_->currentWidget()->setFocus(); };
     overview_->on_open = [this](int code) { open_function(code); };
     tabs_->on_close = [this](int index) { close_tab(index); };
@@ -139,9 +149,7 @@ void MainWindow::tab_chosen(int index) {
     pages_->setCurrentIndex(index);
     FormView* view = view_in_front();
     host::TForm* form = view ? view->form() : nullptr;
-    int code = form ? form->Tag : 0;
-    for (host::TForm* up = form; up && code == 0; up = up->Parent()) code = up->Tag;
-    navigation_->show_active(code);
+    navigation_->show_active(function_in_front(form));
     if (form) {
         view->run([form] { form->Activate(); });
         view->setFocus();
@@ -175,7 +183,17 @@ void MainWindow::close_tab(int index) {
 
 void MainWindow::open_function(int code) {
     if (!services_.open_function) return;
-    host::enter_event([this, code] { services_.open_function(code); });
+    run_pick([this, code] { services_.open_function(code); });
+}
+
+void MainWindow::open(const host::Function& function) {
+    if (function.host.empty()) return open_function(function.code);
+    if (!services_.open_administration) return;
+    run_pick([this, name = std::string(function.host)] { services_.open_administration(name); });
+}
+
+void MainWindow::run_pick(const std::function<void()>& pick) {
+    host::enter_event(pick);
     if (FormView* view = view_in_front()) view->sync_focus();
     refresh_books();
 }

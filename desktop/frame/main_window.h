@@ -4,12 +4,15 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <functional>
+
 #include "desktop/desktop.h"
 
 class QMenuBar;
 class QStackedWidget;
 
 namespace host {
+struct Function;
 class TForm;
 }
 
@@ -31,6 +34,7 @@ public:
     bool has_form(const host::TForm& form) const;
     FormView* view_in_front() const;    // null while the overview is
     void open_function(int code);       // one menu pick
+    void open(const host::Function& function); // of the module or of the host
     void refresh_books();               // company, period, user
     void say(const QString& text);
     OverviewPage& overview() const { return *overview_; }
@@ -50,6 +54,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void run_pick(const std::function<void()>& pick);
     void lay_out(QMenuBar* menus);
     void tab_chosen(int index);
     void close_tab(int index);

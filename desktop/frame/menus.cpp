@@ -7,9 +7,9 @@
 
 #include "desktop/dialogs/about.h"
 #include "desktop/frame/main_window.h"
-#include "desktop/navigation/functions.h"
 #include "desktop/renderers/form_view.h"
 #include "desktop/theme/text.h"
+#include "host/contract/function_table.h"
 #include "host/forms/form.h"
 
 namespace desktop {
@@ -60,6 +60,11 @@ void add_edit_menu(QMenuBar& bar, MainWindow& window) {
             [&window, key = std::string(key)] { press(window, key); });
 }
 
+// Functions of the host have no number.
+QString shown_code(const host::Function& function) {
+    return function.code == 0 ? QString() : "\t" + QString::number(function.code);
+}
+
 void add_window_menu(QMenuBar& bar, MainWindow& window) {
     QMenu* menu = bar.addMenu(titled("窗口", 'W'));
     add(*menu, QStringLiteral("概览"), "Ctrl+Home", [&window] { window.show_overview(); });
@@ -74,11 +79,11 @@ QMenuBar* build_menus(MainWindow& window) {
     bar->setNativeMenuBar(false);
     add_file_menu(*bar, window);
     add_edit_menu(*bar, window);
-    for (const WorkArea& area : work_areas()) {
+    for (const host::WorkArea& area : host::work_areas()) {
         QMenu* menu = bar->addMenu(titled(area.name, area.mnemonic));
-        for (const Function& function : area.functions)
-            add(*menu, qt(function.name) + "\t" + QString::number(function.code), {},
-                [&window, code = function.code] { window.open_function(code); });
+        for (const host::Function& function : area.functions)
+            add(*menu, qt(function.name) + shown_code(function), {},
+                [&window, &function] { window.open(function); });
     }
     add_window_menu(*bar, window);
     QMenu* help = bar->addMenu(titled("帮助", 'H'));

@@ -18,6 +18,8 @@ void StatusLine::show_books(const BooksLabel& books, const std::string& period) 
               {"", QStringLiteral("会计期间"), shown, {}},
               {"user", {}, qt(books.user), {}},
               {"database", {}, qt(books.database), qt(books.place)}};
+    if (!books.mode.empty())
+        parts_.insert(parts_.begin() + 2, {"", QStringLiteral("管理方式"), qt(books.mode), {}});
     setAccessibleName(qt(books.company) + " " + shown);
     update();
 }

@@ -8,29 +8,32 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "desktop/navigation/functions.h"
 #include "desktop/theme/fonts.h"
 #include "desktop/theme/icons.h"
 #include "desktop/theme/text.h"
 #include "desktop/theme/tokens.h"
 #include "host/contract/Zpy.h"
+#include "host/contract/function_table.h"
 
 namespace desktop {
 namespace {
 
-enum Role { Code = Qt::UserRole, Pinyin, Icon, Available, Active };
+// Key is "661" or "users", empty for an area; Code is what is shown of it.
+enum Role { Key = Qt::UserRole, Code, Pinyin, Icon, Available, Active };
+
+bool is_area(const QTreeWidgetItem& item) { return item.data(0, Key).toString().isEmpty(); }
 
 class EntryPainter : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
     QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const override {
-        return {180, index.data(Code).toInt() == 0 ? 28 : 24};
+        return {180, index.data(Key).toString().isEmpty() ? 28 : 24};
     }
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
         const auto* tree = static_cast<const QTreeWidget*>(option.widget);
         const QRect row(0, option.rect.y(), tree->viewport()->width(), option.rect.height());
-        if (index.data(Code).toInt() == 0)
+        if (index.data(Key).toString().isEmpty())
             paint_area(*painter, row, index, tree->isExpanded(index));
         else
             paint_function(*painter, row, index, tree->hasFocus() && tree->currentIndex() == index);
@@ -92,7 +95,8 @@ protected:
 
 } // namespace
 
-NavigationPanel::NavigationPanel(const std::function<bool(int)>& available, QWidget* parent)
+NavigationPanel::NavigationPanel(const std::function<bool(const std::string&)>& available,
+                                 QWidget* parent)
     : QWidget(parent), box_(new FindBox(this)), tree_(new QTreeWidget(this)) {
     setFixedWidth(token::navigation);
     auto* column = new QVBoxLayout(this);
@@ -116,23 +120,23 @@ NavigationPanel::NavigationPanel(const std::function<bool(int)>& available, QWid
     fill(available);
     connect(box_, &QLineEdit::textEdited, this, [this](const QString& text) { filter(text); });
     connect(tree_, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
-        if (item->data(0, Code).toInt() == 0) item->setExpanded(!item->isExpanded());
+        if (is_area(*item)) item->setExpanded(!item->isExpanded());
         else open(item);
     });
     box_->installEventFilter(this);
     tree_->installEventFilter(this);
 }
 
-void NavigationPanel::fill(const std::function<bool(int)>& available) {
-    for (const WorkArea& area : work_areas()) {
+void NavigationPanel::fill(const std::function<bool(const std::string&)>& available) {
+    for (const host::WorkArea& area : host::work_areas()) {
         auto* group = new QTreeWidgetItem(tree_, {qt(area.name)});
-        group->setData(0, Code, 0);
         group->setData(0, Icon, qt(area.icon));
-        for (const Function& function : area.functions) {
+        for (const host::Function& function : area.functions) {
             auto* item = new QTreeWidgetItem(group, {qt(function.name)});
-            item->setData(0, Code, function.code);
+            item->setData(0, Key, qt(function.key()));
+            if (function.code != 0) item->setData(0, Code, qt(function.key()));
             item->setData(0, Pinyin, qt(host::GetPY(std::string(function.name))));
-            item->setData(0, Available, !available || available(function.code));
+            item->setData(0, Available, !available || available(function.key()));
         }
         group->setExpanded(true);
     }
@@ -143,11 +147,11 @@ void NavigationPanel::find_function() {
     box_->selectAll();
 }
 
-void NavigationPanel::show_active(int code) {
+void NavigationPanel::show_active(const std::string& key) {
     for (int i = 0; i < tree_->topLevelItemCount(); ++i)
         for (int j = 0; j < tree_->topLevelItem(i)->childCount(); ++j) {
             QTreeWidgetItem* item = tree_->topLevelItem(i)->child(j);
-            item->setData(0, Active, code != 0 && item->data(0, Code).toInt() == code);
+            item->setData(0, Active, !key.empty() && item->data(0, Key).toString() == qt(key));
         }
 }
 
@@ -161,7 +165,7 @@ void NavigationPanel::filter(const QString& typed) {
             QTreeWidgetItem* item = group->child(j);
             const bool match =
                 wanted.isEmpty() || item->text(0).contains(wanted) ||
-                item->data(0, Code).toString().startsWith(wanted) ||
+                item->data(0, Key).toString().startsWith(wanted) ||
                 item->data(0, Pinyin).toString().contains(wanted, Qt::CaseInsensitive);
             item->setHidden(!match);
             any = any || match;
@@ -174,18 +178,19 @@ void NavigationPanel::filter(const QString& typed) {
 }
 
 void NavigationPanel::open(QTreeWidgetItem* item) {
-    if (!item || item->data(0, Code).toInt() == 0) return;
-    const int code = item->data(0, Code).toInt();
+    const host::Function* function =
+        item ? host::function_of(utf8(item->data(0, Key).toString())) : nullptr;
+    if (!function) return;
     box_->clear();
     filter({});
-    if (on_open) on_open(code);
+    if (on_open) on_open(*function);
 }
 
 void NavigationPanel::step(int by) {
     QTreeWidgetItem* item = tree_->currentItem();
     if (!item) item = tree_->topLevelItem(0);
     do item = by > 0 ? tree_->itemBelow(item) : tree_->itemAbove(item);
-    while (item && item->data(0, Code).toInt() == 0);
+    while (item && is_area(*item));
     if (item) tree_->setCurrentItem(item);
 }
 

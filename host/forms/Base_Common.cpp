@@ -53,7 +53,8 @@ std::string TFrm_Base_Common::read_period(int id) const {
 
 void TFrm_Base_Common::OpenFunction(const Trecord& record) {
     record_ = record;
-    FunctionCode = std::to_string(record.code());
+    // The host's own functions have a name and no code; their forms know it.
+    if (record.code() != 0 || FunctionCode.empty()) FunctionCode = std::to_string(record.code());
     const auto& user = record.user;
     SetUserParam(user[0], user[1], user[2], user[3], user[4], user[5]);
     RequireRight("open", "打开“" + Caption.get() + "”");

@@ -51,7 +51,12 @@ void Office::work() {
             module_entry()(record, owner);
     };
     {
-        automation::Driver driver({hand_off_, hand_off_, menu, options_.query});
+        std::function<bool(const std::string&)> administration;
+        if (options_.administration)
+            administration = [&](const std::string& name) {
+                return options_.administration(name, *owner);
+            };
+        automation::Driver driver({hand_off_, hand_off_, menu, options_.query, administration});
         furnish(driver);
         Frame frame;
         owner = &frame;

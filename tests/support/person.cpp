@@ -68,6 +68,11 @@ void Person::open(int code, std::vector<std::string> user, Here here) {
     step({{"op", "open"}, {"code", code}, {"user", user}}, true, here);
 }
 
+void Person::open_host(const std::string& name, Here here) {
+    complain_about_messages(here);
+    step({{"op", "open"}, {"host", name}}, true, here);
+}
+
 void Person::set(const std::string& control, const std::string& value, Here here) {
     complain_about_messages(here);
     step({{"op", "set"}, {"control", control}, {"value", value}}, true, here);

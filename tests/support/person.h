@@ -31,6 +31,8 @@ struct PersonOptions {
     std::function<bool(const host::Right&)> may = [](const host::Right&) { return true; };
     // Opens a function; left out, the module does.
     std::function<void(const host::Trecord&, host::TForm& frame)> menu;
+    // Opens one of the host's own functions; left out, there are none.
+    std::function<bool(const std::string& name, host::TForm& frame)> administration;
     automation::QueryPort* query = nullptr; // the administrator's window; none when left out
 };
 
@@ -57,6 +59,7 @@ public:
     // is meant unless on() named another.
     Person& on(const std::string& form); // for the next step only: anna.on("TF6661").click(...)
     void open(int code, std::vector<std::string> user = {}, Here here = Here::current());
+    void open_host(const std::string& name, Here here = Here::current()); // "users"
     void set(const std::string& control, const std::string& value, Here here = Here::current());
     void check(const std::string& control, bool on = true, Here here = Here::current());
     void focus(const std::string& control, Here here = Here::current());

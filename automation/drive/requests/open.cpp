@@ -1,4 +1,5 @@
-// open: one pick from the menu, with the call record that the host would hand over.
+// open: one pick from the menu, with the call record that the host would hand over; or one of the
+// host's own functions by its name.
 #include "automation/drive/requests/requests.h"
 
 #include "automation/drive/acting.h"
@@ -6,7 +7,31 @@
 
 namespace automation::requests {
 
+namespace {
+
+void require_no_modal(Driver& driver) {
+    if (const host::TForm* modal = driver.forms().modal()) {
+        throw Refusal("the menu waits until " + driver.forms().name_of(*modal) +
+                      " has been closed");
+    }
+}
+
+json open_administration(Driver& driver, const std::string& name) {
+    require_no_modal(driver);
+    bool known = false;
+    act(driver, [&] {
+        known = true; // a refusal that aborts was one of a function that exists
+        const auto& administration = driver.ports().administration;
+        known = administration && administration(name);
+    });
+    if (!known) throw Refusal("the host has no function \"" + name + "\"");
+    return json::object();
+}
+
+} // namespace
+
 json open(Driver& driver, const Request& request) {
+    if (request.has("host")) return open_administration(driver, request.text("host"));
     host::Trecord record;
     const std::int64_t code = request.number("code");
     if (code < INT32_MIN || code > INT32_MAX) throw Refusal("\"code\" is too large");
@@ -21,10 +46,7 @@ json open(Driver& driver, const Request& request) {
             record.user[at] = user[at].get<std::string>();
         }
     }
-    if (const host::TForm* modal = driver.forms().modal()) {
-        throw Refusal("the menu waits until " + driver.forms().name_of(*modal) +
-                      " has been closed");
-    }
+    require_no_modal(driver);
     act(driver, [&] { driver.ports().menu(record); });
     return json::object();
 }
