@@ -107,18 +107,24 @@ bool TFrm_Base_Entry_Head::refresh_row(const std::string& key) {
 void TFrm_Base_Entry_Head::document_saved(const std::string& key) {
     const Tfrm_Base_Entry_Body* body = EntryForm();
     const bool changed = body != nullptr && body->Mode == "Edit";
+    show_row(changed ? body->Key : "", key);
+}
+
+void TFrm_Base_Entry_Head::ShowDocument(const std::string& key) { show_row(key, key); }
+
+// The row that showed `key_before`, or a new one, shows the document `key`.
+void TFrm_Base_Entry_Head::show_row(const std::string& key_before, const std::string& key) {
     if (!AdoQry_Main.Active()) return;
     {
         const LinesHeld held(lines_held_);
-        if (!changed || !return_to_key(AdoQry_Main, Settings.key_field, body->Key))
-            AdoQry_Main.Append();
+        if (!return_to_key(AdoQry_Main, Settings.key_field, key_before)) AdoQry_Main.Append();
         refresh_row(key);
     }
     lines_of_.clear();
     LoadLines();
 }
 
-bool TFrm_Base_Entry_Head::current_document_still_there() {
+bool TFrm_Base_Entry_Head::StillThere() {
     const std::string key = current_key(AdoQry_Main, Settings.key_field);
     if (key.empty()) return false;
     if (refresh_row(key)) return true;
@@ -143,6 +149,7 @@ std::string TFrm_Base_Entry_Head::WhyLocked() {
     };
     document.audited = flag(Settings.audited_field);
     document.posted = flag(Settings.posted_field);
+    document.strict = document.posted && BooksAreStrict();
     const TField* period =
         Settings.period_field.empty() ? nullptr : AdoQry_Main.FindField(Settings.period_field);
     if (period != nullptr) {
@@ -171,13 +178,13 @@ void TFrm_Base_Entry_Head::Act_AddExecute() {
 }
 
 void TFrm_Base_Entry_Head::Act_CopyAddExecute() {
-    if (!current_document_still_there() || EntryForm() == nullptr) return;
+    if (!StillThere() || EntryForm() == nullptr) return;
     EntryForm()->LockReason.Caption = "";
     open_document(false, true);
 }
 
 void TFrm_Base_Entry_Head::Act_ModifyExecute() {
-    if (!current_document_still_there() || EntryForm() == nullptr) return;
+    if (!StillThere() || EntryForm() == nullptr) return;
     const std::string reason = WhyLocked();
     EntryForm()->LockReason.Caption = reason;
     if (!reason.empty() && !auditing()) DISPINFO(reason, 5);
@@ -187,7 +194,7 @@ void TFrm_Base_Entry_Head::Act_ModifyExecute() {
 // Looking is what a double click asks for: a document that cannot be changed is shown without
 // a word.
 void TFrm_Base_Entry_Head::DBGridEhDblClick() {
-    if (!current_document_still_there() || EntryForm() == nullptr) return;
+    if (!StillThere() || EntryForm() == nullptr) return;
     std::string reason = WhyLocked();
     if (reason.empty() && !the_host().may({FunctionCode, Act_Modify.Right}))
         reason = "您没有修改的权限。";
@@ -196,7 +203,7 @@ void TFrm_Base_Entry_Head::DBGridEhDblClick() {
 }
 
 void TFrm_Base_Entry_Head::Act_DeleteExecute() {
-    if (!current_document_still_there()) return;
+    if (!StillThere()) return;
     const std::string reason = WhyLocked();
     if (!reason.empty()) {
         DISPINFO(reason, 5);

@@ -61,6 +61,12 @@ protected:
     // What messages call the selected document; its key unless the form knows better.
     virtual std::string DocumentName();
     void LoadLines();
+    // Is there a selected document, and does it still exist? Its row then shows what the books hold
+    // now; a document that others deleted is told of and leaves the list.
+    bool StillThere();
+    // Goes to the document of that key, which was just made or changed; adds its row when the
+    // conditions of the list left it out.
+    void ShowDocument(const std::string& key);
     bool auditing() const { return Act_Audit.Visible; } // the list audits and does not change
 
 private:
@@ -69,7 +75,7 @@ private:
     bool refresh_row(const std::string& key);
     bool read_head(const std::string& key, TClientDataSet& head);
     void document_saved(const std::string& key); // adds or renews its row
-    bool current_document_still_there();
+    void show_row(const std::string& key_before, const std::string& key);
     void write_audit(bool audit);
     bool lines_held_ = false;
     std::string lines_of_; // key of the document whose lines are shown

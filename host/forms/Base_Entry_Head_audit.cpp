@@ -39,6 +39,7 @@ void TFrm_Base_Entry_Head::write_audit(bool audit) {
     AuditRequest request;
     request.audit = audit;
     request.two_persons = audit && two_persons_demanded(FunctionCode);
+    request.strict = !audit && !Settings.posted_field.empty() && BooksAreStrict();
     request.user_id = G_UserId;
     request.user_name = G_UserName;
     request.day = the_host().clock->today().to_text();

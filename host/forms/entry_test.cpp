@@ -80,6 +80,7 @@ protected:
         desk.data.answer("SELECT PARAM FROM D6600 WHERE ID=2", {"PARAM text"}, {{"2024-03"}});
         desk.data.answer("SELECT lines", {"ZY text", "J money"}, {{"付款", "5.00"}});
         desk.data.answer("SELECT NAME,VALUE FROM SYS_SETTING", {"NAME text", "VALUE text"}, {});
+        desk.data.answer("SELECT VALUE FROM SYS_SETTING WHERE NAME='mode'", {"VALUE text"}, {});
         Trecord pick;
         pick.set_code(901);
         list.InitForm(pick);
@@ -197,6 +198,21 @@ TEST_F(Entry, what_is_audited_posted_or_of_another_period_is_only_shown_and_neve
     EXPECT_EQ(list.body.LockReason.Caption.get(), "");
     EXPECT_FALSE(list.body.NO.ReadOnly); // free again
     EXPECT_TRUE(list.body.DBGridEh.can_edit(0));
+}
+
+TEST_F(Entry, strict_books_point_to_the_red_voucher_where_something_is_posted) {
+    desk.data.answer("SELECT VALUE FROM SYS_SETTING WHERE NAME='mode'", {"VALUE text"},
+                     {{"strict"}});
+    list.AdoQry_Main.GotoRow(3);
+    for (TAction* action : {&list.Act_Modify, &list.Act_Delete}) {
+        run(*action);
+        EXPECT_EQ(desk.ui.last_message(),
+                  "“k4”已登帐，本帐套按严格方式管理，不能修改或删除；如需更正，请用红字凭证!");
+    }
+    list.Act_UnAudit.Visible = true;
+    run(list.Act_UnAudit);
+    EXPECT_EQ(desk.ui.last_message(), "“k4”已登帐，不能反审核；如需更正，请用红字凭证!");
+    EXPECT_EQ(executed(), 0U);
 }
 
 TEST_F(Entry, looking_by_double_click_says_nothing) {

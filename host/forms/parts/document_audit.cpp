@@ -36,8 +36,9 @@ std::string statement(const std::string& key, const EntryHeadSettings& settings,
 
 std::string refusal_of(const TClientDataSet& list, const std::string& key,
                        const EntryHeadSettings& settings, const AuditRequest& request) {
+    const std::string instead = request.strict ? "如需更正，请用红字凭证!" : "请先反登帐!";
     if (!request.audit && flag(list, settings.posted_field))
-        return "“" + key + "”已登帐，不能反审核；请先反登帐!";
+        return "“" + key + "”已登帐，不能反审核；" + instead;
     const bool own = same_text(text(list, "USER_ID"), request.user_id);
     if (request.audit && request.two_persons && own)
         return "“" + key + "”是您自己制单的，不能由您审核；请由其他人审核!";

@@ -20,6 +20,7 @@ struct AuditPlan {
 struct AuditRequest {
     bool audit = true;        // false takes the audit back
     bool two_persons = false; // the maker may not audit his own document
+    bool strict = false;      // what is posted is corrected in red only
     std::string user_id, user_name;
     std::string day; // "2024-03-05"
 };

@@ -8,6 +8,8 @@ namespace host {
 
 std::string why_locked(const DocumentState& document) {
     const std::string name = "“" + document.name + "”";
+    if (document.posted && document.strict)
+        return name + "已登帐，本帐套按严格方式管理，不能修改或删除；如需更正，请用红字凭证!";
     if (document.posted) return name + "已登帐，不能修改或删除；如需更正，请先反登帐并反审核!";
     if (document.audited) return name + "已审核，不能修改或删除；如需更正，请先反审核!";
     const bool other_period =

@@ -13,6 +13,7 @@ struct DocumentState {
     bool posted = false;
     std::string period;         // "" when documents of its kind have none
     std::string current_period; // of the books
+    bool strict = false;        // posted stays posted: corrections are made in red
 };
 
 // The reason, a sentence that says what to do; "" when the document may be changed. What was posted

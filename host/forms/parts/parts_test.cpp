@@ -76,6 +76,10 @@ TEST(DocumentLock, the_reason_names_the_document_and_what_to_do) {
               "“记-5”已审核，不能修改或删除；如需更正，请先反审核!");
     EXPECT_EQ(why_locked({"记-5", true, true, "2024-03", "2024-03"}),
               "“记-5”已登帐，不能修改或删除；如需更正，请先反登帐并反审核!");
+    EXPECT_EQ(why_locked({"记-5", true, true, "2024-03", "2024-03", true}),
+              "“记-5”已登帐，本帐套按严格方式管理，不能修改或删除；如需更正，请用红字凭证!");
+    EXPECT_EQ(why_locked({"记-5", true, false, "2024-03", "2024-03", true}),
+              "“记-5”已审核，不能修改或删除；如需更正，请先反审核!");
     EXPECT_EQ(why_locked({"记-5", false, false, "2024-02", "2024-03"}),
               "“记-5”属于会计期间 2024-02，当前会计期间是 2024-03，不能修改或删除!");
 }
@@ -112,6 +116,9 @@ TEST_F(Audit, a_posted_document_keeps_its_audit) {
     request.audit = false;
     EXPECT_EQ(plan_audit(heads, {1, 2}, settings, request).refusal,
               "“2024-03记003”已登帐，不能反审核；请先反登帐!");
+    request.strict = true;
+    EXPECT_EQ(plan_audit(heads, {1, 2}, settings, request).refusal,
+              "“2024-03记003”已登帐，不能反审核；如需更正，请用红字凭证!");
     EXPECT_EQ(plan_audit(heads, {1}, settings, request).batch,
               "UPDATE D6601 SET T=0,sk=NULL,sdate=NULL WHERE NOID='2024-03记002' AND T=1 AND D=0;");
 }
