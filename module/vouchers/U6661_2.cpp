@@ -2,6 +2,7 @@
 #include "module/vouchers/U6661_2.h"
 
 #include "host/values/sql_text.h"
+#include "host/values/text.h"
 
 namespace module {
 
@@ -29,16 +30,23 @@ void TF6661_2::FormShow() {
 
 // ---- lines ----
 
-// What is no part of any summary is looked for among their pinyin initials.
+// What is no part of any summary is looked for among their pinyin initials, in the list that the
+// blank search read when the picker opened.
 void TF6661_2::wl_nameChange() {
     const std::string text = wl_name.Text;
     const std::string all = " SELECT * FROM D6803";
-    if (text.empty()) return opensql(AdoQry_Main, FunctionCode, all);
-    for (const std::string field : {"ZY", "PYM"}) {
-        opensql(AdoQry_Main, FunctionCode,
-                all + " WHERE (" + field + " like '%" + escaped(text) + "%')");
-        if (!AdoQry_Main.IsEmpty()) return;
+    if (text.empty()) {
+        opensql(AdoQry_Main, FunctionCode, all);
+        all_.CopyFrom(AdoQry_Main);
+        return;
     }
+    opensql(AdoQry_Main, FunctionCode, all + " WHERE (ZY like '%" + escaped(text) + "%')");
+    if (!AdoQry_Main.IsEmpty()) return;
+    all_.SetFilter([&](const TClientDataSet& summary) {
+        return contains_text(summary.FieldByName("PYM").AsText(), text);
+    });
+    AdoQry_Main.CopyFrom(all_);
+    all_.SetFilter(nullptr);
 }
 
 // ---- saving ----

@@ -25,6 +25,7 @@ protected:
 
 private:
     TClientDataSet* lines_ = nullptr;
+    TClientDataSet all_; // the common summaries
 };
 
 } // namespace module

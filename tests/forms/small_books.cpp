@@ -38,6 +38,7 @@ void answer_vouchers(FakeData& data) {
     }
     data.answer(lines, line_columns, {});
     data.answer("SELECT NOID FROM D6601 WHERE", {"NOID text"}, {});
+    answer_red_vouchers(data, {});
     data.answer("SELECT * FROM ( SELECT 1 AS I", {"I int"}, {{"9"}, {"1"}});
     data.answer("SELECT ISNULL(MAX(NOID)+1,10000) AS N FROM D6601M", {"N int"}, {{"10003"}});
 }
@@ -67,7 +68,6 @@ void answer_summaries(FakeData& data) {
     const std::vector<std::string> columns = {"GUID text", "ZY text", "PYM text"};
     const Rows_ both = {{"G1", "收货款", "SHK"}, {"G2", "提现", "TX"}};
     data.answer("SELECT * FROM D6803 WHERE (ZY like '%货%')", columns, {both[0]});
-    data.answer("SELECT * FROM D6803 WHERE (PYM like '%tx%')", columns, {both[1]});
     data.answer("SELECT * FROM D6803 WHERE", columns, {});
     data.answer("SELECT * FROM D6803", columns, both);
 }
@@ -75,7 +75,7 @@ void answer_summaries(FakeData& data) {
 void answer_templates(FakeData& data) {
     const std::string all = "SELECT D6601M.*, V6801.KM_NAME_NEW AS KM_NAME_NEW FROM D6601M INNER "
                             "JOIN V6801 ON D6601M.KM_ID = V6801.KM_ID ";
-    const std::vector<std::string> columns = {"NOID int", "ZY text",  "KM_ID text",      "J money",
+    const std::vector<std::string> columns = {"NOID int", "ZY text", "KM_ID text",      "J money",
                                               "D money",  "INX int", "KM_NAME_NEW text"};
     const Rows_ sale = {{"10001", "销售", "1131", "117.00", "0.00", "0", "应收帐款"},
                         {"10001", "销售", "5101", "0.00", "100.00", "1", "主营业务收入"},
@@ -104,6 +104,13 @@ void answer_allocation(FakeData& data, const std::vector<std::array<std::string,
     }
     data.answer("SELECT D6820_1.ID, D6820_1.XJLL,A.J,A.D FROM D6820",
                 {"ID text", "XJLL text", "J money", "D money"}, items);
+}
+
+void answer_red_vouchers(FakeData& data, const std::vector<std::array<std::string, 3>>& vouchers) {
+    Rows_ rows;
+    for (const auto& voucher : vouchers) rows.push_back({voucher.begin(), voucher.end()});
+    data.answer("SELECT D6601.PZQJ,D6601.PZZ,D6601.PZZ_H FROM D6601A INNER JOIN D6601 ON",
+                {"PZQJ text", "PZZ text", "PZZ_H int"}, rows);
 }
 
 void answer_mode(FakeData& data, const std::string& mode) {

@@ -229,10 +229,20 @@ TEST_F(VoucherEntry, the_summary_picker_finds_by_text_and_pinyin) {
     anna->lookup_cell(0, "ZY");
     anna->expect_active("TF6661_2");
     EXPECT_EQ(anna->row_count(), 2);
+    anna->mark();
     anna->set("wl_name", "货");
     EXPECT_EQ(anna->row_count(), 1);
+    anna->set("wl_name", "无'");
+    EXPECT_EQ(anna->row_count(), 0);
     anna->set("wl_name", "tx");
     EXPECT_EQ(anna->row_count(), 1);
+    EXPECT_EQ(anna->sent_texts(),
+              (std::vector<std::string>{" SELECT * FROM D6803 WHERE (ZY like '%货%')",
+                                        " SELECT * FROM D6803 WHERE (ZY like '%无''%')",
+                                        " SELECT * FROM D6803 WHERE (ZY like '%tx%')"}));
+    anna->set("wl_name", "");
+    EXPECT_EQ(anna->sent_texts().back(), " SELECT * FROM D6803");
+    anna->set("wl_name", "tx");
     anna->click("btn_ok");
     anna->expect_active("TF6661_1");
     EXPECT_EQ(anna->rows()[0].at("ZY"), "提现");
