@@ -1,8 +1,11 @@
 // List the vouchers: enter, copy, change, delete them; as function 662 audit them.
 #include "module/vouchers/U6661.h"
 
+#include "host/ports/host.h"
 #include "module/filters/U6661f.h"
+#include "module/refuse.h"
 #include "module/vouchers/U6661_1.h"
+#include "module/vouchers/voucher_number.h"
 #include "module/vouchers/voucher_statements.h"
 #include "module/vouchers/voucher_template.h"
 
@@ -21,6 +24,8 @@ constexpr Color not_audited_background = 0xFFFF80;
 TF6661::TF6661(TForm* parent) : TFrm_Base_Entry_Head(parent) {
     Caption = "录凭证";
     Action1.OnExecute = [this] { Action1Execute(); };
+    Act_Red.OnExecute = [this] { Act_RedExecute(); };
+    Act_Red.Right = "add";
     const auto scrolled = AdoQry_Main.AfterScroll;
     AdoQry_Main.AfterScroll = [this, scrolled] {
         if (scrolled) scrolled();
@@ -77,7 +82,7 @@ void TF6661::build_columns() {
 void TF6661::build_layout(bool audit) {
     Act_Audit.Visible = audit;
     Act_UnAudit.Visible = audit;
-    for (TAction* action : {&Act_Add, &Act_CopyAdd, &Act_Delete, &Action1})
+    for (TAction* action : {&Act_Add, &Act_CopyAdd, &Act_Delete, &Action1, &Act_Red})
         action->Visible = !audit;
     Act_Modify.Caption = audit ? "查看凭证" : "修改";
     std::vector<TAction*> own = {&Act_Add, &Act_CopyAdd, &Act_Modify, &Act_Delete};
@@ -85,7 +90,7 @@ void TF6661::build_layout(bool audit) {
     for (TAction* action : {static_cast<TAction*>(nullptr), &Act_Locate, &Act_Refresh}) {
         own.push_back(action);
     }
-    if (!audit) own.insert(own.end(), {nullptr, &Action1});
+    if (!audit) own.insert(own.end(), {nullptr, &Action1, &Act_Red});
     own.insert(own.end(), {nullptr, &Act_Print, &Act_Preview, &Act_Export, nullptr, &Act_Quit});
     layout =
         Rows({ToolBar(own), Columns({Control(ConditionLabel), Spring(), Control(CountLabel)}),
@@ -175,6 +180,43 @@ void TF6661::DBGridEhGetCellParams(TField& field, CellParams& params) {
 void TF6661::Action1Execute() {
     if (AdoQry_Main.IsEmpty()) return;
     save_as_template(FunctionCode, AdoQry_Main.FieldByName("NOID").AsText());
+}
+
+OriginalVoucher TF6661::selected_voucher() {
+    const auto text = [this](const char* field) { return AdoQry_Main.FieldByName(field).AsText(); };
+    return {text("NOID"), text("PZQJ"), text("PZZ"), text("PZZ_H")};
+}
+
+// What is not posted yet needs no reversal, and nothing is reversed before it happened.
+Period TF6661::period_for_red_voucher() {
+    const std::string name = "“" + DocumentName() + "”";
+    if (!AdoQry_Main.FieldByName("D").AsBoolean()) {
+        refuse(name + "还没有登帐,不必红字冲销!请直接修改或删除它,已审核的先反审核。");
+    }
+    const auto open = Period::parse(read_current_period(FunctionCode));
+    if (!open) refuse("读取会计期间错误!请确认是否进行初始建帐!");
+    if (open->to_text() < selected_voucher().period) {
+        refuse(name + "晚于当前会计期间 " + open->to_text() + ",不能在本期冲销!");
+    }
+    return *open;
+}
+
+void TF6661::Act_RedExecute() {
+    if (!StillThere()) return;
+    const Period open = period_for_red_voucher();
+    const OriginalVoucher original = selected_voucher();
+    const auto lines = read_voucher_lines(FunctionCode, original.key);
+    const std::string before = already_reversed_by(FunctionCode, original, lines);
+    const std::string question =
+        "“" + DocumentName() + "”已由红字凭证 " + before + " 冲销,还要再冲销一次吗?";
+    if (!before.empty() && DISPINFO(question, 2) != 'y') return;
+    const RedVoucher red =
+        red_voucher(FunctionCode, original, lines, open, the_host().clock->today(), G_UserId);
+    const std::string answer =
+        ExecSql(FunctionCode, red.key, "Red", red.batch, 65535, false, true, false, true);
+    if (answer != "Y") return;
+    ShowDocument(red.key);
+    DBGridEhDblClick();
 }
 
 } // namespace module

@@ -5,6 +5,7 @@
 
 #include "host/forms/Base_Entry_Head.h"
 #include "module/host_names.h"
+#include "module/vouchers/red_voucher.h"
 
 namespace module {
 
@@ -15,6 +16,7 @@ class TF6661 : public TFrm_Base_Entry_Head {
 public:
     // What the user sees, from top to bottom.
     TAction Action1{this, "Action1", "存为模板", "", "copy-plus"};
+    TAction Act_Red{this, "Act_Red", "红字凭证", "", "undo-2"};
     TLabel CountLabel{this, "CountLabel"};       // not audited, audited but not posted, all
     TLabel SelectedLabel{this, "SelectedLabel"}; // the voucher whose lines are shown
 
@@ -23,6 +25,7 @@ public:
     ~TF6661() override;
     const char* ClassName() const override { return "TF6661"; }
     void Action1Execute(); // the selected voucher's lines become a template
+    void Act_RedExecute(); // the selected posted voucher is reversed by a red one
 
     // Steps of every document list that differ here.
     void InitForm(const Trecord& record) override;
@@ -41,6 +44,8 @@ private:
     void count_posted();
     void show_counts();
     void show_selected();
+    Period period_for_red_voucher();
+    OriginalVoucher selected_voucher();
     std::int64_t posted_ = 0; // vouchers of the list that are posted
     std::unique_ptr<TF6661F> F6661F;
     std::unique_ptr<TF6661_1> F6661_1;

@@ -419,10 +419,9 @@ void TF6661_1::SaveData() {
         refuse("凭证:" + head.word + "-" + head.number + "已存在!");
     }
     Tfrm_Base_Entry_Body::SaveData();
-    const std::string batch = (own_key.empty() ? "" : delete_voucher(own_key)) +
-                              insert_voucher_head(head) +
-                              insert_voucher_lines(head.key, grid_.read()) +
-                              F6661_5->getsql(head.key);
+    const std::string batch =
+        (own_key.empty() ? "" : delete_voucher(own_key)) + insert_voucher_head(head) +
+        insert_voucher_lines(head.key, grid_.read()) + F6661_5->getsql(head.key);
     const std::string answer =
         ExecSql(FunctionCode, head.key, Mode, batch, 65535, false, true, false, true);
     if (answer == "Y") Saved(head.key);

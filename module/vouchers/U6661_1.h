@@ -19,15 +19,15 @@ class TF6661_5;
 class TF6661_1 : public Tfrm_Base_Entry_Body {
 public:
     // What the user sees, from top to bottom.
-    TComboBox PZZ{this, "PZZ", "凭证字"};           // voucher word
-    TNumberEdit PZZ_H{this, "PZZ_H", " 号"};        // number within period and word
-    TLabel PZQJ{this, "PZQJ"};                      // accounting period
-    TDateEdit BDATE{this, "BDATE", "日期"};         // voucher date, within the period
+    TComboBox PZZ{this, "PZZ", "凭证字"};              // voucher word
+    TNumberEdit PZZ_H{this, "PZZ_H", " 号"};           // number within period and word
+    TLabel PZQJ{this, "PZQJ"};                         // accounting period
+    TDateEdit BDATE{this, "BDATE", "日期"};            // voucher date, within the period
     TLabel DateHint{this, "DateHint", "日期不在本期"}; // shown while it is so
-    TNumberEdit PZZ_Z{this, "PZZ_Z", "附单据(张)"}; // number of attached documents
-    TLabel USER_ID{this, "USER_ID"};                // maker's name
-    TLabel AuditState{this, "AuditState"};          // not audited, audited by, posted
-    TLabel EDATE{this, "EDATE"};                    // audit date
+    TNumberEdit PZZ_Z{this, "PZZ_Z", "附单据(张)"};    // number of attached documents
+    TLabel USER_ID{this, "USER_ID"};                   // maker's name
+    TLabel AuditState{this, "AuditState"};             // not audited, audited by, posted
+    TLabel EDATE{this, "EDATE"};                       // audit date
     TLabel DebitTotal{this, "DebitTotal"};
     TLabel CreditTotal{this, "CreditTotal"};
     TPanel Difference{this, "Difference"};                 // which side is more, and by how much

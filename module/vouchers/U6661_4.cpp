@@ -24,10 +24,11 @@ TF6661_4::TF6661_4(TForm* parent) : TFrm_Base_Detail(parent) {
     Edit1.OnChange = [this] { Edit1Change(); };
     btn_del.OnClick = [this] { btn_delClick(); };
     AdoQry_Main.AfterScroll = [this] { show_selected(); };
-    layout = Rows({Columns({Field("", Edit1, 28), Spring(), Field("金额", MONEY, 16)}),
-                   Rest(DBGridEh), Control(SelectedTemplate),
-                   Text("填了金额时,借贷较大一方的合计按它换算,其他金额同比变动;  不填则按模板原来的金额"),
-                   Buttons({&btn_del, &btn_ok, &btn_Cancel})});
+    layout = Rows(
+        {Columns({Field("", Edit1, 28), Spring(), Field("金额", MONEY, 16)}), Rest(DBGridEh),
+         Control(SelectedTemplate),
+         Text("填了金额时,借贷较大一方的合计按它换算,其他金额同比变动;  不填则按模板原来的金额"),
+         Buttons({&btn_del, &btn_ok, &btn_Cancel})});
 }
 
 void TF6661_4::build_columns() {
@@ -111,8 +112,8 @@ TF6661_4::Template TF6661_4::selected() const {
             return AdoQry_Main.FieldByName(name);
         };
         if (field("NOID").AsText() != group) continue;
-        found.lines.push_back({field("ZY").AsText(), field("KM_ID").AsText(),
-                               field("J").AsAmount(), field("D").AsAmount()});
+        found.lines.push_back({field("ZY").AsText(), field("KM_ID").AsText(), field("J").AsAmount(),
+                               field("D").AsAmount()});
         found.names.push_back(field("KM_NAME_NEW").AsText());
     }
     return found;
@@ -120,11 +121,11 @@ TF6661_4::Template TF6661_4::selected() const {
 
 void TF6661_4::show_selected() {
     const Template chosen = selected();
-    SelectedTemplate.Caption =
-        chosen.lines.empty() ? ""
-                             : "选中模板 " + selected_group() + ",共 " +
-                                   std::to_string(chosen.lines.size()) + " 行,金额 " +
-                                   larger_side(chosen.lines).to_text();
+    SelectedTemplate.Caption = chosen.lines.empty()
+                                   ? ""
+                                   : "选中模板 " + selected_group() + ",共 " +
+                                         std::to_string(chosen.lines.size()) + " 行,金额 " +
+                                         larger_side(chosen.lines).to_text();
 }
 
 // ---- saving ----

@@ -32,9 +32,10 @@ TF6661_5::TF6661_5(TForm* parent) : TFrm_Base_Detail(parent) {
         refresh_hint();
         if (field && !loading_ && save_) save_->Enabled = true;
     };
-    layout = Rows({Control(CashHint), Rest(GRID2),
-                   Text("流入填借方,流出填贷方;  = 填入还没有分配的金额;  全部清空时保留原来的分配"),
-                   Buttons({&btn_ok, &btn_Cancel})});
+    layout =
+        Rows({Control(CashHint), Rest(GRID2),
+              Text("流入填借方,流出填贷方;  = 填入还没有分配的金额;  全部清空时保留原来的分配"),
+              Buttons({&btn_ok, &btn_Cancel})});
 }
 
 void TF6661_5::build_columns() {

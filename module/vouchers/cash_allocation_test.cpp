@@ -26,8 +26,7 @@ void allocate(TClientDataSet& items,
 }
 
 const std::string delete_old = "delete from d6601b where noid='2024-03记005';";
-const std::string insert_row =
-    "INSERT INTO D6601B (NOID, D6820ID, J, D) VALUES ('2024-03记005',";
+const std::string insert_row = "INSERT INTO D6601B (NOID, D6820ID, J, D) VALUES ('2024-03记005',";
 
 TEST(CashAllocation, is_read_for_the_items_that_are_no_headings) {
     EXPECT_EQ(select_allocation("2024-03记005"),
@@ -40,8 +39,7 @@ TEST(CashAllocation, the_rows_with_an_amount_replace_what_was_stored) {
     TClientDataSet items;
     allocate(items, {{"1101", "100", ""}, {"1102", "", ""}, {"1201", "", "30.5"}});
     EXPECT_EQ(replace_allocation("2024-03记005", items),
-              delete_old + insert_row + "'1101','100','0');" + insert_row +
-                  "'1201','0','30.5');");
+              delete_old + insert_row + "'1101','100','0');" + insert_row + "'1201','0','30.5');");
 }
 
 TEST(CashAllocation, a_row_counts_when_either_amount_is_above_zero) {

@@ -18,7 +18,7 @@ VoucherLine credit(const char* amount) {
     return {"摘要", "5101", {}, yuan(amount)};
 }
 
-Amount sum_of(const std::vector<VoucherLine>& lines, Amount VoucherLine::* side) {
+Amount sum_of(const std::vector<VoucherLine>& lines, Amount VoucherLine::*side) {
     Amount sum;
     for (const VoucherLine& line : lines) sum += line.*side;
     return sum;
@@ -44,7 +44,7 @@ TEST(TemplateAmounts, what_rounding_leaves_over_goes_to_the_largest_line_of_the_
 }
 
 TEST(TemplateAmounts, a_template_that_balances_gives_a_voucher_that_balances) {
-    const std::vector<VoucherLine> thirds = {debit("33.33"),  debit("33.33"), debit("33.34"),
+    const std::vector<VoucherLine> thirds = {debit("33.33"), debit("33.33"), debit("33.34"),
                                              credit("85.47"), credit("14.53")};
     for (std::int64_t cents = 1; cents < 5000; cents += 7) {
         const Amount wanted = Amount::from_cents(cents);

@@ -22,6 +22,8 @@ void answer_current_period(FakeData& data, const std::string& period);
 // Every voucher's cash-flow allocation: item, inflow, outflow ("<null>" for none). The items are
 // 1101, 1109 and 1201.
 void answer_allocation(FakeData& data, const std::vector<std::array<std::string, 3>>& amounts);
+// The red vouchers that reverse any voucher asked about: period, word, number.
+void answer_red_vouchers(FakeData& data, const std::vector<std::array<std::string, 3>>& vouchers);
 // How the books are kept: "strict", or "" for those of a small firm.
 void answer_mode(FakeData& data, const std::string& mode);
 

@@ -68,8 +68,7 @@ TEST_F(Templates, applying_replaces_every_line_of_the_voucher) {
     EXPECT_EQ(lines[1].at("D"), "100.00");
     EXPECT_EQ(lines[2].at("ZY"), "代垫运费");
     EXPECT_EQ(lines[2].at("D"), "17.00");
-    for (int row = 3; row < 6; ++row)
-        EXPECT_EQ(lines[static_cast<std::size_t>(row)].at("ZY"), "");
+    for (int row = 3; row < 6; ++row) EXPECT_EQ(lines[static_cast<std::size_t>(row)].at("ZY"), "");
     EXPECT_EQ(anna->footer("J"), "117.00");
 }
 
@@ -131,11 +130,11 @@ TEST_F(Templates, an_amount_becomes_the_total_and_the_lines_follow) {
 }
 
 TEST_F(Templates, a_line_saved_with_both_sides_comes_back_with_both) {
-    data.answer(all_templates,
-                {"NOID int", "ZY text", "KM_ID text", "J money", "D money", "INX int",
-                 "KM_NAME_NEW text"},
-                {{"10001", "调整", "1131", "30.00", "10.00", "0", "应收帐款"},
-                 {"10001", "调整", "5101", "0.00", "20.00", "1", "主营业务收入"}});
+    data.answer(
+        all_templates,
+        {"NOID int", "ZY text", "KM_ID text", "J money", "D money", "INX int", "KM_NAME_NEW text"},
+        {{"10001", "调整", "1131", "30.00", "10.00", "0", "应收帐款"},
+         {"10001", "调整", "5101", "0.00", "20.00", "1", "主营业务收入"}});
     browse();
     anna->click("btn_ok");
     EXPECT_EQ(anna->rows()[0].at("J"), "30.00");
@@ -143,10 +142,10 @@ TEST_F(Templates, a_line_saved_with_both_sides_comes_back_with_both) {
 }
 
 TEST_F(Templates, a_template_without_a_total_has_no_proportions) {
-    data.answer(all_templates,
-                {"NOID int", "ZY text", "KM_ID text", "J money", "D money", "INX int",
-                 "KM_NAME_NEW text"},
-                {{"10004", "结转", "5101", "0.00", "0.00", "0", "主营业务收入"}});
+    data.answer(
+        all_templates,
+        {"NOID int", "ZY text", "KM_ID text", "J money", "D money", "INX int", "KM_NAME_NEW text"},
+        {{"10004", "结转", "5101", "0.00", "0.00", "0", "主营业务收入"}});
     browse();
     anna->set("MONEY", "5");
     anna->click("btn_ok");

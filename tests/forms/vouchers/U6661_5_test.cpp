@@ -213,9 +213,9 @@ TEST_F(Allocation, it_is_written_with_the_voucher_under_the_voucher_s_key) {
     anna->set("PZZ_H", "12");
     anna->click("Act_Save");
     const std::string key = "2024-03记012";
-    EXPECT_TRUE(last_batch().ends_with(
-        ",'1131','              0.00','            100.00',1);" + old_gone(key) +
-        row_of(key, "1101", "70.5", "0") + row_of(key, "1109", "29.5", "0")))
+    EXPECT_TRUE(last_batch().ends_with(",'1131','              0.00','            100.00',1);" +
+                                       old_gone(key) + row_of(key, "1101", "70.5", "0") +
+                                       row_of(key, "1109", "29.5", "0")))
         << last_batch();
 }
 

@@ -48,9 +48,8 @@ TEST_F(AllocationLedger, only_items_below_a_heading_of_the_second_level_are_offe
                           "B.OID<>'ZZZ'"));
     EXPECT_EQ(rows.front().at("ID"), "1101");
     for (const Row& row : rows) EXPECT_EQ(row.at("ID").size(), 4u) << "a heading is offered";
-    EXPECT_TRUE(std::is_sorted(rows.begin(), rows.end(), [](const Row& a, const Row& b) {
-        return a.at("ID") < b.at("ID");
-    }));
+    EXPECT_TRUE(std::is_sorted(rows.begin(), rows.end(),
+                               [](const Row& a, const Row& b) { return a.at("ID") < b.at("ID"); }));
 }
 
 TEST_F(AllocationLedger, is_written_with_the_new_voucher_and_read_back_with_it) {

@@ -32,9 +32,9 @@ TEST_F(TemplateLedger, a_template_is_listed_whole_when_one_line_fits) {
         std::vector<std::string> groups;
     };
     const Search searches[] = {
-        {"房租", {"10000", "10000"}},                  // summary of one line
+        {"房租", {"10000", "10000"}},                   // summary of one line
         {"银行", {"10000", "10000", "10001", "10001"}}, // name of one account
-        {"yszk", {"10002", "10002"}},                  // pinyin of one account
+        {"yszk", {"10002", "10002"}},                   // pinyin of one account
         {"转入", {"10000", "10000", "10001", "10001", "10002", "10002"}},
         {"'", {}},
     };
