@@ -14,6 +14,7 @@
 #include "desktop/frame/status_line.h"
 #include "desktop/frame/tab_strip.h"
 #include "desktop/navigation/navigation_panel.h"
+#include "desktop/overview/figures.h"
 #include "desktop/overview/overview_page.h"
 #include "desktop/renderers/form_view.h"
 #include "desktop/theme/text.h"
@@ -194,7 +195,12 @@ void MainWindow::open(const host::Function& function) {
 
 void MainWindow::run_pick(const std::function<void()>& pick) {
     host::enter_event(pick);
-    if (FormView* view = view_in_front()) view->sync_focus();
+    FormView* view = view_in_front();
+    if (view != nullptr) {
+        view->sync_focus();
+    } else {
+        overview_->refresh(); // a dialog over it may have posted or closed
+    }
     refresh_books();
 }
 
@@ -210,7 +216,7 @@ void MainWindow::step_tab(int by) {
 void MainWindow::refresh_books() {
     const BooksLabel books = services_.books ? services_.books() : BooksLabel{};
     setWindowTitle(qt(books.company) + QStringLiteral(" - 帐房"));
-    status_->show_books(books, overview_->period());
+    status_->show_books(books, read_current_period());
 }
 
 void MainWindow::say(const QString& text) { status_->say(text); }

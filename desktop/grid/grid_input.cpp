@@ -64,8 +64,9 @@ void GridView::place_editor() {
     const QString text = grid_->editing() ? qt(grid_->edit_text()) : plain_cell_text();
     if (editor_->text() != text) editor_->setText(text);
     editor_->show();
-    if (hasFocus()) editor_->setFocus();
-    if (arrived && !grid_->editing()) editor_->selectAll();
+    const bool entered = hasFocus(); // the focus came to the grid: it belongs to the editor
+    if (entered) editor_->setFocus();
+    if ((arrived || entered) && !grid_->editing()) editor_->selectAll();
 }
 
 void GridView::edited(const QString& text) {

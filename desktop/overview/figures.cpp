@@ -83,6 +83,16 @@ void read_months(Figures& figures, const host::Period& period) {
 
 } // namespace
 
+std::string read_current_period() {
+    Figures figures;
+    try {
+        read_period(figures);
+    } catch (const host::DataError&) {
+        return {};
+    }
+    return host::Period::parse(figures.period) ? figures.period : "";
+}
+
 Figures read_figures() {
     Figures figures;
     try {

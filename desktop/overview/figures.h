@@ -30,6 +30,9 @@ struct Figures {
     std::string trouble;                   // why there are no figures; "" when there are
 };
 
+// The current period alone; "" when there is none.
+std::string read_current_period();
+
 // Reads the figures with a few statements; never throws for an error of the database.
 Figures read_figures();
 

@@ -17,7 +17,6 @@ class OverviewPage : public QWidget {
 public:
     explicit OverviewPage(QWidget* parent);
     void refresh();
-    const std::string& period() const { return figures_.period; }
     const Figures& figures() const { return figures_; }
     std::function<void(int code)> on_open;
 

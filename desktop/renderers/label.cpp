@@ -49,10 +49,14 @@ QWidget* draw_label(host::TLabel& label, FormView& view) {
     widget->setTextFormat(Qt::PlainText);
     view.listen(label, [widget, &label, condition] {
         widget->setText(qt(label.Caption.get()));
-        if (!condition) widget->setFont(fonts::body(label.Bold));
+        const bool clickable = label.OnClick && !condition;
+        QFont font = fonts::body(label.Bold);
+        font.setUnderline(clickable);
+        if (!condition) widget->setFont(font);
+        const QColor plain = condition ? token::ink_2 : token::ink_1;
         QPalette ink = widget->palette();
         ink.setColor(QPalette::WindowText,
-                     token::of(label.FontColor, condition ? token::ink_2 : token::ink_1));
+                     token::of(label.FontColor, clickable ? token::indigo_1 : plain));
         widget->setPalette(ink);
         widget->setToolTip(qt(label.Hint.get()));
         widget->setVisible(label.Visible);

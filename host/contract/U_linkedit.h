@@ -8,12 +8,13 @@ namespace host {
 class TClientDataSet;
 class TLinkEdit;
 
-// Looks `edit`'s code up in `table` (field `code_field`), shows `name_field` beside it; without a
-// hit, `title` + "不存在!" and Abort(). `condition` narrows the search; `function` is the calling
-// form's code.
-void CommonHint(TLinkEdit& edit, TClientDataSet& scratch, const std::string& function,
-                const std::string& table, const std::string& code_field,
-                const std::string& name_field, const std::string& condition,
-                const std::string& title);
+// Opens a picker over code and name of the rows of `table` that `condition` lets through; `caption`
+// names the window and the name's column. `rows` receives what is offered. The code chosen goes
+// into the edit, its name beside it; left without a choice the edit stays as it was.
+//
+//     CommonHint(KM_ID, rows, "d6801", "km_id", "科目编号", "km_name", "科目", "(km_id>'3141')");
+void CommonHint(TLinkEdit& edit, TClientDataSet& rows, const std::string& table,
+                const std::string& code, const std::string& code_title, const std::string& name,
+                const std::string& caption, const std::string& condition);
 
 } // namespace host

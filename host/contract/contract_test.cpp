@@ -184,19 +184,34 @@ TEST_F(Contract, codes_hold_no_blanks_quotes_or_separators) {
     CheckBlank(form.Account, "科目代号");
 }
 
-TEST_F(Contract, a_lookup_shows_the_name_or_refuses) {
+TEST_F(Contract, a_lookup_offers_the_rows_and_takes_the_chosen_one) {
     TSheet form;
-    form.Account.Text = "O'1";
-    desk.data.answer("SELECT KM_ID,KM_NAME FROM D6801 WHERE (KM_ID='O''1') AND (ISEND=1)",
-                     {"KM_ID text", "KM_NAME text"}, {{"O'1", "现金"}});
-    CommonHint(form.Account, rows, "661", "D6801", "KM_ID", "KM_NAME", "ISEND=1", "科目");
-    EXPECT_EQ(form.Account.DisplayName.get(), "现金");
-    form.Account.Text = "9";
-    desk.data.answer("SELECT KM_ID", {"KM_ID text", "KM_NAME text"}, {});
-    EXPECT_THROW(CommonHint(form.Account, rows, "661", "D6801", "KM_ID", "KM_NAME", "", "科目"),
-                 EAbort);
-    EXPECT_EQ(desk.ui.last_message(), "科目不存在!");
-    EXPECT_EQ(form.Account.DisplayName.get(), "");
+    form.Account.Text = "314102";
+    desk.data.answer("select km_id,km_name from d6801 where (km_id>'3141') order by km_id",
+                     {"km_id text", "km_name text"},
+                     {{"314101", "提取盈余公积"}, {"314102", "未分配利润"}, {"314115", "其他"}});
+    const auto look_up = [&](const std::function<void(TForm&)>& inside) {
+        desk.ui.inside.push_back(inside);
+        CommonHint(form.Account, rows, "d6801", "km_id", "科目编号", "km_name", "科目",
+                   "(km_id>'3141')");
+    };
+    look_up([](TForm& picker) {
+        EXPECT_EQ(picker.Caption.get(), "科目");
+        tests::press(picker, "Down"); // from the row of the code that stood there
+        tests::press(picker, "Enter");
+    });
+    EXPECT_EQ(form.Account.Text.get() + form.Account.DisplayName.get(), "314115其他");
+    look_up([](TForm& picker) {
+        tests::type(picker, "wfp"); // by ear
+        tests::press(picker, "Enter");
+    });
+    EXPECT_EQ(form.Account.Text.get() + form.Account.DisplayName.get(), "314102未分配利润");
+    look_up([](TForm& picker) {
+        tests::type(picker, "没有");
+        tests::press(picker, "Esc");
+    });
+    EXPECT_EQ(form.Account.Text.get(), "314102");
+    EXPECT_EQ(rows.RecordCount(), 3);
 }
 
 TEST(Pinyin, words_of_accounting_are_read_as_bookkeepers_read_them) {

@@ -8,6 +8,9 @@
 #include "module/masterdata/U6682.h"
 #include "module/masterdata/U6683.h"
 #include "module/masterdata/U6691.h"
+#include "module/period/U6667.h"
+#include "module/period/U6668.h"
+#include "module/period/U6699.h"
 #include "module/vouchers/U6661.h"
 #include "module/vouchers/U6663.h"
 
@@ -51,11 +54,14 @@ constexpr Function functions[] = {
     {661, modeless<TF6661, F6661>}, // 录凭证
     {662, modeless<TF6661, F6661>}, // 凭证审核
     {663, modal<TF6663, F6663>},    // 凭证登帐
+    {667, modal<TF6667, F6667>},    // 结转损溢
+    {668, modal<TF6668, F6668>},    // 期末结帐
     {681, modeless<TF6681, F6681>}, // 会计科目
     {682, modeless<TF6682, F6682>}, // 凭证字
     {683, modeless<TF6683, F6683>}, // 常用摘要
     {689, modeless<TF6689, F6689>}, // 试算平衡表
     {691, modeless<TF6691, F6691>}, // 现金流量项目
+    {699, modeless<TF6699, F6699>}, // 会计科目初始
 };
 
 } // namespace

@@ -2,22 +2,12 @@
 #include "module/vouchers/posting_batch.h"
 
 #include "host/values/sql_text.h"
+#include "module/vouchers/balance_rows.h"
 
 namespace module {
 namespace {
 
-// Enough to carry a leaf's figures from the deepest level of the chart to the top.
-constexpr int roll_up_passes = 6;
-
 // Periods are given as quoted texts.
-// Every account of the chart gets a row of the kind (0 movements, 1 closing balance).
-std::string add_missing_balance_rows(const std::string& kind, const std::string& period) {
-    return "INSERT INTO D6602 (INX,QJ,KM_ID) SELECT " + kind + " as INX," + period +
-           ",D6801.KM_ID  FROM  D6801 left OUTER JOIN "
-           "D6602 ON D6602.KM_ID = D6801.KM_ID and (D6602.INX = " +
-           kind + ") AND (D6602.QJ = " + period + ") where d6602.km_id is null;";
-}
-
 std::string set_movements_from_vouchers(const std::string& period) {
     return "UPDATE D6602 SET D6602.J=T.J,D6602.D=T.D FROM ( "
            "SELECT D6601A.KM_ID, SUM(D6601A.J) AS J, SUM(D6601A.D) AS D "
@@ -46,20 +36,6 @@ std::string set_carried_forward_amounts(const std::string& period) {
            period +
            ") GROUP BY D6601A.KM_ID, D6601.PZQJ) T WHERE D6602.INX=0 AND D6602.QJ=" + period +
            " AND D6602.KM_ID=T.KM_ID;";
-}
-
-// `prefix` "" rolls up the movements, "SY_" the carried-forward part.
-std::string roll_up_to_parents(const std::string& prefix, const std::string& period) {
-    const std::string debit = prefix + "J";
-    const std::string credit = prefix + "D";
-    const std::string pass =
-        "UPDATE D6602 SET " + debit + "=T.J," + credit + "=T.D FROM (SELECT OID,SUM(" + debit +
-        ") AS J,SUM(" + credit +
-        ") AS D FROM D6602 INNER JOIN D6801 ON D6602.KM_ID=D6801.KM_ID WHERE QJ =" + period +
-        "  AND INX = 0 GROUP BY OID) T WHERE D6602.KM_ID=T.OID AND D6602.QJ =" + period + ";";
-    std::string passes;
-    for (int i = 0; i < roll_up_passes; ++i) passes += pass;
-    return passes;
 }
 
 // Closing balance = closing balance of the period before + movements, on the account's own side.
@@ -92,10 +68,11 @@ std::string delete_balances(const std::string& period) {
 std::string posting_batch(Period period) {
     const std::string current = quoted(period.to_text());
     const std::string before = quoted(period.previous().to_text());
-    return add_missing_balance_rows("0", current) + add_missing_balance_rows("1", current) +
+    return add_missing_balance_rows(movements, current) +
+           add_missing_balance_rows(closing_balance, current) +
            set_movements_from_vouchers(current) + mark_carry_forward_vouchers(current) +
-           set_carried_forward_amounts(current) + roll_up_to_parents("", current) +
-           roll_up_to_parents("SY_", current) + set_closing_balances(current, before) +
+           set_carried_forward_amounts(current) + roll_up_to_parents("", movements, current) +
+           roll_up_to_parents("SY_", movements, current) + set_closing_balances(current, before) +
            mark_audited_vouchers_posted(current);
 }
 

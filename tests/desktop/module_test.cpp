@@ -38,6 +38,26 @@ struct BooksDesk : Desk {
         host::G_UserId = "anna";
         host::G_UserName = "李敏";
     }
+    void answer_opening_figures() {
+        answer_current_period(data, "");
+        data.answer("SELECT * FROM V6801 WHERE ISEND=1 order by km_id",
+                    {"KM_ID text", "KM_NAME2 text", "FX text", "BEGIN1 money", "BEGIN2 money",
+                     "BEGIN3 money", "BEGIN4 money", "BEGIN5 money"},
+                    {{"1001", "现金", "借", "80", "30", "10", "100", "0"},
+                     {"2101", "短期借款", "贷", "80", "10", "30", "100", "0"}});
+        data.answer("SELECT KM_ID, KM_NAME, CASE FX",
+                    {"KM_ID text", "KM_NAME text", "B1 money", "B2 money", "C1 money", "C2 money",
+                     "D1 money", "D2 money"},
+                    {{"1001", "现金", "80", "0", "30", "10", "100", "0"},
+                     {"2101", "短期借款", "0", "80", "10", "30", "0", "100"}});
+    }
+    // What the line at the bottom says of company and period.
+    std::string bottom_line() {
+        for (const QWidget* part : window().findChildren<QWidget*>()) {
+            if (part->accessibleName().contains("20")) return part->accessibleName().toStdString();
+        }
+        return "";
+    }
     void answer_code_tables() {
         const std::string chart = "SELECT KM_ID,KM_NAME, OID  FROM D6801 where km_fl=1";
         data.answer(chart, {"KM_ID text", "KM_NAME text", "OID text"},
@@ -130,6 +150,85 @@ TEST(ModuleForms, posting_stands_over_the_frame_until_it_is_left) {
     });
     desk.keys({"Ctrl+G", "6", "6", "3", "Enter"});
     EXPECT_TRUE(stood);
+    EXPECT_TRUE(host::the_host().modal.empty());
+}
+
+TEST(ModuleForms, the_bottom_line_shows_the_period_that_a_closing_leads_to) {
+    BooksDesk desk;
+    const auto answer_period = [&](const std::string& period) {
+        desk.data.answer("SELECT ID,PARAM FROM D6600", {"ID int", "PARAM text"},
+                         {{"1", "2024-01"}, {"2", period}});
+    };
+    answer_period("2024-03");
+    desk.data.answer("SELECT param,(SELECT COUNT(*)", {"param text", "I int", "J int"},
+                     {{"2024-03", "0", "0"}});
+    desk.when_modal([&] {
+        desk.settle();
+        desk.keep("668");
+        answer_period("2024-04");
+        desk.keys({"F2", "Esc"});
+    });
+    desk.keys({"Ctrl+G", "6", "6", "8", "Enter"});
+    EXPECT_EQ(desk.messages, std::vector<std::string>{"结帐完成!"});
+    EXPECT_TRUE(desk.bottom_line().ends_with("2024-04")) << desk.bottom_line();
+}
+
+TEST(ModuleForms, opening_figures_are_typed_along_the_row_and_posted_by_key) {
+    BooksDesk desk;
+    desk.answer_opening_figures();
+    desk.keys({"Ctrl+G", "6", "9", "9", "Enter"});
+    ASSERT_EQ(desk.active(), "TF6699");
+    host::TForm& form = *host::the_host().active;
+    auto& grid = *dynamic_cast<host::TDBGridEh*>(form.FindComponent("DBGridEh"));
+    ASSERT_EQ(form.ActiveControl(), &grid);
+    for (const char* figure : {"30", "10", "100", "0", "10", "30", "100"}) {
+        desk.type(figure);
+        desk.keys({"Enter"});
+    }
+    desk.keep("699");
+    EXPECT_EQ(grid.cell_text(0, grid.column_index("BEGIN1")), "80.00");
+    EXPECT_EQ(grid.cell_text(1, grid.column_index("BEGIN4")), "100.00");
+    desk.keys({"F2"});
+    desk.when_modal([&] {
+        desk.settle();
+        EXPECT_EQ(desk.active(), "TF6699_1");
+        desk.keep("699_1");
+        desk.when_modal([&] {
+            desk.settle();
+            EXPECT_EQ(desk.active(), "TF6699_2");
+            desk.keep("699_2");
+            desk.keys({"F2"});
+        });
+        desk.keys({"F2"});
+    });
+    desk.keys({"F7"});
+    EXPECT_EQ(desk.messages, std::vector<std::string>());
+    ASSERT_FALSE(desk.data.executed().empty());
+    EXPECT_EQ(desk.data.executed().back().log.key, "2024-03");
+    EXPECT_TRUE(host::the_host().forms.empty()) << "the entry closes with the posting";
+}
+
+TEST(ModuleForms, profit_is_carried_forward_without_the_mouse) {
+    BooksDesk desk;
+    desk.data.answer("SELECT KM_ID AS A1",
+                     {"A1 text", "A2 text", "A3 text", "A4 text", "FX text", "E money"},
+                     {{"5101", "主营业务收入", "3131", "本年利润", "贷", "0.00"}});
+    desk.data.answer("SELECT DBO.FASC(0,'2024-03','5101','5101') AS A", {"A money"}, {{"1234.5"}});
+    desk.data.answer("select km_name from d6801", {"km_name text"}, {{"未分配利润"}});
+    desk.when_modal([&] {
+        desk.settle();
+        EXPECT_EQ(desk.active(), "TF6667");
+        desk.keys({"Enter", "Enter"}); // date, summary
+        desk.type("314115");
+        desk.keys({"Enter"});
+        desk.keep("667");
+        desk.keys({"F2"});
+        desk.keep("667_done");
+        desk.keys({"Esc"});
+    });
+    desk.keys({"Ctrl+G", "6", "6", "7", "Enter"});
+    EXPECT_EQ(desk.messages, std::vector<std::string>());
+    ASSERT_EQ(desk.data.executed().size(), 1u);
     EXPECT_TRUE(host::the_host().modal.empty());
 }
 

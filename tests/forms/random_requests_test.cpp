@@ -10,11 +10,12 @@ namespace tests {
 using nlohmann::json;
 
 TEST(RandomRequests, the_real_forms_answer_each_of_them) {
-    for (const std::uint32_t seed : {661U, 662U, 681U, 689U}) {
+    for (const std::uint32_t seed : {661U, 662U, 667U, 681U, 689U, 699U}) {
         FakeData data;
         answer_as_small_books(data);
         Person anna(data);
-        RandomRequests requests(seed, {661, 662, 663, 681, 682, 683, 689, 691, 640});
+        RandomRequests requests(seed, {661, 662, 663, 667, 668, 681, 682, 683,
+                                       689, 691, 699, 640});
         for (int round = 0; round < 300; ++round) {
             const json request = requests.next(anna);
             const json answer = anna.request(request);

@@ -28,8 +28,8 @@ TEST_F(Posting, shows_the_period_and_what_waits) {
     Person& anna = person();
     anna.expect_active("TF6663");
     EXPECT_EQ(anna.value("BDATE"), "2024-03");
-    EXPECT_EQ(anna.value("AuditedCount"), "2");
-    EXPECT_EQ(anna.value("NotAuditedCount"), "1");
+    EXPECT_EQ(anna.value("Label7"), "2");
+    EXPECT_EQ(anna.value("Label9"), "1");
     EXPECT_TRUE(anna.checked("R1"));
     EXPECT_EQ(
         anna.sent_texts().front(),

@@ -1,0 +1,199 @@
+// Carry the period's profit and loss into the profit of the year by one voucher.
+#include "module/period/U6667.h"
+
+#include "host/contract/U_linkedit.h"
+#include "host/ports/host.h"
+#include "host/values/period.h"
+#include "host/values/sql_text.h"
+#include "module/refuse.h"
+#include "module/vouchers/voucher_number.h"
+
+namespace module {
+
+TF6667* F6667 = nullptr;
+
+namespace {
+
+constexpr Color red = 255;
+
+// Leaf accounts of the category profit and loss. 5801 corrects former years: it belongs to the
+// distribution of profit, not to the profit of this year.
+const char* const select_accounts =
+    "SELECT KM_ID AS A1,KM_NAME2 A2 ,'3131' as A3,'本年利润' AS A4,FX,0.00 AS E FROM V6801 LEFT "
+    "JOIN (SELECT OID AS ID FROM D6801 WHERE OID<>'Z' GROUP BY OID ) A ON KM_ID=A.ID WHERE ID IS "
+    "NULL and km_fl=5  AND KM_ID<>'5801' order by km_id ";
+
+std::string select_balance(const std::string& period, const std::string& account) {
+    return "SELECT DBO.FASC(0," + quoted(period) + "," + quoted(account) + "," + quoted(account) +
+           ") AS A";
+}
+
+std::string select_distribution_account(const std::string& code) {
+    return "select km_name from d6801 where (km_id=" + quoted(code) +
+           ") and  (km_id>'3141') and  (km_id like '3141%')";
+}
+
+} // namespace
+
+// ---- opening ----
+
+TF6667::TF6667(TForm* parent) : TFrm_Base_Dialog(parent) {
+    Caption = "结转损溢";
+    PreferredWidth = 96;
+    btn_ok.Caption = "结转 F2";
+    btn_ok.KeyHint = ""; // its caption names the key
+    btn_Cancel.Caption = "关闭";
+    Edit1.Text = "结转本期损益";
+    Edit1.MaxLength = 100;
+    KM_ID.MaxLength = 18;
+    DateHint.FontColor = red;
+    DateHint.Visible = false;
+    bdate.OnChange = [this] { refresh_date_hint(); };
+    KM_ID.OnExit = [this] { KM_IDExit(KM_ID); };
+    KM_ID.OnChange = [this] { show_account_name(""); };
+    KM_ID.OnButtonClick = [this] { KM_IDButtonClick(); };
+    cds1.DefineField("E", FieldType::Amount).DisplayFormat = "0.00";
+    DBGridEh.ReadOnly = true;
+    DBGridEh.Columns = {
+        {.FieldName = "A1", .Title = "代码", .Width = 10},
+        {.FieldName = "A2", .Title = "名称", .Width = -1},
+        {.FieldName = "A3", .Title = "结转科目", .Width = 10},
+        {.FieldName = "A4", .Title = "科目名称", .Width = 14},
+        {.FieldName = "FX", .Title = "方向", .Width = 6, .Align = Alignment::Center},
+        {.FieldName = "E", .Title = "期末余额", .Width = 16, .Align = Alignment::Right, .Tag = 9}};
+    build_layout();
+}
+
+void TF6667::build_layout() {
+    layout = Rows(
+        {Columns({Field("凭证日期", bdate, 14), Control(DateHint), Spring()}),
+         Field("凭证摘要", Edit1, 40), Text("5801         以前年度损益调整"),
+         Field("会计科目", KM_ID, 40), Rest(DBGridEh),
+         Columns({Control(Totals), Spring(), Control(Made)}), Rule(),
+         Text("1、损益类科目的余额结转到“本年利润”，其中“以前年度损益调整”属于“利润分配”。"),
+         Text("2、在开始结转本期损益之前，应当将所有的凭证过帐，否则可能会出现不正确的结果。"),
+         Buttons({&btn_ok, &btn_Cancel})});
+}
+
+void TF6667::InitForm(const Trecord& record) { OpenFunction(record); }
+
+void TF6667::FormActivate() {
+    totals_ = {};
+    bdate.set(the_host().clock->today());
+    opensql(cds1, FunctionCode, select_accounts);
+    period_ = read_current_period(FunctionCode);
+    btn_ok.Enabled = !period_.empty();
+    refresh_date_hint();
+    if (period_.empty()) {
+        DISPINFO("读取会计期间错误!请确认是否进行初始建帐!", 5);
+        return;
+    }
+    load_accounts();
+}
+
+void TF6667::load_accounts() {
+    cds1.DisableControls();
+    for (cds1.First(); !cds1.Eof(); cds1.Next()) {
+        read_balance_of_row();
+        totals_.add(account_in_row(cds1.RecNo()));
+    }
+    cds1.First();
+    cds1.MarkSaved();
+    cds1.EnableControls();
+    show_totals();
+}
+
+void TF6667::read_balance_of_row() {
+    TClientDataSet balance;
+    opensql(balance, FunctionCode, select_balance(period_, cds1.FieldByName("A1").AsText()));
+    cds1.Edit();
+    cds1.FieldByName("E").SetText(balance.FieldByName("A").AsText());
+    cds1.Post();
+}
+
+CarriedAccount TF6667::account_in_row(int row) const {
+    const auto text = [&](const char* field) {
+        return cds1.text_at(row, cds1.FieldByName(field).index());
+    };
+    return {text("A1"), text("A3"), text("FX") == "借", Amount::parse(text("E")).value_or(Amount())};
+}
+
+std::vector<CarriedAccount> TF6667::accounts() const {
+    std::vector<CarriedAccount> all;
+    for (int row = 0; row < cds1.RecordCount(); ++row) all.push_back(account_in_row(row));
+    return all;
+}
+
+void TF6667::show_totals() {
+    const Amount profit = totals_.credit - totals_.debit;
+    Totals.Caption = "收入 " + totals_.credit.to_text() + "    费用 " + totals_.debit.to_text() +
+                     (profit.is_negative() ? "    亏损 " + (-profit).to_text()
+                                           : "    利润 " + profit.to_text());
+}
+
+// ---- leaving a field ----
+
+// A voucher of a period that is closed late bears a day of that period.
+void TF6667::refresh_date_hint() {
+    const auto period = Period::parse(period_);
+    const auto day = bdate.date();
+    DateHint.Visible = period && day && !period->contains(*day);
+    DateHint.Caption = "不在当前会计期间 " + period_ + " 内";
+}
+
+// The account is asked for and checked, though no line uses it: the balance of 5801 is distributed
+// by a voucher typed by hand.
+void TF6667::KM_IDExit(TWinControl& sender) {
+    if (leaving_by_cancel()) return;
+    CheckBlankInstr(Edit1, "会计科目");
+    CheckBlank(Edit1, "会计科目");
+    CheckText(Edit1, "会计科目");
+    TClientDataSet account;
+    opensql(account, FunctionCode, select_distribution_account(KM_ID.Text));
+    if (account.IsEmpty()) {
+        DISPINFO("请填写<利润分配3141>类的科目!", 5);
+        sender.SetFocus();
+        Abort();
+    }
+    show_account_name(account.FieldByName("km_name").AsText());
+}
+
+void TF6667::show_account_name(const std::string& name) {
+    KM_NAME.Caption = name;
+    KM_ID.DisplayName = name;
+}
+
+void TF6667::KM_IDButtonClick() {
+    TClientDataSet offered;
+    CommonHint(KM_ID, offered, "d6801", "km_id", "科目编号", "km_name", "科目",
+               "  (km_id>'3141') and  (km_id like '3141%')");
+    KM_NAME.Caption = KM_ID.DisplayName;
+}
+
+// ---- checking ----
+
+void TF6667::require_same_period() {
+    const std::string now = read_current_period(FunctionCode);
+    if (now == period_) return;
+    refuse("会计期间已由 " + period_ + " 变为 " + now + "!请关闭后重新打开本功能。");
+}
+
+// ---- saving ----
+
+void TF6667::btn_okClick() {
+    RequireRight("add", "结转损溢");
+    KM_IDExit(KM_ID);
+    CheckDate(bdate, "凭证日期");
+    // A loss and a profit that cancel each other leave nothing to carry.
+    if (totals_.sum().is_zero()) refuse("没有可结转的数据!");
+    require_same_period();
+    CarryForwardVoucher voucher{period_, "", bdate.Text, G_UserId, Edit1.Text};
+    voucher.number = std::to_string(next_voucher_number(FunctionCode, period_, "记"));
+    const std::string batch = carry_forward_batch(voucher, accounts(), totals_);
+    const std::string answer =
+        ExecSql(FunctionCode, voucher.key(), "Add", batch, 0, false, true, false, true);
+    if (answer != "Y") return;
+    Made.Caption = "已生成凭证 记-" + voucher.number + "，请审核、登帐。";
+}
+
+} // namespace module
