@@ -10,6 +10,7 @@
 #include "module/vouchers/U6661_4.h"
 #include "module/vouchers/U6661_5.h"
 #include "module/vouchers/capital_numerals.h"
+#include "module/vouchers/cash_allocation.h"
 #include "module/vouchers/voucher_layout.h"
 #include "module/vouchers/voucher_number.h"
 #include "module/vouchers/voucher_template.h"
@@ -329,21 +330,13 @@ void TF6661_1::mark_cash_lines() {
 
 void TF6661_1::Act_xjExecute() {
     CommitActive();
-    TClientDataSet lines;
-    lines.CopyFrom(AdoQry_Main);
-    bool cash_flow = false;
-    Amount cash_change;
-    for (lines.First(); !lines.Eof(); lines.Next()) {
-        if (!lines.FieldByName("KM_K").AsBoolean()) continue;
-        cash_flow = true;
-        cash_change += lines.FieldByName("J").AsAmount() - lines.FieldByName("D").AsAmount();
-    }
-    if (!cash_flow) {
+    const std::optional<Amount> cash_change = grid_.cash_change();
+    if (!cash_change) {
         refuse("当前凭证没有现金流量核算的科目存在!不需要进行现金流量的分配!");
     }
     const std::string key = new_voucher() ? voucher_key(period_, PZZ.Text, PZZ_H.Text) : Key;
     if (!F6661_5->loaded()) F6661_5->initnoid(key, Mode);
-    if (F6661_5->allocate(cash_change)) Touch();
+    if (F6661_5->allocate(*cash_change)) Touch();
 }
 
 void TF6661_1::PoPMenuPopup() {
@@ -405,6 +398,13 @@ VoucherHead TF6661_1::head_to_save(const std::string& period) const {
     return {key, period, PZZ.Text, PZZ_H.Text, attachments, BDATE.Text, G_UserId};
 }
 
+// Once the cash lines are gone the allocation cannot be opened any more, so it goes with them.
+std::string TF6661_1::save_allocation(const std::string& key) const {
+    const std::string rows = F6661_5->getsql(key);
+    if (rows.empty() || grid_.cash_change()) return rows;
+    return Mode == "Edit" ? delete_allocation(key) : "";
+}
+
 // ---- saving ----
 
 void TF6661_1::SaveData() {
@@ -421,7 +421,7 @@ void TF6661_1::SaveData() {
     Tfrm_Base_Entry_Body::SaveData();
     const std::string batch =
         (own_key.empty() ? "" : delete_voucher(own_key)) + insert_voucher_head(head) +
-        insert_voucher_lines(head.key, grid_.read()) + F6661_5->getsql(head.key);
+        insert_voucher_lines(head.key, grid_.read()) + save_allocation(head.key);
     const std::string answer =
         ExecSql(FunctionCode, head.key, Mode, batch, 65535, false, true, false, true);
     if (answer == "Y") Saved(head.key);

@@ -77,6 +77,7 @@ private:
     const LeafAccount& account_meant_by(const std::string& typed);
     void mark_cash_lines();
     void prepare_allocation();
+    std::string save_allocation(const std::string& key) const;
     void check_head();
     void check_accounts_take_entries(const std::vector<VoucherLine>& lines);
     void check_unchanged_by_others();

@@ -168,7 +168,7 @@ Amount TF6661_5::left_for(const std::string& side) const {
 // be allocated later.
 void TF6661_5::refresh_hint() {
     const Amount left = cash_change_ - allocated();
-    CashHint.Caption = "本凭证现金净" + direction_text(cash_change_) + "    已分配 " +
+    CashHint.Caption = "本凭证现金净额 " + direction_text(cash_change_) + "    已分配 " +
                        direction_text(allocated()) + "    未分配 " + direction_text(left);
     CashHint.FontColor = left.is_zero() ? clDefault : 255;
 }

@@ -31,7 +31,11 @@ std::string replace_allocation(const std::string& voucher_key, const TClientData
                    quoted(items.FieldByName("ID").AsText()) + "," + quoted_amount(inflow) + "," +
                    quoted_amount(outflow) + ");";
     }
-    return inserts.empty() ? "" : "delete from d6601b where noid=" + key + ";" + inserts;
+    return inserts.empty() ? "" : delete_allocation(voucher_key) + inserts;
+}
+
+std::string delete_allocation(const std::string& voucher_key) {
+    return "delete from d6601b where noid=" + quoted(voucher_key) + ";";
 }
 
 std::string take_back_allocation(const std::string& voucher_key, const std::string& red_key) {

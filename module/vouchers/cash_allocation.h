@@ -23,6 +23,9 @@ std::string select_allocation(const std::string& voucher_key);
 //                      VALUES ('2024-03记005','1101','100','0');
 std::string replace_allocation(const std::string& voucher_key, const TClientDataSet& items);
 
+// A voucher whose cash lines were taken out has nothing to allocate any more.
+std::string delete_allocation(const std::string& voucher_key);
+
 // Gives `red_key` the allocation of `voucher_key` with its sides swapped. A negative amount would
 // not be kept by the allocation, so an outflow is taken back as an inflow of the same item.
 std::string take_back_allocation(const std::string& voucher_key, const std::string& red_key);

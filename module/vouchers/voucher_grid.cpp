@@ -61,6 +61,18 @@ VoucherLine VoucherGrid::current() const {
             lines_.FieldByName("J").AsAmount(), lines_.FieldByName("D").AsAmount()};
 }
 
+std::optional<Amount> VoucherGrid::cash_change() const {
+    std::optional<Amount> change;
+    const TClientDataSet& lines = lines_;
+    for (int row = 0; row < lines.RecordCount(); ++row) {
+        const TClientDataSet::Peek peek(lines, row);
+        if (!lines.FieldByName("KM_K").AsBoolean()) continue;
+        change = change.value_or(Amount()) + lines.FieldByName("J").AsAmount() -
+                 lines.FieldByName("D").AsAmount();
+    }
+    return change;
+}
+
 void VoucherGrid::swap_sides() {
     const VoucherLine line = current();
     lines_.Edit();

@@ -1,6 +1,7 @@
 // The lines of a voucher as they stand in the grid: read, filled up, swapped, balanced.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,9 @@ public:
     Amount credit() const { return lines_.Sum("D"); }
     // Debits less credits of all lines; zero when the voucher balances.
     Amount difference() const { return debit() - credit(); }
+
+    // What the lines on cash-flow accounts add to the cash; nothing when there is no such line.
+    std::optional<Amount> cash_change() const;
 
     // The current line's debit becomes its credit and the other way round.
     void swap_sides();

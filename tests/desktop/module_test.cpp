@@ -109,6 +109,39 @@ TEST(ModuleForms, a_voucher_is_typed_from_the_menu_to_the_books_without_the_mous
     EXPECT_NE(batch.find("'收货款','1133'"), std::string::npos) << batch;
 }
 
+TEST(ModuleForms, a_template_is_applied_and_its_cash_allocated_without_the_mouse) {
+    BooksDesk desk;
+    desk.keys({"Ctrl+G", "6", "6", "1", "Enter", "Insert"});
+    ASSERT_EQ(desk.active(), "TF6661_1");
+    desk.when_modal([&] {
+        desk.settle();
+        EXPECT_EQ(desk.active(), "TF6661_4");
+        desk.type("提");
+        desk.keep("661_4");
+        desk.keys({"F2"});
+    });
+    desk.keys({"F7"});
+    ASSERT_EQ(desk.active(), "TF6661_1");
+    desk.when_modal([&] {
+        desk.settle();
+        EXPECT_EQ(desk.active(), "TF6661_5");
+        desk.type("500");
+        desk.keys({"Enter", "Enter"});
+        desk.keys({"Enter"}); // over the inflow of the second item to its outflow
+        desk.type("500");
+        desk.keep("661_5");
+        desk.keys({"F2"});
+    });
+    desk.keys({"F8", "F2"});
+    EXPECT_EQ(desk.messages, std::vector<std::string>());
+    ASSERT_EQ(desk.data.executed().size(), 1u);
+    const std::string row = "INSERT INTO D6601B (NOID, D6820ID, J, D) VALUES ('2024-03记009',";
+    EXPECT_TRUE(desk.data.executed().back().batch.ends_with(
+        "delete from d6601b where noid='2024-03记009';" + row + "'1101','500','0');" + row +
+        "'1109','0','500');"))
+        << desk.data.executed().back().batch;
+}
+
 TEST(ModuleForms, an_unfinished_voucher_is_refused_and_the_focus_stays) {
     BooksDesk desk;
     desk.keys({"Ctrl+G", "6", "6", "1", "Enter", "Insert"});

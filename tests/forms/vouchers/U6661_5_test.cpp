@@ -74,7 +74,7 @@ TEST_F(Allocation, a_saved_voucher_shows_what_it_has) {
     EXPECT_EQ(anna->rows("GRID2")[1].at("J"), "585.00");
     EXPECT_EQ(anna->footer("J", "GRID2"), "585.00");
     EXPECT_EQ(anna->value("CashHint"),
-              "本凭证现金净流入 585.00    已分配 流入 585.00    未分配 0.00");
+              "本凭证现金净额 流入 585.00    已分配 流入 585.00    未分配 0.00");
 }
 
 TEST_F(Allocation, the_hint_compares_what_is_allocated_with_the_cash_lines) {
@@ -84,10 +84,10 @@ TEST_F(Allocation, the_hint_compares_what_is_allocated_with_the_cash_lines) {
     anna->line(2, {{"ZY", "付款"}, {"KM_ID", "100201"}, {"D", "100"}});
     allocate();
     EXPECT_EQ(anna->value("CashHint"),
-              "本凭证现金净流出 130.00    已分配 0.00    未分配 流出 130.00");
+              "本凭证现金净额 流出 130.00    已分配 0.00    未分配 流出 130.00");
     amount(2, "D", "50");
     EXPECT_EQ(anna->value("CashHint"),
-              "本凭证现金净流出 130.00    已分配 流出 50.00    未分配 流出 80.00");
+              "本凭证现金净额 流出 130.00    已分配 流出 50.00    未分配 流出 80.00");
     amount(2, "D", "150");
     anna->click("btn_ok"); // more than the cash: pointed out, not refused
     anna->expect_active("TF6661_1");
@@ -98,7 +98,7 @@ TEST_F(Allocation, drawing_cash_from_the_bank_leaves_nothing_to_allocate) {
     anna->line(0, {{"ZY", "提现"}, {"KM_ID", "1001"}, {"J", "500"}});
     anna->line(1, {{"ZY", "提现"}, {"KM_ID", "100201"}, {"D", "500"}});
     allocate();
-    EXPECT_EQ(anna->value("CashHint"), "本凭证现金净0.00    已分配 0.00    未分配 0.00");
+    EXPECT_EQ(anna->value("CashHint"), "本凭证现金净额 0.00    已分配 0.00    未分配 0.00");
 }
 
 // ---- what is typed ----

@@ -108,6 +108,24 @@ TEST_F(AllocationLedger, a_change_elsewhere_in_the_voucher_keeps_it) {
     EXPECT_EQ(allocations(), (Rows{allocation("2024-03记001", "1101", "100.00", "0.00")}));
 }
 
+TEST_F(AllocationLedger, a_voucher_without_cash_has_none_whatever_was_typed_before) {
+    new_voucher();
+    type_receipt();
+    allocate("1101", "J", "100");
+    anna.cell(0, "KM_ID", "1133");
+    anna.click("Act_Save");
+    EXPECT_TRUE(allocations().empty()) << "the cash line became a receivable before the save";
+    type_receipt();
+    allocate("1101", "J", "100");
+    anna.click("Act_Save");
+    anna.close();
+    anna.row(1);
+    anna.click("Act_Modify");
+    anna.cell(0, "KM_ID", "1133");
+    anna.click("Act_Save");
+    EXPECT_TRUE(allocations().empty()) << "the cash line was taken out by a change";
+}
+
 TEST_F(AllocationLedger, follows_the_voucher_to_another_number) {
     new_voucher();
     type_receipt();
