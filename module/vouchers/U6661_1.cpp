@@ -398,11 +398,14 @@ VoucherHead TF6661_1::head_to_save(const std::string& period) const {
     return {key, period, PZZ.Text, PZZ_H.Text, attachments, BDATE.Text, G_UserId};
 }
 
-// Once the cash lines are gone the allocation cannot be opened any more, so it goes with them.
+// What was not touched stays with the number it has. Once the cash lines are gone the allocation
+// cannot be opened any more, so it goes with them.
 std::string TF6661_1::save_allocation(const std::string& key) const {
     const std::string rows = F6661_5->getsql(key);
-    if (rows.empty() || grid_.cash_change()) return rows;
-    return Mode == "Edit" ? delete_allocation(key) : "";
+    if (rows.empty()) return "";
+    if (!grid_.cash_change()) return Mode == "Edit" ? delete_allocation(key) : "";
+    const bool stays = Mode == "Edit" && key == Key && !F6661_5->changed_since_loaded();
+    return stays ? "" : rows;
 }
 
 // ---- saving ----

@@ -179,6 +179,10 @@ std::string TF6661_5::getsql(const std::string& NOID) const {
     return loaded() ? replace_allocation(NOID, AdoQry_Main) : "";
 }
 
+bool TF6661_5::changed_since_loaded() const {
+    return loaded() && replace_allocation(noid_, AdoQry_Main) != as_loaded_;
+}
+
 bool TF6661_5::stored_meanwhile() const {
     if (!loaded()) return false;
     TClientDataSet now;

@@ -31,6 +31,7 @@ public:
     // Shows the items to a person; `cash_change` is what the voucher's cash lines add to the cash.
     // True when amounts were changed and accepted.
     bool allocate(Amount cash_change);
+    bool changed_since_loaded() const;
     // Is the stored allocation of the voucher loaded another one than it was then?
     bool stored_meanwhile() const;
 

@@ -278,6 +278,15 @@ TEST_F(Allocation, a_changed_number_takes_it_along) {
     EXPECT_EQ(last_batch().find("delete from D6601 WHERE NOID='2024-03记007';"), 0u);
 }
 
+TEST_F(Allocation, an_untouched_one_stays_with_the_voucher_and_is_not_written_again) {
+    answer_allocation(data, {{"1101", "585.00", "<null>"}});
+    change_voucher_7();
+    anna->cell(0, "ZY", "收贷款");
+    anna->click("Act_Save");
+    anna->expect_active("TF6661");
+    EXPECT_EQ(last_batch().find("D6601B"), std::string::npos) << last_batch();
+}
+
 TEST_F(Allocation, all_amounts_cleared_leave_the_old_allocation_as_it_is) {
     answer_allocation(data, {{"1101", "585.00", "<null>"}});
     change_voucher_7();
