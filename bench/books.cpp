@@ -104,19 +104,21 @@ void write_balances(hand::Connection& connection, const host::Period& period) {
     for (std::int64_t kind = 0; kind <= 1; ++kind) insert.bind(1, text).bind(2, kind).run();
 }
 
-void create_empty(const std::string& file, const host::Period& start) {
+void create_empty(const std::string& file) {
     app::SystemClock clock;
     app::NewBooks wanted;
     wanted.books = file;
     wanted.company = "测算用帐套";
     wanted.template_name = "four_digit";
-    wanted.start = start;
     app::create_books(wanted, clock);
 }
 
 void fill(const BigBooks& books, const std::vector<Account>& accounts, host::Period period) {
     hand::Connection connection(books.file);
     connection.run("PRAGMA synchronous=OFF; BEGIN");
+    hand::Statement first(connection, "UPDATE D6600 SET PARAM=?1 WHERE ID=1");
+    const std::string start = period.to_text();
+    first.bind(1, start).run();
     write_accounts(connection, accounts);
     VoucherWriter writer(connection, books.leaves);
     for (int written = 0; written < books.vouchers; period = period.next()) {
@@ -155,7 +157,7 @@ BigBooks big_books(const std::string& folder, int vouchers) {
     for (const char* tail : {"", "-wal", "-shm"}) std::filesystem::remove(unfinished + tail);
     BigBooks making = books;
     making.file = unfinished;
-    create_empty(unfinished, start);
+    create_empty(unfinished);
     fill(making, accounts, start);
     std::filesystem::rename(unfinished, books.file);
     return books;

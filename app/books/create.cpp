@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "app/books/engines.h"
-#include "app/books/initial_posting.h"
 #include "app/books/open.h"
 #include "app/books/pending_file.h"
 #include "app/data/error_sentence.h"
@@ -84,14 +83,7 @@ void build(engines::Session& session, const NewBooks& wanted, const host::Clock&
     for (const schema::TemplateTable& table : schema::template_tables(wanted.template_name))
         insert_rows(session, table);
     run(session, own_rows(wanted), "帐套参数");
-    std::string posting;
-    if (wanted.start) {
-        posting = initial_posting(wanted.start->first_day());
-        run(session, posting, "初始建帐");
-    }
-    require(append_log_row(session, clock.now(), "admin",
-                           {"new", wanted.start ? wanted.start->to_text() : "", "Add"}, posting),
-            "操作日志");
+    require(append_log_row(session, clock.now(), "admin", {"new", "", "Add"}, ""), "操作日志");
     require(session.commit(), "保存");
 }
 

@@ -9,7 +9,6 @@
 #include "app/books/open.h"
 #include "app/refusal.h"
 #include "app/settings/surroundings.h"
-#include "automation/check/check.h"
 #include "automation/sql/collected_result.h"
 #include "schema/schema.h"
 #include "tests/support/temporary_folder.h"
@@ -69,25 +68,6 @@ TEST_F(CreateBooks, full_names_are_joined_from_the_top) {
               "应交税金-应交增值税-进项税额");
     EXPECT_EQ(value("SELECT ISEND FROM V6801 WHERE KM_ID = '217101'"), "0");
     EXPECT_EQ(value("SELECT ISEND FROM V6801 WHERE KM_ID = '21710101'"), "1");
-}
-
-TEST_F(CreateBooks, a_start_opens_the_books_with_zero_balances) {
-    NewBooks books = wanted();
-    books.start = host::Period::of(2024, 3);
-    books.scheme = 2;
-    create_books(books, clock_);
-    EXPECT_EQ(value("SELECT PARAM FROM D6600 WHERE ID = 1"), "2024-03");
-    EXPECT_EQ(value("SELECT PARAM FROM D6600 WHERE ID = 2"), "2024-03");
-    EXPECT_EQ(value("SELECT PARAM FROM D6600 WHERE ID = 3"), "2");
-    const std::string accounts = value("SELECT COUNT(*) FROM D6801");
-    // period and kind of the rows that the opening makes, one an account
-    for (const char* rows : {"QJ='2024-00' AND INX=0", "QJ='2024-02' AND INX=1",
-                             "QJ='2024-03' AND INX=0", "QJ='2024-03' AND INX=1"})
-        EXPECT_EQ(value("SELECT COUNT(*) FROM D6602 WHERE J=0 AND D=0 AND " + std::string(rows)),
-                  accounts)
-            << rows;
-    EXPECT_EQ(value("SELECT COUNT(*) FROM D6602"), std::to_string(4 * std::stoi(accounts)));
-    EXPECT_TRUE(automation::check_books(*open_books(books.books)).empty());
 }
 
 TEST_F(CreateBooks, existing_files_are_never_touched) {

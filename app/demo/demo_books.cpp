@@ -13,6 +13,7 @@
 #include "app/refusal.h"
 #include "app/workplace/run_driver.h"
 #include "app/workplace/scripted_person.h"
+#include "app/workplace/set_up.h"
 #include "app/workplace/workplace.h"
 #include "automation/check/check.h"
 #include "automation/sql/collected_result.h"
@@ -28,7 +29,6 @@ void create_empty(const std::string& books, const Story& story) {
     wanted.books = books;
     wanted.company = story.company;
     wanted.template_name = schema::default_template;
-    wanted.start = host::Period::parse(story.period);
     create_books(wanted, SystemClock(host::Date::parse(story.today)));
 }
 
@@ -74,6 +74,8 @@ void create_demo_books(const std::string& books, const std::string& password) {
     PendingFile pending(books);
     create_empty(pending.path(), story);
     try {
+        set_up_books(pending.path(), *host::Period::parse(story.period),
+                     [] { return std::optional<std::string>(); });
         type_in(pending.path(), story);
         finish(pending.path(), story, password);
     } catch (const engines::Failure& failure) {

@@ -3,7 +3,7 @@
 
 #include "app/books/open.h"
 #include "automation/sql/collected_result.h"
-#include "tests/support/new_books.h"
+#include "tests/support/fresh_books.h"
 
 namespace tests {
 
@@ -39,10 +39,16 @@ const std::string closing =
     "ON D6602.KM_ID = BE.KM_ID WHERE (D6602.INX = 0) AND (D6602.QJ = '2024-03')) T "
     "WHERE D6602.INX=1 AND D6602.QJ='2024-03' AND D6602.KM_ID=T.KM_ID;";
 
+// Opened in March 2024.
+std::string fresh_books(const std::string& file) {
+    make_fresh_books({}, file);
+    return file;
+}
+
 } // namespace
 
 Ledger::Ledger()
-    : books_(new_books(folder_, "a.zf")), session_(app::open_books(books_)),
+    : books_(fresh_books(folder_.file("a.zf"))), session_(app::open_books(books_)),
       clock_(host::Date::of(2024, 3, 15)),
       data_(std::make_unique<app::EngineData>(*session_, clock_, "admin")) {}
 

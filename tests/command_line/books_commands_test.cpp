@@ -72,6 +72,32 @@ TEST_F(BooksCommands, new_books_are_sound_and_results_stay_off_standard_output) 
               std::string::npos);
 }
 
+TEST_F(BooksCommands, a_start_opens_the_books_with_balances_of_nothing) {
+    ASSERT_EQ(run_program({"new", books_, "--company", "甲公司", "--start", "2024-03", "--scheme",
+                           "2", "--mode", "strict"},
+                          "", {{"ZHANGFANG_PASSWORD", "secret"}})
+                  .status,
+              0);
+    const auto one = [&](const std::string& select) {
+        std::string text = value(books_, select);
+        text = text.substr(text.find_first_of("0123456789"));
+        return text.substr(0, text.find_first_of(" \n\r"));
+    };
+    const std::string accounts = one("SELECT COUNT(*) FROM D6801");
+    // period and kind of the rows that the opening makes, one an account
+    for (const char* rows : {"QJ='2024-00' AND INX=0", "QJ='2024-02' AND INX=1",
+                             "QJ='2024-03' AND INX=0", "QJ='2024-03' AND INX=1"})
+        EXPECT_EQ(one("SELECT COUNT(*) FROM D6602 WHERE J=0 AND D=0 AND " + std::string(rows)),
+                  accounts)
+            << rows;
+    EXPECT_EQ(one("SELECT COUNT(*) FROM D6602"), std::to_string(4 * std::stoi(accounts)));
+    EXPECT_EQ(one("SELECT PARAM FROM D6600 WHERE ID=3"), "2");
+    EXPECT_EQ(one("SELECT COUNT(*) FROM D6600 WHERE PARAM='2024-03'"), "2");
+    EXPECT_EQ(one("SELECT COUNT(*) FROM SYS_LOG WHERE FUNCTION_CODE='699'"), "1");
+    EXPECT_EQ(run_program({"check", books_}).status, 0);
+    EXPECT_EQ(folder_.files(), 1u);
+}
+
 TEST_F(BooksCommands, new_refuses_books_that_exist_and_leaves_them_as_they_are) {
     ASSERT_EQ(make("a.zf").status, 0);
     run_program({"sql", books_}, "UPDATE SYS_SETTING SET VALUE = '乙' WHERE NAME = 'company'");

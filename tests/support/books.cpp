@@ -2,15 +2,12 @@
 #include "tests/support/books.h"
 
 #include <gtest/gtest.h>
-#include <map>
-#include <tuple>
 
-#include "app/books/create.h"
 #include "app/books/open.h"
 #include "app/data/engine_data.h"
 #include "automation/sql/collected_result.h"
 #include "host/values/text.h"
-#include "schema/schema.h"
+#include "tests/support/fresh_books.h"
 #include "tests/support/surroundings.h"
 #include "tests/support/temporary_folder.h"
 
@@ -19,25 +16,6 @@ namespace tests {
 namespace {
 
 constexpr std::int64_t days_from_1900_to_1970 = 25567;
-
-// The file that holds freshly made books of these options; made at the first call.
-const std::string& pattern_of(const BooksOptions& options) {
-    using Kind = std::tuple<std::string, std::string, std::string>;
-    static TemporaryFolder folder;
-    static std::map<Kind, std::string> made;
-    std::string& file = made[Kind{options.start, options.scheme, options.company}];
-    if (!file.empty()) return file;
-    const std::string path = folder.file("pattern" + std::to_string(made.size()) + ".zf");
-    app::NewBooks wanted;
-    wanted.books = path;
-    wanted.company = options.company;
-    wanted.template_name = schema::default_template;
-    wanted.start = host::Period::parse(options.start);
-    wanted.scheme = std::stoi(options.scheme);
-    app::create_books(wanted, FixedClock(options.today));
-    file = path;
-    return file;
-}
 
 std::unique_ptr<engines::Session> open(const std::string& file, const host::Clock& clock) {
     auto session = app::open_books(file);
@@ -50,7 +28,7 @@ std::unique_ptr<engines::Session> open(const std::string& file, const host::Cloc
 struct Books::Parts {
     explicit Parts(BooksOptions wanted)
         : options(std::move(wanted)), file(folder.path() / "books.zf"), clock(options.today) {
-        std::filesystem::copy_file(pattern_of(options), file);
+        make_fresh_books({options.start, options.scheme, options.company}, file);
         session = open(file.string(), clock);
         data = std::make_unique<app::EngineData>(*session, clock, "admin");
         reader = open(file.string(), clock);

@@ -1,7 +1,6 @@
 // New books in a folder, in one call.
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "app/books/create.h"
@@ -11,14 +10,12 @@
 
 namespace tests {
 
-// Makes books opened at a period with the default template; answers their path.
-inline std::string new_books(const TemporaryFolder& folder, const std::string& name,
-                             std::optional<host::Period> start = host::Period::of(2024, 3)) {
+// Makes books with the default template that wait to be set up; answers their path.
+inline std::string new_books(const TemporaryFolder& folder, const std::string& name) {
     app::NewBooks wanted;
     wanted.books = folder.file(name);
     wanted.company = "测试公司";
     wanted.template_name = schema::default_template;
-    wanted.start = start;
     app::create_books(wanted, app::SystemClock(host::Date::of(2024, 3, 5)));
     return wanted.books;
 }
