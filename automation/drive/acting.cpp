@@ -6,6 +6,7 @@
 #include "host/controls/grid.h"
 #include "host/forms/event_gate.h"
 #include "host/forms/form.h"
+#include "host/ports/host.h"
 #include "host/values/errors.h"
 
 namespace automation {
@@ -18,10 +19,18 @@ std::string told(const Driver& driver) {
     return message.empty() ? message : ": " + message;
 }
 
+// A form may bring another one to the front by itself and stay open behind it.
+void follow_active(Driver& driver, const host::TForm* before) {
+    host::TForm* now = host::the_host().active;
+    if (now == nullptr || before == nullptr || now == before) return;
+    if (driver.forms().is_open(*before)) driver.forms().activate(*now);
+}
+
 } // namespace
 
 Ending act(Driver& driver, const std::function<void()>& deed) {
     Ending ending = Ending::Done;
+    const host::TForm* before = host::the_host().active;
     host::enter_event([&] {
         try {
             deed();
@@ -33,6 +42,7 @@ Ending act(Driver& driver, const std::function<void()>& deed) {
             throw;
         }
     });
+    follow_active(driver, before);
     if (ending == Ending::Failed) throw Refusal("the request failed" + told(driver));
     return ending;
 }

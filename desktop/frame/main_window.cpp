@@ -123,10 +123,12 @@ void MainWindow::remove_form(host::TForm& form) {
         switching_ = false;
         view->hide();
         view->deleteLater();
-        // Back to the form this one was opened from, where it is still there.
-        for (int j = 1; j < pages_->count(); ++j)
-            if (static_cast<FormView*>(pages_->widget(j))->form() == form.Parent())
-                tabs_->setCurrentIndex(j);
+        // Back to the form this one was opened from, directly or over others, where it is still
+        // there.
+        for (host::TForm* up = form.Parent(); up; up = has_form(*up) ? nullptr : up->Parent())
+            for (int j = 1; j < pages_->count(); ++j)
+                if (static_cast<FormView*>(pages_->widget(j))->form() == up)
+                    tabs_->setCurrentIndex(j);
         tab_chosen(tabs_->currentIndex());
         refresh_books();
         return;

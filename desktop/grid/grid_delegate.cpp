@@ -12,6 +12,7 @@
 #include "desktop/theme/house_style.h"
 #include "desktop/theme/text.h"
 #include "desktop/theme/tokens.h"
+#include "host/controls/grid_groups.h"
 
 namespace desktop {
 namespace {
@@ -91,8 +92,11 @@ void GridDelegate::paint_lines(QPainter& painter, const QRect& cell, int row, in
     const bool selected = view_.row_selected(row) && view_.shows_focus();
     painter.fillRect(cell.right(), cell.top(), 1, cell.height(),
                      view_.title_header().closes_group(column) ? token::rule_3 : token::rule_1);
-    painter.fillRect(cell.left(), cell.bottom(), cell.width(), 1,
-                     selected ? token::selected_rule : token::rule_1);
+    if (host::begins_group(grid, row + 1)) // the last row of a group closes it with a strong line
+        painter.fillRect(cell.left(), cell.bottom() - 1, cell.width(), 2, token::rule_3);
+    else
+        painter.fillRect(cell.left(), cell.bottom(), cell.width(), 1,
+                         selected ? token::selected_rule : token::rule_1);
     if (row != grid.DataSet->RecNo() || column != grid.column()) return;
     painter.setBrush(Qt::NoBrush);
     if (view_.shows_focus()) {

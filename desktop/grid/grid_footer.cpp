@@ -19,7 +19,7 @@ GridFooter::GridFooter(GridView& view, QWidget* parent) : QWidget(parent), view_
 }
 
 bool GridFooter::wanted() const {
-    if (!view_.grid()) return false;
+    if (!view_.grid() || !view_.grid()->AutoFooter) return false;
     const auto& columns = view_.grid()->Columns;
     return std::any_of(columns.begin(), columns.end(), [](const host::GridColumn& column) {
         return column.Visible && column.Footer != host::FooterKind::None;

@@ -15,10 +15,21 @@ TFrm_Base_Qry::TFrm_Base_Qry(TForm* parent) : TFrm_Base_Panel(parent) {
                    Control(ConditionLabel), Rest(DBGridEh)});
 }
 
-void TFrm_Base_Qry::InitForm(const Trecord& record) {
+TFrm_Base_Qry::~TFrm_Base_Qry() = default;
+
+std::unique_ptr<TFrm_Sys_Filter> TFrm_Base_Qry::CreateFilter() { return nullptr; }
+
+void TFrm_Base_Qry::OpenQuery(const Trecord& record) {
     OpenFunction(record);
     add_sum_footers(DBGridEh, SumFields);
     Show();
+    filter_ = CreateFilter();
+    if (filter_) filter_->InitForm();
+}
+
+void TFrm_Base_Qry::InitForm(const Trecord& record) {
+    OpenQuery(record);
+    if (filter_) Act_Locate.Execute();
 }
 
 void TFrm_Base_Qry::GetData() {

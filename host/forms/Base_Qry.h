@@ -12,8 +12,10 @@ class TFrm_Sys_Filter;
 class TFrm_Base_Qry : public TFrm_Base_Panel {
 public:
     explicit TFrm_Base_Qry(TForm* parent);
+    ~TFrm_Base_Qry() override;
 
-    virtual void InitForm(const Trecord& record); // fills the form and shows it in the frame
+    // Shows the form in the frame and asks for conditions at once, where it has a dialog for them.
+    virtual void InitForm(const Trecord& record);
     virtual void GetData();                       // runs SqlText + OrderText into AdoQry_Main
 
     std::string SqlText;   // the chosen statement; empty until a condition was given
@@ -26,8 +28,15 @@ protected:
     void Act_RefreshExecute() override; // "您还没选择任何查询参数,请按【F3】呼出查询选项!"
     // Shows the condition dialog; on OK takes its statement, clears the order, runs it.
     void Act_LocateExecute() override;
-    virtual TFrm_Sys_Filter* Filter() { return nullptr; } // created in InitForm by the form
+    // The first half of InitForm: rights, sums, the condition dialog made ready; nothing is asked.
+    void OpenQuery(const Trecord& record);
+    // The form's condition dialog with the form as its parent; null for a form without one.
+    virtual std::unique_ptr<TFrm_Sys_Filter> CreateFilter();
+    virtual TFrm_Sys_Filter* Filter() { return filter_.get(); }
     void FormKeyDown(Key& key) override; // the space key asks for conditions, as F3
+
+private:
+    std::unique_ptr<TFrm_Sys_Filter> filter_;
 };
 
 } // namespace host

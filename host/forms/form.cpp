@@ -17,6 +17,14 @@ int next_instance(const std::string& class_name) {
     return ++counts[class_name];
 }
 
+// The nearest form in the frame from which `form` was opened, directly or over others; null for one
+// that a menu pick opened.
+TForm* opener_in_frame(const TForm& form) {
+    for (TForm* up = form.Parent(); up != nullptr; up = up->Parent())
+        if (up->Shown()) return up;
+    return nullptr;
+}
+
 } // namespace
 
 TForm::TForm(TForm* parent) : TControl(nullptr, ""), parent_(parent) {
@@ -66,10 +74,13 @@ void TForm::disappear() {
     std::erase(host.modal, this);
     if (host.ui != nullptr) host.ui->forget(*this);
     if (host.active != this) return;
-    // What stood behind comes to the front: a modal form before any other.
+    // What stood behind comes to the front: a modal form before any other, then the form this one
+    // was opened from.
     host.active = nullptr;
     if (!host.modal.empty())
         host.active = host.modal.back();
+    else if (TForm* opener = opener_in_frame(*this))
+        host.active = opener;
     else if (!host.forms.empty())
         host.active = host.forms.back();
 }
@@ -129,7 +140,7 @@ void TForm::Close() {
 bool TForm::CloseQuery() {
     // What was opened from here goes with it, so it is asked first.
     for (TForm* child : std::vector(children_)) {
-        if (!child->Shown() || child->CloseQuery()) continue;
+        if (!child->Shown() || child->Closed() || child->CloseQuery()) continue;
         child->Activate();
         return false;
     }

@@ -202,6 +202,37 @@ TEST_F(Form, what_was_opened_from_a_form_is_asked_before_it_closes) {
     EXPECT_EQ(the_host().active, child);
 }
 
+TEST_F(Form, closing_leads_back_to_the_form_it_was_opened_from) {
+    form.FreeOnClose = false;
+    form.Show();
+    auto* child = new TSheet(&form);
+    child->Show();
+    auto* over_it = new TSheet(child);
+    over_it->Show();
+    TSheet opened_last;
+    opened_last.Show();
+    over_it->Activate();
+    enter_event([&] { over_it->Close(); });
+    EXPECT_EQ(the_host().active, child);
+    enter_event([&] { child->Close(); });
+    EXPECT_EQ(the_host().active, &form);
+    enter_event([&] { form.Close(); });
+    EXPECT_EQ(the_host().active, &opened_last);
+}
+
+TEST_F(Form, a_form_that_goes_with_the_one_opened_from_it_asks_about_unsaved_work_once) {
+    form.FreeOnClose = false;
+    form.Show();
+    auto* child = new TSheet(&form);
+    child->Show();
+    child->dirty = true;
+    child->OnClose = [this] { form.Close(); };
+    desk.ui.answers.push_back(true);
+    enter_event([&] { child->Close(); });
+    EXPECT_EQ(desk.ui.questions.size(), 1U);
+    EXPECT_TRUE(the_host().forms.empty());
+}
+
 TEST_F(Form, instances_are_counted_per_class) {
     form.Show();
     TSheet other;

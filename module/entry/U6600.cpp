@@ -3,10 +3,15 @@
 
 #include "host/contract/U_function.h"
 #include "host/ports/host.h"
+#include "module/ledgers/U6684.h"
+#include "module/ledgers/U6685.h"
+#include "module/ledgers/U6686.h"
 #include "module/ledgers/U6689.h"
+#include "module/ledgers/U6690.h"
 #include "module/masterdata/U6681.h"
 #include "module/masterdata/U6682.h"
 #include "module/masterdata/U6683.h"
+#include "module/opening.h"
 #include "module/masterdata/U6691.h"
 #include "module/period/U6667.h"
 #include "module/period/U6668.h"
@@ -17,22 +22,11 @@
 namespace module {
 namespace {
 
-// A form whose opening failed before it appeared would stay behind unseen.
-void release_unless_shown(TForm* form) {
-    const auto& open = the_host().forms;
-    if (std::find(open.begin(), open.end(), form) == open.end()) delete form;
-}
-
 template <class Form, Form*& variable> void modeless(const Trecord& record, TForm* parent) {
     auto* form = new Form(parent);
     variable = form;
     form->Tag = record.code();
-    try {
-        form->InitForm(record);
-    } catch (...) {
-        release_unless_shown(form);
-        throw;
-    }
+    open_or_release(form, [&record](Form& opened) { opened.InitForm(record); });
 }
 
 template <class Form, Form*& variable> void modal(const Trecord& record, TForm* parent) {
@@ -59,7 +53,11 @@ constexpr Function functions[] = {
     {681, modeless<TF6681, F6681>}, // 会计科目
     {682, modeless<TF6682, F6682>}, // 凭证字
     {683, modeless<TF6683, F6683>}, // 常用摘要
+    {684, modeless<TF6684, F6684>}, // 科目汇总表
+    {685, modeless<TF6685, F6685>}, // 明细分类帐
+    {686, modeless<TF6686, F6686>}, // 总分类帐
     {689, modeless<TF6689, F6689>}, // 试算平衡表
+    {690, modeless<TF6690, F6690>}, // 现金,银行存款日记帐
     {691, modeless<TF6691, F6691>}, // 现金流量项目
     {699, modeless<TF6699, F6699>}, // 会计科目初始
 };

@@ -2,6 +2,8 @@
 #include "module/ledgers/U6689.h"
 
 #include "module/filters/U6689f.h"
+#include "module/ledgers/U6685.h"
+#include "module/ledgers/ledger_call.h"
 
 namespace module {
 
@@ -34,15 +36,14 @@ TF6689::TF6689(TForm* parent) : TFrm_Base_Qry(parent) {
     Balanced.Visible = Unbalanced.Visible = false;
     Balanced.FontColor = blue;
     Unbalanced.FontColor = red;
-    layout = Rows({ToolBar({&Act_Locate, &Act_Refresh, nullptr, &Act_Print, &Act_Preview,
-                            &Act_Export, nullptr, &Act_Quit}),
+    Act_Open.OnExecute = [this] { DBGridEhDblClick(); };
+    layout = Rows({ToolBar({&Act_Locate, &Act_Refresh, nullptr, &Act_Open, nullptr, &Act_Print,
+                            &Act_Preview, &Act_Export, nullptr, &Act_Quit}),
                    Columns({Control(ConditionLabel), Spring(), Text("科目级别"), Control(Level1),
                             Control(Level2), Control(Level3), Control(Level4), Control(Level5),
                             Space(2), Control(Balanced), Control(Unbalanced)}),
                    Rest(DBGridEh)});
 }
-
-TF6689::~TF6689() = default;
 
 // Footers add up the top level alone (BB1 for B1): a sum over all levels would count twice.
 void TF6689::add_side_by_side(const std::string& title, const std::string& letter) {
@@ -63,13 +64,12 @@ void TF6689::InitForm(const Trecord& record) {
     SumFields = "B1,B2,C1,C2,D1,D2";
     KeyField = "KM_ID";
     TFrm_Base_Qry::InitForm(record);
-    F6689F = std::make_unique<TF6689F>(this);
-    F6689F->InitForm();
-    Act_Locate.Execute();
 }
 
-TFrm_Sys_Filter* TF6689::Filter() {
-    return F6689F.get();
+std::unique_ptr<TFrm_Sys_Filter> TF6689::CreateFilter() {
+    auto dialog = std::make_unique<TF6689F>(this);
+    F6689F = dialog.get();
+    return dialog;
 }
 
 // ---- lines ----
@@ -103,11 +103,11 @@ void TF6689::refcon() {
     Unbalanced.Visible = !balanced;
 }
 
-void TF6689::DBGridEhGetCellParams(TField& field, CellParams& params) {
-    TFrm_Base_Qry::DBGridEhGetCellParams(field, params);
-    const int column = DBGridEh.column_index(field.FieldName);
-    if (column < 0 || DBGridEh.Columns[static_cast<std::size_t>(column)].Tag != 9) return;
-    if (field.AsAmount().is_negative()) params.Font = red;
+void TF6689::DBGridEhDblClick() {
+    if (AdoQry_Main.IsEmpty() || !F6689F->ShownPeriod()) return;
+    const std::string account = AdoQry_Main.FieldByName("KM_ID").AsText();
+    open_detailed_ledger(this, account_in_period(account, F6689F->ShownPeriod()->to_text()),
+                         account + " " + AdoQry_Main.FieldByName("KM_NAME").AsText());
 }
 
 } // namespace module

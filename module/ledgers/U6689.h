@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <memory>
 
 #include "host/forms/Base_Qry.h"
 #include "module/host_names.h"
@@ -14,6 +13,7 @@ class TF6689F;
 class TF6689 : public TFrm_Base_Qry {
 public:
     // What the user sees, from top to bottom.
+    TAction Act_Open{this, "Act_Open", "打开明细帐", "Enter", "book-open"};
     TSpeedButton Level1{this, "Level1", "1"}; // the same period down to this account level
     TSpeedButton Level2{this, "Level2", "2"};
     TSpeedButton Level3{this, "Level3", "3"};
@@ -24,7 +24,6 @@ public:
 
     // What the user does.
     explicit TF6689(TForm* parent);
-    ~TF6689() override;
     const char* ClassName() const override { return "TF6689"; }
 
     void LevelClick(std::int64_t level);
@@ -34,8 +33,8 @@ public:
     void GetData() override;
 
 protected:
-    TFrm_Sys_Filter* Filter() override;
-    void DBGridEhGetCellParams(TField& field, CellParams& params) override;
+    std::unique_ptr<TFrm_Sys_Filter> CreateFilter() override;
+    void DBGridEhDblClick() override; // the account's detailed ledger of the period
 
 private:
     // This form's own rules.
@@ -43,7 +42,7 @@ private:
     void show_level();
     std::array<TSpeedButton*, 5> levels() { return {&Level1, &Level2, &Level3, &Level4, &Level5}; }
     void refcon(); // debits against credits of opening, turnover and closing
-    std::unique_ptr<TF6689F> F6689F;
+    TF6689F* F6689F = nullptr; // the dialog, owned by the base
 };
 
 extern TF6689* F6689;

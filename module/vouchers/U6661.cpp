@@ -2,6 +2,7 @@
 #include "module/vouchers/U6661.h"
 
 #include "host/ports/host.h"
+#include "host/values/sql_text.h"
 #include "module/filters/U6661f.h"
 #include "module/refuse.h"
 #include "module/vouchers/U6661_1.h"
@@ -112,9 +113,30 @@ void TF6661::InitForm(const Trecord& record) {
                 .period_field = "PZQJ"};
     build_layout(audit);
     F6661_1 = std::make_unique<TF6661_1>(this);
+    const std::string& voucher = record.user[0];
+    if (!voucher.empty()) return open_voucher(record, voucher);
+    create_filter();
+    TFrm_Base_Entry_Head::InitForm(record);
+}
+
+void TF6661::create_filter() {
     F6661F = std::make_unique<TF6661F>(this);
     F6661F->InitForm();
+}
+
+// Another book asks for one voucher: the list holds it alone and goes when the voucher is closed,
+// so that the person is back where he came from.
+void TF6661::open_voucher(const Trecord& record, const std::string& key) {
+    Condition = "D6601.NOID=" + quoted(key);
+    ConditionLabel.Caption = " ●凭证:" + key;
     TFrm_Base_Entry_Head::InitForm(record);
+    create_filter();
+    if (AdoQry_Main.IsEmpty()) {
+        DISPINFO("凭证 " + key + " 已不存在，请按 F5 刷新帐簿!", 5);
+        return Close();
+    }
+    F6661_1->OnClose = [this] { Close(); };
+    DBGridEhDblClick();
 }
 
 TFrm_Sys_Filter* TF6661::Filter() {

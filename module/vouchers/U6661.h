@@ -27,7 +27,8 @@ public:
     void Action1Execute(); // the selected voucher's lines become a template
     void Act_RedExecute(); // the selected posted voucher is reversed by a red one
 
-    // Steps of every document list that differ here.
+    // Steps of every document list that differ here. A key as the record's first text opens that
+    // voucher at once.
     void InitForm(const Trecord& record) override;
     void GetData() override;
     std::string DocumentName() override; // "2024-03 记-7"
@@ -39,6 +40,8 @@ protected:
 
 private:
     // This form's own rules.
+    void create_filter();
+    void open_voucher(const Trecord& record, const std::string& key);
     void build_columns();
     void build_layout(bool audit);
     void count_posted();

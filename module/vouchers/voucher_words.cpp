@@ -13,9 +13,9 @@ VoucherWords voucher_words_of(const std::string& scheme) {
     return {{"记"}, scheme == "1", false};
 }
 
-VoucherWords read_voucher_words(const std::string& function) {
+VoucherWords read_voucher_words(const std::string& function, const std::string& query) {
     TClientDataSet parameter;
-    opensql(parameter, function, "SELECT PARAM FROM D6600 WHERE ID=3");
+    opensql(parameter, function, query);
     if (parameter.IsEmpty()) return voucher_words_of("");
     return voucher_words_of(trimmed(parameter.FieldByName("PARAM").AsText()));
 }

@@ -18,7 +18,8 @@ struct VoucherWords {
 
 VoucherWords voucher_words_of(const std::string& scheme);
 
-// Reads the scheme of the books.
-VoucherWords read_voucher_words(const std::string& function);
+// Reads the scheme of the books; `query` answers it as PARAM.
+VoucherWords read_voucher_words(const std::string& function,
+                                const std::string& query = "SELECT PARAM FROM D6600 WHERE ID=3");
 
 } // namespace module

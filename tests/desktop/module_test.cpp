@@ -6,6 +6,7 @@
 #include "host/forms/form.h"
 #include "host/ports/host.h"
 #include "tests/desktop/desk.h"
+#include "tests/forms/ledgers/ledger_answers.h"
 #include "tests/forms/small_books.h"
 #include "tests/support/module_library.h"
 
@@ -282,6 +283,30 @@ TEST(ModuleForms, the_trial_balance_asks_for_its_period_and_shows_it) {
     auto& grid = *dynamic_cast<host::TDBGridEh*>(form.FindComponent("DBGridEh"));
     EXPECT_EQ(grid.DataSet->RecordCount(), 3);
     EXPECT_EQ(grid.footer_text(grid.column_index("C1")), "585.00");
+}
+
+TEST(ModuleForms, a_balance_is_followed_to_its_voucher_and_back_without_the_mouse) {
+    BooksDesk desk;
+    answer_general_ledger(desk.data);
+    answer_detailed_ledger(desk.data);
+    desk.when_modal([&] { desk.keys({"F2"}); });
+    desk.keys({"Ctrl+G", "6", "8", "6", "Enter"});
+    ASSERT_EQ(desk.active(), "TF6686");
+    desk.keep("686");
+    desk.keys({"Tab", "Down", "Enter"});
+    ASSERT_EQ(desk.active(), "TF6685");
+    const host::TForm& ledger = *host::the_host().active;
+    EXPECT_EQ(ledger.TabTitle(), "明细分类帐 1131");
+    desk.keys({"Tab", "Down"}); // the account's only line
+    desk.keep("685");
+    desk.keys({"Enter"});
+    ASSERT_EQ(desk.active(), "TF6661_1");
+    desk.keys({"Esc"});
+    EXPECT_EQ(desk.active(), "TF6685");
+    desk.keys({"Esc"});
+    EXPECT_EQ(desk.active(), "TF6686");
+    EXPECT_EQ(host::the_host().forms.size(), 1u);
+    EXPECT_EQ(desk.messages, std::vector<std::string>());
 }
 
 } // namespace

@@ -17,6 +17,8 @@ protected:
     explicit FormDesk(int code) : code_(code) {}
     Person& person();
     void leave() { anna_.reset(); } // the next person() opens the function afresh
+    // "BDATE 凭证日期, PZZ 凭证字": the visible columns of the main grid.
+    std::string columns_shown();
     std::string last_batch() const; // what was saved last; "" when nothing was
     const host::LogEntry& last_log() const { return data.executed().back().log; }
 

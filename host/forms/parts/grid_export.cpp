@@ -43,7 +43,7 @@ std::string grid_as_csv(const TDBGridEh& grid) {
     bool footers = false;
     for (const GridColumn& column : grid.Columns)
         footers = footers || (column.Visible && column.Footer != FooterKind::None);
-    if (footers)
+    if (footers && grid.AutoFooter)
         add_line(lines, grid, [&](int i) { return replaced(grid.footer_text(i), ",", ""); });
     return lines;
 }

@@ -1,5 +1,6 @@
 // The trial balance: its condition dialog, its footers, its verdict.
 #include "tests/forms/form_desk.h"
+#include "tests/forms/ledgers/ledger_answers.h"
 #include "tests/forms/small_books.h"
 
 namespace tests {
@@ -121,6 +122,34 @@ TEST_F(TrialBalance, the_period_lies_within_the_books) {
             anna.expect_active("TF6689");
         }
     }
+}
+
+TEST_F(TrialBalance, a_double_click_asks_for_the_lines_of_that_account_and_leads_back) {
+    answer_detailed_ledger(data);
+    Person& anna = person();
+    anna.set("EDT2", "2");
+    anna.click("btn_ok");
+    anna.mark();
+    anna.double_click(2, "D1");
+    anna.expect_active("TF6685");
+    EXPECT_EQ(anna.sent_texts(),
+              std::vector<std::string>{
+                  "EXEC SYS_685 @P_year='2024-02',@p_show='1',@KM_ID1='113101',@KM_ID2='113101',"
+                  "@P_month1='2024-02',@P_month2='2024-02'"});
+    EXPECT_EQ(anna.value("ConditionLabel"), "113101 应收帐款-东方");
+    anna.key("Esc");
+    anna.expect_active("TF6689");
+}
+
+TEST_F(TrialBalance, who_may_not_open_the_detailed_ledger_is_told) {
+    PersonOptions options;
+    options.may = [](const host::Right& right) { return right.function != "685"; };
+    Person anna(data, options);
+    anna.open(689);
+    anna.click("btn_ok");
+    anna.double_click(0, "D1");
+    anna.expect_message("您没有打开“明细分类帐”的权限，请与系统管理员联系。");
+    anna.expect_active("TF6689");
 }
 
 TEST_F(TrialBalance, the_level_is_kept_for_next_time) {

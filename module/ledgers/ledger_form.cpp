@@ -1,0 +1,163 @@
+// What the ledgers on screen share: rows grouped by account, and the way from a row to its origin.
+#include "module/ledgers/ledger_form.h"
+
+#include <algorithm>
+
+#include "host/controls/grid_groups.h"
+#include "module/filters/ledger_filter.h"
+
+namespace module {
+
+namespace {
+
+constexpr Color blue = 0xFF0000;
+
+// Of a row of the ledger; "" where the query answered no such field.
+std::string text_of(const TClientDataSet& rows, const char* field, int row) {
+    const TField* found = rows.FindField(field);
+    return found == nullptr ? "" : rows.text_at(row, found->index());
+}
+
+// The account's own name: what stands above it in the chart is told above the lines.
+std::string own_name(const std::string& full_name) {
+    const std::size_t last = full_name.rfind('-');
+    return last == std::string::npos ? full_name : full_name.substr(last + 1);
+}
+
+} // namespace
+
+// ---- opening ----
+
+LedgerForm::LedgerForm(TForm* parent, const LedgerKind& kind) : TFrm_Base_Qry(parent) {
+    Caption = kind.caption;
+    SumFields = "J,D,E";
+    KeyField = "KM_id";
+    Act_Open.Caption = kind.open_caption;
+    TipLabel.Caption = kind.tip;
+    Act_Group.OnExecute = [this] { go_to_group(false); };
+    Act_Open.OnExecute = [this] { DBGridEhDblClick(); };
+    DBGridEh.OnKeyDown = [this](Key& key) { DBGridEhKeyDown(key); };
+    // The balance runs from row to row: in another order it would say nothing.
+    DBGridEh.OnTitleClick = [](int) {};
+    DBGridEh.AutoFooter = false; // sums over openings, lines and totals are no figure to show
+    DBGridEh.EmptyText = "没有数据，请按 F3 选择查询条件";
+    AdoQry_Main.AfterScroll = [this] { row_chosen(); };
+    AccountLabel.Bold = true;
+    VoucherLabel.FontColor = blue;
+    VoucherLabel.OnClick = [this] { DBGridEhDblClick(); };
+    OpenerLabel.FontColor = blue;
+    OpenerLabel.Visible = parent != nullptr && parent->Shown();
+    if (OpenerLabel.Visible) {
+        OpenerLabel.Caption = parent->Caption.get() + "  ›";
+        OpenerLabel.OnClick = [parent] { parent->Activate(); };
+    }
+    build_group_grid();
+}
+
+void LedgerForm::build_group_grid() {
+    Groups.DefineField("KM_ID", FieldType::Text);
+    Groups.DefineField("KM_NAME", FieldType::Text);
+    Groups.DefineField("E", FieldType::Amount).DisplayFormat = "0.00";
+    Groups.AfterScroll = [this] { group_chosen(); };
+    GridColumn balance{.FieldName = "E", .Title = "余额", .Width = 12};
+    balance.Align = Alignment::Right;
+    balance.Tag = 9;
+    GroupGrid.Columns = {{.FieldName = "KM_ID", .Title = "科目组", .Width = 8},
+                         {.FieldName = "KM_NAME", .Title = "会计科目", .Width = -1},
+                         balance};
+    GroupGrid.OnGetCellParams = DBGridEh.OnGetCellParams;
+    GroupGrid.OnTitleClick = [](int) {};
+    GroupGrid.ReadOnly = true;
+    GroupGrid.TabStop = false;
+    Groups.Open();
+}
+
+void LedgerForm::arrange(bool with_groups) {
+    GroupGrid.Visible = with_groups;
+    const LayoutNode rows = Rest(DBGridEh);
+    layout = Rows({ToolBar({&Act_Locate, &Act_Refresh, nullptr, &Act_Group, &Act_Open, nullptr,
+                            &Act_Print, &Act_Preview, &Act_Export, nullptr, &Act_Quit}),
+                   Columns({Control(ConditionLabel), Spring(), Control(ScopeLabel)}),
+                   Columns({Control(OpenerLabel), Control(AccountLabel), Control(VoucherLabel),
+                            Spring()}),
+                   with_groups ? Splitter(Rest(GroupGrid), rows, 29, true) : rows,
+                   StatusLine({Control(TipLabel)})});
+}
+
+void LedgerForm::Act_LocateExecute() {
+    TFrm_Base_Qry::Act_LocateExecute();
+    if (LedgerFilter* conditions = Conditions(); conditions->ResultText == SqlText)
+        ScopeLabel.Caption = conditions->Scope;
+}
+
+// ---- groups ----
+
+void LedgerForm::GetData() {
+    TFrm_Base_Qry::GetData();
+    list_groups();
+    row_chosen();
+}
+
+void LedgerForm::list_groups() {
+    following_ = true;
+    group_rows_.clear();
+    Groups.DisableControls();
+    Groups.EmptyDataSet();
+    const TField* balance = AdoQry_Main.FindField("E");
+    const int count = AdoQry_Main.RecordCount();
+    for (int row = 0; row < count; ++row) {
+        if (begins_group(DBGridEh, row)) {
+            group_rows_.push_back(row);
+            Groups.Append();
+            Groups.FieldByName("KM_ID").SetValue(text_of(AdoQry_Main, "KM_ID", row));
+            const std::string name = text_of(AdoQry_Main, "KM_NAME", row);
+            Groups.FieldByName("KM_NAME").SetValue(own_name(name));
+        }
+        const bool last = row + 1 == count || begins_group(DBGridEh, row + 1);
+        if (!last || balance == nullptr) continue;
+        Groups.FieldByName("E").SetValue(AdoQry_Main.value_at(row, balance->index()));
+        Groups.Post();
+    }
+    Groups.MarkSaved();
+    Groups.First();
+    Groups.EnableControls();
+    following_ = false;
+}
+
+void LedgerForm::go_to_group(bool backward) {
+    const int row = neighbour_group(DBGridEh, AdoQry_Main.RecNo(), backward);
+    if (row >= 0) DBGridEh.set_row(row);
+}
+
+void LedgerForm::DBGridEhKeyDown(Key& key) {
+    if (key.code != KeyCode::Tab || key.ctrl || key.alt) return;
+    go_to_group(key.shift);
+    key = {};
+}
+
+// The account and the voucher of the row are named above the grid, its group is marked beside it.
+void LedgerForm::row_chosen() {
+    const int row = AdoQry_Main.RecNo();
+    const bool any = row >= 0;
+    AccountLabel.Caption = any ? text_of(AdoQry_Main, "KM_ID", row) + "  " +
+                                     text_of(AdoQry_Main, "KM_NAME", row)
+                               : "";
+    const std::string voucher = any ? voucher_of_row() : "";
+    VoucherLabel.Caption = voucher.empty() ? "" : "›  凭证 " + voucher;
+    if (following_ || !any || group_rows_.empty()) return;
+    following_ = true;
+    const auto after = std::upper_bound(group_rows_.begin(), group_rows_.end(), row);
+    Groups.GotoRow(static_cast<int>(after - group_rows_.begin()) - 1);
+    following_ = false;
+}
+
+void LedgerForm::group_chosen() {
+    const auto group = static_cast<std::size_t>(Groups.RecNo());
+    if (following_ || Groups.RecNo() < 0 || group >= group_rows_.size()) return;
+    following_ = true;
+    DBGridEh.set_row(group_rows_[group]);
+    following_ = false;
+    row_chosen();
+}
+
+} // namespace module
