@@ -27,7 +27,7 @@ constexpr Function ledgers[] = {{684, "科目汇总表", report},
                                 {690, "现金,银行存款日记帐", report}};
 constexpr Function statements[] = {
     {671, "资产负债表", list}, {673, "利 润 表", list}, {672, "现金流量表", list}};
-constexpr Function period[] = {{667, "结转损溢", period_step}, {668, "期末结帐", period_step}};
+constexpr Function period[] = {{667, "结转损溢", opens | adds}, {668, "期末结帐", period_step}};
 constexpr Function trade[] = {
     {630, "销售收款 · 外币", documents}, {631, "销售收款", documents},
     {632, "销售收款明细表", report},     {633, "销售收款汇总表", report},
@@ -41,7 +41,7 @@ constexpr Function cash[] = {{648, "银行存取款单", documents},
 constexpr Function masterdata[] = {
     {681, "会计科目", list},     {682, "凭证字", list},
     {683, "常用摘要", list},     {687, "收支类别", list},
-    {691, "现金流量项目", list}, {699, "会计科目初始", list | posts},
+    {691, "现金流量项目", list}, {699, "会计科目初始", report | changes | posts},
     {628, "期初应收款", list},   {629, "期初应付款", list}};
 constexpr Function administration[] = {{0, "用户", list, "users"},
                                        {0, "角色与权限", list, "roles"},

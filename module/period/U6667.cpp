@@ -39,7 +39,7 @@ std::string select_distribution_account(const std::string& code) {
 
 TF6667::TF6667(TForm* parent) : TFrm_Base_Dialog(parent) {
     Caption = "结转损溢";
-    PreferredWidth = 96;
+    PreferredWidth = 110;
     btn_ok.Caption = "结转 F2";
     btn_ok.KeyHint = ""; // its caption names the key
     btn_Cancel.Caption = "关闭";
@@ -57,10 +57,10 @@ TF6667::TF6667(TForm* parent) : TFrm_Base_Dialog(parent) {
     DBGridEh.Columns = {
         {.FieldName = "A1", .Title = "代码", .Width = 10},
         {.FieldName = "A2", .Title = "名称", .Width = -1},
-        {.FieldName = "A3", .Title = "结转科目", .Width = 10},
-        {.FieldName = "A4", .Title = "科目名称", .Width = 14},
+        {.FieldName = "A3", .Title = "结转科目", .Width = 9},
+        {.FieldName = "A4", .Title = "科目名称", .Width = 10},
         {.FieldName = "FX", .Title = "方向", .Width = 6, .Align = Alignment::Center},
-        {.FieldName = "E", .Title = "期末余额", .Width = 16, .Align = Alignment::Right, .Tag = 9}};
+        {.FieldName = "E", .Title = "期末余额", .Width = 15, .Align = Alignment::Right, .Tag = 9}};
     build_layout();
 }
 
@@ -68,7 +68,7 @@ void TF6667::build_layout() {
     layout = Rows(
         {Columns({Field("凭证日期", bdate, 14), Control(DateHint), Spring()}),
          Field("凭证摘要", Edit1, 40), Text("5801         以前年度损益调整"),
-         Field("会计科目", KM_ID, 40), Rest(DBGridEh),
+         Field("会计科目", KM_ID, 18), Rest(DBGridEh),
          Columns({Control(Totals), Spring(), Control(Made)}), Rule(),
          Text("1、损益类科目的余额结转到“本年利润”，其中“以前年度损益调整”属于“利润分配”。"),
          Text("2、在开始结转本期损益之前，应当将所有的凭证过帐，否则可能会出现不正确的结果。"),

@@ -23,7 +23,7 @@ constexpr Pair pairs[] = {
 GridColumn amount_column(const std::string& field, const std::string& title) {
     return {.FieldName = field,
             .Title = title,
-            .Width = 14,
+            .Width = 13,
             .Align = Alignment::Right,
             .Tag = 9,
             .Footer = FooterKind::Sum};
@@ -35,7 +35,7 @@ GridColumn amount_column(const std::string& field, const std::string& title) {
 
 TF6699_1::TF6699_1(TForm* parent) : TFrm_Base_Detail(parent) {
     Caption = "会计科目初始试算平衡";
-    PreferredWidth = 132;
+    PreferredWidth = 146;
     DBGridEh.ReadOnly = true;
     DBGridEh.Columns = {{.FieldName = "KM_ID", .Title = "科目代码", .Width = 12},
                         {.FieldName = "KM_NAME",

@@ -9,8 +9,9 @@ namespace host {
 CodePicker::CodePicker(TForm* parent) : TBase_Link(parent) {
     PreferredWidth = 56;
     DBGridEh.EmptyText = "没有相符的内容";
-    wl_id.Hint = "可以录入代号、名称或拼音码检索";
     wl_id.OnChange = [this] { narrow(); };
+    layout = Rows({Field("检索", wl_id, 32), Text("提示：您可以录入代号，名称，拼音码  进行检索"),
+                   Rest(DBGridEh), Buttons({&btn_ok, &btn_Cancel})});
 }
 
 void CodePicker::init(const TClientDataSet& rows, const std::string& code_title,

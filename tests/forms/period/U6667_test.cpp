@@ -1,4 +1,5 @@
 // Carrying profit and loss forward.
+#include "host/contract/function_table.h"
 #include "tests/forms/form_desk.h"
 
 namespace tests {
@@ -237,6 +238,21 @@ TEST_F(CarryingForward, needs_the_right_to_add) {
     anna.click("btn_ok");
     anna.expect_message("您没有结转损溢的权限，请与系统管理员联系。");
     EXPECT_TRUE(data.executed().empty());
+}
+
+// A right that no role can be given would shut everybody but the administrator out.
+TEST(PeriodFunctions, rights_that_are_asked_for_can_be_given) {
+    const std::pair<const char*, const char*> asked[] = {
+        {"667", "add"}, {"668", "post"}, {"699", "change"}, {"699", "post"}};
+    for (const auto& [function, name] : asked) {
+        const host::Function* offered = host::function_of(function);
+        ASSERT_NE(offered, nullptr);
+        const auto all = host::rights_actions();
+        const auto action = std::find_if(all.begin(), all.end(),
+                                         [&](const auto& one) { return one.name == name; });
+        ASSERT_NE(action, all.end());
+        EXPECT_TRUE(offered->has(*action)) << function << " " << name;
+    }
 }
 
 TEST_F(CarryingForward, what_the_database_refuses_leaves_no_sign_of_a_voucher) {
