@@ -15,7 +15,7 @@ namespace desktop {
 GridHeader::GridHeader(host::TDBGridEh& grid, QWidget* parent)
     : QHeaderView(Qt::Horizontal, parent), grid_(&grid) {
     setSectionsClickable(true);
-    setSectionsMovable(true);
+    setSectionsMovable(!grid.FixedOrder);
     setHighlightSections(false);
     setMinimumSectionSize(28);
     setStretchLastSection(false);

@@ -68,12 +68,12 @@ void add_ruled(const LayoutNode& node, QVBoxLayout& bands, FormView& view) {
     bands.addWidget(band);
 }
 
-void add_rest(const LayoutNode& node, QVBoxLayout& bands, FormView& view, FormKind kind) {
+QVBoxLayout* add_rest_band(QVBoxLayout& bands, FormKind kind) {
     auto* box = new QVBoxLayout;
     if (kind != FormKind::List) box->setContentsMargins(16, 0, 16, 4);
     box->setSpacing(0);
-    add_node(node, *box, LayoutPlace{view});
     bands.addLayout(box, 1);
+    return box;
 }
 
 } // namespace
@@ -88,6 +88,7 @@ void add_bands(const LayoutNode& root, QVBoxLayout& bands, FormView& view, FormK
     const auto& nodes = root.kind == Kind::Rows ? root.children : single;
     std::vector<LayoutNode> block;
     bool rest = false;
+    QVBoxLayout* rest_band = nullptr; // grids that take turns share one: the hidden takes no room
     auto close_block = [&] {
         add_block(block, bands, view, kind);
         block.clear();
@@ -109,10 +110,12 @@ void add_bands(const LayoutNode& root, QVBoxLayout& bands, FormView& view, FormK
         case Kind::Splitter:
             close_block();
             rest = true;
-            add_rest(node, bands, view, kind);
-            break;
+            if (rest_band == nullptr) rest_band = add_rest_band(bands, kind);
+            add_node(node, *rest_band, LayoutPlace{view});
+            continue;
         default: block.push_back(node);
         }
+        rest_band = nullptr;
     }
     close_block();
     if (!rest) bands.addStretch(1);

@@ -117,6 +117,7 @@ void TDBGridEh::clear_marks() {
 
 void TDBGridEh::title_click(int column) {
     if (OnTitleClick) return OnTitleClick(column);
+    if (FixedOrder) return;
     const std::string& field = Columns.at(static_cast<std::size_t>(column)).FieldName;
     if (DataSet == nullptr || DataSet->FindField(field) == nullptr) return;
     commit_edit_or_abort();

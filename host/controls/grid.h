@@ -53,6 +53,8 @@ public:
     bool MultiSelect = false;        // rows can be marked with Ctrl/Shift or the driver
     bool AppendOnEnter = true;       // leaving the last cell of the last row appends
     bool AutoFooter = true;
+    bool FixedOrder = false;         // a printed form: no sorting, no moving of columns
+    bool RowSizing = false;          // the person may make the rows higher; long texts then wrap
     std::string EmptyText;           // sentence in the middle of an empty grid
 
     // The current cell. Setting the column runs OnColExit/OnColEnter and posts nothing.

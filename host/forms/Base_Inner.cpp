@@ -3,6 +3,7 @@
 
 #include "host/forms/parts/list_search.h"
 #include "host/forms/parts/sum_footers.h"
+#include "host/ports/host.h"
 #include "host/values/errors.h"
 
 namespace host {
@@ -18,6 +19,7 @@ TFrm_Base_Inner::TFrm_Base_Inner(TForm* parent) : TFrm_Base_Panel(parent) {
 
 void TFrm_Base_Inner::InitForm(const Trecord& record) {
     OpenFunction(record);
+    if (!the_host().may({RightsFunction(), Act_Save.Right})) DBGridEh.ReadOnly = true;
     add_sum_footers(DBGridEh, SumFields);
     if (!SqlText.empty()) GetData();
     Show();

@@ -16,6 +16,9 @@
 #include "module/period/U6667.h"
 #include "module/period/U6668.h"
 #include "module/period/U6699.h"
+#include "module/statements/U6671.h"
+#include "module/statements/U6672.h"
+#include "module/statements/U6673.h"
 #include "module/vouchers/U6661.h"
 #include "module/vouchers/U6663.h"
 
@@ -50,6 +53,9 @@ constexpr Function functions[] = {
     {663, modal<TF6663, F6663>},    // 凭证登帐
     {667, modal<TF6667, F6667>},    // 结转损溢
     {668, modal<TF6668, F6668>},    // 期末结帐
+    {671, modeless<TF6671, F6671>}, // 资产负债表
+    {672, modeless<TF6672, F6672>}, // 现金流量表
+    {673, modeless<TF6673, F6673>}, // 利 润 表
     {681, modeless<TF6681, F6681>}, // 会计科目
     {682, modeless<TF6682, F6682>}, // 凭证字
     {683, modeless<TF6683, F6683>}, // 常用摘要

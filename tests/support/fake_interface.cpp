@@ -25,6 +25,11 @@ bool FakeInterface::ask(const std::string& text) {
     return yes;
 }
 
+bool FakeInterface::progress(const std::string& what, std::int64_t done, std::int64_t total) {
+    reports.push_back(what + " " + std::to_string(done) + "/" + std::to_string(total));
+    return reports.size() != stop_at_report;
+}
+
 void FakeInterface::popup(host::TPopupMenu& menu, host::TControl&) {
     for (host::TAction* item : menu.Items)
         if (item != nullptr && item->Name() == popup_item) item->Execute();

@@ -38,7 +38,10 @@ public:
                                                    const std::string&) override {
         return file;
     }
-    bool progress(const std::string&, std::int64_t, std::int64_t) override { return true; }
+    // What long work reported; it is asked to stop at the report of that number, counted from 1.
+    std::vector<std::string> reports; // "重算 第 1 / 6 遍 3/240"
+    std::size_t stop_at_report = 0;
+    bool progress(const std::string& what, std::int64_t done, std::int64_t total) override;
     void repaint_frame() override {}
     bool offers_printing() const override { return prints; }
     void set_clipboard(const std::string& text) override { clipboard = text; }

@@ -42,6 +42,12 @@ Type result_type(const FunctionRule& rule, const std::vector<BoundPtr>& argument
     return first.is_decimal() ? Type::decimal(first.precision, 0) : first;
 }
 
+std::string dotted(const ObjectName& name) {
+    std::string text;
+    for (const Name& part : name.parts) text += (text.empty() ? "" : ".") + part.text;
+    return text;
+}
+
 [[noreturn]] void refuse_count(const FunctionCall& call, const std::string& name,
                                std::string_view kinds) {
     const auto required = std::min(kinds.find('?'), kinds.size());
@@ -117,12 +123,14 @@ BoundPtr Binder::bind_user_function(const FunctionCall& call, Scope& scope) {
     const std::string& name = call.name.object().text;
     const auto module = context_.catalog.find_module(CatalogKind::Function, name);
     const auto* function = module ? as_if<CreateFunction>(&module->syntax()) : nullptr;
-    if (function == nullptr || function->type != FunctionKind::Scalar) {
+    // dbo.dbo.F means the function of a database named dbo, and functions are never looked for
+    // outside the books.
+    const bool elsewhere = call.name.parts.size() > 2;
+    if (elsewhere || function == nullptr || function->type != FunctionKind::Scalar) {
         throw Refusal(4121, call.name.at,
                       "Cannot find either column \"" + call.name.parts.front().text +
                           "\" or the user-defined function or aggregate \"" +
-                          call.name.parts.front().text + "." + name +
-                          "\", or the name is ambiguous.");
+                          dotted(call.name) + "\", or the name is ambiguous.");
     }
     if (call.arguments.size() != function->parameters.size()) {
         const bool few = call.arguments.size() < function->parameters.size();
