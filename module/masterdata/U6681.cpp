@@ -12,6 +12,9 @@ TF6681* F6681 = nullptr;
 
 namespace {
 
+// Balances, movements, or profit and loss of the year so far.
+const char* const has_figures = "(J<>0 OR D<>0 OR SY_J<>0 OR SY_D<>0)";
+
 std::string accounts_of_category(int category) {
     return "SELECT KM_ID,KM_NAME, OID  FROM D6801 where km_fl=" + std::to_string(category) +
            " ORDER BY OID,KM_ID";
@@ -52,7 +55,7 @@ void TF6681::InitForm(const Trecord& record) {
     DeleteStatement = "delete from D6801 Where km_ID=%S";
     Uses = {{"SELECT COUNT(*) AS I FROM D6601A WHERE KM_ID=%S", "已有凭证使用该科目"},
             {"SELECT COUNT(*) AS I FROM D6601M WHERE KM_ID=%S", "已有凭证模板使用该科目"},
-            {"SELECT COUNT(*) AS I FROM D6602 WHERE KM_ID=%S AND (J<>0 OR D<>0)",
+            {std::string("SELECT COUNT(*) AS I FROM D6602 WHERE KM_ID=%S AND ") + has_figures,
              "该科目已有余额或发生额"},
             {"SELECT COUNT(*) AS I FROM D6804 WHERE KM_ID=%S", "已有收支类别使用该科目"}};
     F6681_1 = std::make_unique<TF6681_1>(this);
@@ -91,12 +94,17 @@ void TF6681::refuse_below_account_in_use() {
     if (level_below(node) > deepest_account_level) {
         refuse("会计科目最多五级,不能在“" + node->Text + "”下再增加下级科目!");
     }
+    const std::string own_code = GETCODE(node->Text);
+    if (own_code == profit_of_the_year) {
+        refuse("科目“" + node->Text + "”由结转损溢直接记帐,不能增加下级科目!");
+    }
     if (!node->Children.empty()) return;
-    const std::string code = quoted(GETCODE(node->Text));
+    const std::string code = quoted(own_code);
     TClientDataSet use;
     opensql(use, FunctionCode,
             "SELECT (SELECT COUNT(*) FROM D6601A WHERE KM_ID=" + code +
-                ")+(SELECT COUNT(*) FROM D6602 WHERE KM_ID=" + code + " AND (J<>0 OR D<>0)) AS I");
+                ")+(SELECT COUNT(*) FROM D6602 WHERE KM_ID=" + code + " AND " + has_figures +
+                ") AS I");
     if (use.IsEmpty() || use.FieldByName("I").AsInteger() == 0) return;
     refuse("科目“" + node->Text + "”已有凭证或余额,不能再增加下级科目!请在同级新增科目。");
 }

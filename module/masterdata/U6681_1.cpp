@@ -4,6 +4,7 @@
 #include "host/dataset/client_dataset.h"
 #include "host/values/sql_text.h"
 #include "module/masterdata/account_level.h"
+#include "module/refuse.h"
 
 namespace module {
 
@@ -70,7 +71,20 @@ std::string TF6681_1::update() const {
 
 // ---- saving ----
 
+// A balance stands on its account's own side: turned round, the account would begin the next month
+// without it.
+void TF6681_1::refuse_turning_account_with_balance() {
+    TClientDataSet balances;
+    opensql(balances, FunctionCode,
+            "SELECT COUNT(*) AS I FROM D6602 WHERE KM_ID=" + quoted(selected_code()) +
+                " AND INX=1 AND (J<>0 OR D<>0)");
+    if (balances.IsEmpty() || balances.FieldByName("I").AsInteger() == 0) return;
+    refuse("科目“" + Tree->Selected()->Text +
+           "”已有余额,不能改变余额方向!请另增科目,用凭证把余额转过去。");
+}
+
 void TF6681_1::SaveData() {
+    if (Mode == "Edit" && side_changed()) refuse_turning_account_with_balance();
     if (!may_allocate_cash_flow(t0.Text)) CK1.Checked = false;
     CodeTreeDialog::SaveData();
 }

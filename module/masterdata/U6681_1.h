@@ -26,6 +26,7 @@ protected:
 
 private:
     // This form's own rules.
+    void refuse_turning_account_with_balance();
     std::string level() const; // of the account in the chart, "1" at the top; quoted
     std::string cash_flow_mark() const;
     int category_ = 1; // KM_FL of new accounts

@@ -1,4 +1,4 @@
-// Where an account stands in the chart, and whether it can take part in the cash-flow allocation.
+// Where an account stands in the chart, and what follows from its code.
 #pragma once
 
 #include <string>
@@ -10,6 +10,9 @@ namespace module {
 
 // Posting adds up a chart of at most this many levels.
 inline constexpr int deepest_account_level = 5;
+
+// The profit of the current year: every carry-forward books on it, so it has no sub-accounts.
+inline constexpr const char* profit_of_the_year = "3131";
 
 // Level of an account added beside `node` (1 for a top-level account, also without a node).
 inline int level_beside(const TTreeNode* node) {

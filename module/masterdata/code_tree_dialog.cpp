@@ -54,6 +54,7 @@ void CodeTreeDialog::load_selected() {
     const bool first = row.FieldByName(kind_.side_field).AsText() == kind_.side;
     RB1.Checked = first;
     RB2.Checked = !first;
+    loaded_on_first_side_ = first;
     show_more(&row);
 }
 

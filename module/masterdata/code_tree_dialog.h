@@ -53,6 +53,7 @@ protected:
     virtual std::string update() const = 0;
 
     bool adding() const { return Mode != "Edit"; }
+    bool side_changed() const { return RB1.Checked != loaded_on_first_side_; }
     std::string selected_code() const;
     std::string initials() const; // quoted, as are the next two
     std::string name() const;
@@ -64,6 +65,7 @@ private:
     std::string parent_code() const;
     void show_in_tree();
     const CodeTreeKind& kind_;
+    bool loaded_on_first_side_ = true;
 };
 
 } // namespace module

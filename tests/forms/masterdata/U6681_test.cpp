@@ -175,6 +175,36 @@ TEST_F(Chart, an_account_in_use_gets_no_sub_accounts) {
     anna.expect_active("TF6681");
 }
 
+TEST_F(Chart, the_profit_of_the_year_gets_no_sub_accounts) {
+    data.answer("SELECT KM_ID,KM_NAME, OID  FROM D6801 where km_fl=3",
+                {"KM_ID text", "KM_NAME text", "OID text"}, {{"3131", "本年利润", "Z"}});
+    Person& anna = person();
+    anna.click("SpeedButton4");
+    anna.node("3131 本年利润");
+    anna.click("Act_CopyAdd");
+    anna.expect_message("科目“3131 本年利润”由结转损溢直接记帐,不能增加下级科目!");
+    anna.expect_active("TF6681");
+}
+
+TEST_F(Chart, an_account_with_a_balance_keeps_its_side) {
+    data.answer("SELECT COUNT(*)", {"I int"}, {{"1"}});
+    Person& anna = person();
+    anna.node("1002 银行存款");
+    anna.click("Act_Modify");
+    anna.check("RB2");
+    anna.click("btn_ok");
+    anna.expect_message("科目“1002 银行存款”已有余额,不能改变余额方向!"
+                        "请另增科目,用凭证把余额转过去。");
+    EXPECT_EQ(anna.sent_texts().back(), "SELECT COUNT(*) AS I FROM D6602 WHERE KM_ID='1002' AND "
+                                        "INX=1 AND (J<>0 OR D<>0)");
+    anna.expect_active("TF6681_1");
+    EXPECT_TRUE(data.executed().empty());
+    anna.check("RB1");
+    anna.set("t1", "银行");
+    anna.click("btn_ok");
+    EXPECT_EQ(data.executed().size(), 1u);
+}
+
 TEST_F(Chart, an_account_is_deleted_after_a_question_unless_it_is_in_use) {
     Person& anna = person();
     anna.node("1101 短期投资");
