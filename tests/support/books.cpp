@@ -2,6 +2,7 @@
 #include "tests/support/books.h"
 
 #include <gtest/gtest.h>
+#include <map>
 
 #include "app/books/open.h"
 #include "app/data/engine_data.h"
@@ -23,12 +24,41 @@ std::unique_ptr<engines::Session> open(const std::string& file, const host::Cloc
     return session;
 }
 
+FreshBooks kind_of(const BooksOptions& options) {
+    return {options.start, options.scheme, options.company};
+}
+
+void prepare(const std::string& file, const BooksOptions& options) {
+    engines::ResultReceiver nobody;
+    const auto session = open(file, FixedClock(options.today));
+    const engines::Outcome outcome = session->execute_atomically(options.prepare, nobody);
+    if (!outcome.ok()) ADD_FAILURE() << options.prepare << "\n" << outcome.error->text;
+}
+
+// The file that holds fresh books of this kind after `prepare`; made at the first call.
+const std::string& prepared_books(const BooksOptions& options) {
+    static TemporaryFolder folder;
+    static std::map<std::pair<FreshBooks, std::string>, std::string> made;
+    std::string& file = made[{kind_of(options), options.prepare}];
+    if (!file.empty()) return file;
+    const std::string path = folder.file("prepared" + std::to_string(made.size()) + ".zf");
+    make_fresh_books(kind_of(options), path);
+    prepare(path, options);
+    return file = path;
+}
+
+void make_books(const BooksOptions& options, const std::filesystem::path& file) {
+    if (options.prepare.empty()) return make_fresh_books(kind_of(options), file);
+    std::filesystem::copy_file(prepared_books(options), file);
+}
+
 } // namespace
 
 struct Books::Parts {
     explicit Parts(BooksOptions wanted)
-        : options(std::move(wanted)), file(folder.path() / "books.zf"), clock(options.today) {
-        make_fresh_books({options.start, options.scheme, options.company}, file);
+        : options(std::move(wanted)), folder(options.folder), file(folder.path() / "books.zf"),
+          clock(options.today) {
+        make_books(options, file);
         session = open(file.string(), clock);
         data = std::make_unique<app::EngineData>(*session, clock, "admin");
         reader = open(file.string(), clock);

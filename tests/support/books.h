@@ -15,6 +15,9 @@ struct BooksOptions {
     std::string scheme = "1"; // voucher words: 1 记; 2 收付转; 3 现收现付银收银付转
     std::string company = "测试公司";
     std::string today = "2024-03-15"; // what forms and GETDATE() take as today
+    std::string prepare; // a batch that changes the pattern once, before it is copied
+    // Where the file stands; left out, among the temporary files.
+    std::filesystem::path folder = std::filesystem::temp_directory_path();
 };
 
 // A books file in a folder of its own with a session on it.

@@ -14,9 +14,10 @@ namespace tests {
 //     create_books({folder.file("a.zf"), …});
 class TemporaryFolder {
 public:
-    TemporaryFolder() {
+    explicit TemporaryFolder(
+        const std::filesystem::path& parent = std::filesystem::temp_directory_path()) {
         static std::atomic<int> made{0};
-        path_ = std::filesystem::temp_directory_path() /
+        path_ = parent /
                 ("zf-test-" + std::to_string(::getpid()) + "-" + std::to_string(made++));
         std::filesystem::remove_all(path_);
         std::filesystem::create_directories(path_);

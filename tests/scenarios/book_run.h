@@ -1,0 +1,32 @@
+// Random books kept twice: by the program's forms and by plain addition.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+
+#include "tests/scenarios/book_plan.h"
+#include "tests/support/books.h"
+
+namespace tests {
+
+struct BookVerdict {
+    std::string difference;   // "" when both agree everywhere
+    std::size_t steps = 0;    // carried out until then
+    std::size_t vouchers = 0; // typed
+    std::size_t figures = 0;  // amounts of balances compared
+};
+
+// Fresh books with the small chart that wait for their opening; in memory where the machine has a
+// folder for that, as thousands of them are made.
+BooksOptions small_books(int words);
+
+// Makes fresh books, carries the plan out through the driver, and compares periods, vouchers, lines
+// and every row of the balances after each step.
+BookVerdict keep_books(const BookPlan& plan);
+
+// The shortest plan found that still fails, by leaving out openings and steps; `fails` is asked at
+// most `times` times.
+BookPlan shrink(BookPlan plan, int times, const std::function<bool(const BookPlan&)>& fails);
+
+} // namespace tests
