@@ -9,6 +9,9 @@
 
 namespace module {
 
+// What forms say that need a current period when the books were not set up.
+inline constexpr const char* no_current_period = "读取会计期间错误!请确认是否进行初始建帐!";
+
 [[noreturn]] inline void refuse(const std::string& reason) {
     DISPINFO(reason, 5);
     Abort();

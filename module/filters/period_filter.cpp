@@ -29,7 +29,7 @@ void PeriodFilter::FormActivate() {
 void PeriodFilter::show_limits() {
     btn_ok.Enabled = !CurrentPeriod.empty();
     const auto current = Period::parse(CurrentPeriod);
-    if (!current) return DISPINFO("读取会计期间错误!请确认是否进行初始建帐!", 5), void();
+    if (!current) return DISPINFO(no_current_period, 5), void();
     offer_period(*current);
     Books.Caption = (FirstPeriod.empty() ? "" : "帐套启用日期 " + FirstPeriod + "    ") +
                     "当前会计期间 " + CurrentPeriod;

@@ -85,7 +85,7 @@ void TF6667::FormActivate() {
     btn_ok.Enabled = !period_.empty();
     refresh_date_hint();
     if (period_.empty()) {
-        DISPINFO("读取会计期间错误!请确认是否进行初始建帐!", 5);
+        DISPINFO(no_current_period, 5);
         return;
     }
     load_accounts();

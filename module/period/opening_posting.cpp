@@ -38,7 +38,7 @@ std::string begin_anew(const std::string& year_row, const std::string& previous)
            "CASE FX WHEN '贷' THEN BEGIN4 ELSE 0 END AS D2,0,0 FROM D6801;";
 }
 
-// Customers and suppliers differ in these words. A row "0" among the suppliers stands for none.
+// Customers and suppliers differ in these words; suppliers up to the code "0" are left out.
 struct Parties {
     const char *clear, *documents, *parties, *more;
 };

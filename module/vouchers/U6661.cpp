@@ -216,7 +216,7 @@ Period TF6661::period_for_red_voucher() {
         refuse(name + "还没有登帐,不必红字冲销!请直接修改或删除它,已审核的先反审核。");
     }
     const auto open = Period::parse(read_current_period(FunctionCode));
-    if (!open) refuse("读取会计期间错误!请确认是否进行初始建帐!");
+    if (!open) refuse(no_current_period);
     if (open->to_text() < selected_voucher().period) {
         refuse(name + "晚于当前会计期间 " + open->to_text() + ",不能在本期冲销!");
     }

@@ -412,7 +412,7 @@ std::string TF6661_1::save_allocation(const std::string& key) const {
 
 void TF6661_1::SaveData() {
     const std::string period = read_current_period(FunctionCode);
-    if (period.empty()) refuse("读取会计期间错误!请确认是否进行初始建帐!");
+    if (period.empty()) refuse(no_current_period);
     if (period != period_) {
         refuse("会计期间已由 " + period_ + " 变为 " + period + "!请退出后重新打开凭证,再保存。");
     }

@@ -52,6 +52,10 @@ struct BooksDesk : Desk {
                     {{"1001", "现金", "80", "0", "30", "10", "100", "0"},
                      {"2101", "短期借款", "0", "80", "10", "30", "0", "100"}});
     }
+    void answer_frame_period(const std::string& period) {
+        data.answer("SELECT ID,PARAM FROM D6600", {"ID int", "PARAM text"},
+                    {{"1", "2024-01"}, {"2", period}});
+    }
     // What the line at the bottom says of company and period.
     std::string bottom_line() {
         for (const QWidget* part : window().findChildren<QWidget*>()) {
@@ -189,17 +193,13 @@ TEST(ModuleForms, posting_stands_over_the_frame_until_it_is_left) {
 
 TEST(ModuleForms, the_bottom_line_shows_the_period_that_a_closing_leads_to) {
     BooksDesk desk;
-    const auto answer_period = [&](const std::string& period) {
-        desk.data.answer("SELECT ID,PARAM FROM D6600", {"ID int", "PARAM text"},
-                         {{"1", "2024-01"}, {"2", period}});
-    };
-    answer_period("2024-03");
+    desk.answer_frame_period("2024-03");
     desk.data.answer("SELECT param,(SELECT COUNT(*)", {"param text", "I int", "J int"},
                      {{"2024-03", "0", "0"}});
     desk.when_modal([&] {
         desk.settle();
         desk.keep("668");
-        answer_period("2024-04");
+        desk.answer_frame_period("2024-04");
         desk.keys({"F2", "Esc"});
     });
     desk.keys({"Ctrl+G", "6", "6", "8", "Enter"});
@@ -231,6 +231,7 @@ TEST(ModuleForms, opening_figures_are_typed_along_the_row_and_posted_by_key) {
             desk.settle();
             EXPECT_EQ(desk.active(), "TF6699_2");
             desk.keep("699_2");
+            desk.answer_frame_period("2024-03");
             desk.keys({"F2"});
         });
         desk.keys({"F2"});
@@ -240,6 +241,7 @@ TEST(ModuleForms, opening_figures_are_typed_along_the_row_and_posted_by_key) {
     ASSERT_FALSE(desk.data.executed().empty());
     EXPECT_EQ(desk.data.executed().back().log.key, "2024-03");
     EXPECT_TRUE(host::the_host().forms.empty()) << "the entry closes with the posting";
+    EXPECT_TRUE(desk.bottom_line().ends_with("2024-03")) << desk.bottom_line();
 }
 
 TEST(ModuleForms, profit_is_carried_forward_without_the_mouse) {
