@@ -7,12 +7,6 @@ namespace tests {
 
 namespace {
 
-Cents cents(const std::string& text) {
-    std::string digits = text;
-    std::erase(digits, '.');
-    return std::stoll(digits);
-}
-
 // Two sorted lists of lines of text; the first line that is not in both is told.
 void compare_lists(const std::string& what, std::vector<std::string> kept,
                    std::vector<std::string> expected) {
@@ -90,8 +84,8 @@ std::size_t compare_balances(Books& books, const NaiveLedger& ledger) {
     NaiveBalances kept;
     for (const Row& row : books.table("SELECT QJ,KM_ID,INX,J,D,SY_J,SY_D FROM D6602")) {
         const NaiveKey key{row.at("QJ"), row.at("KM_ID"), std::stoi(row.at("INX"))};
-        kept[key] = {cents(row.at("J")), cents(row.at("D")), cents(row.at("SY_J")),
-                     cents(row.at("SY_D"))};
+        kept[key] = {cents_of(row.at("J")), cents_of(row.at("D")), cents_of(row.at("SY_J")),
+                     cents_of(row.at("SY_D"))};
     }
     for (const auto& [key, figures] : kept) compare_row(key, figures, expected);
     for (const auto& [key, figures] : expected) {

@@ -40,6 +40,13 @@ std::string money(Cents cents) {
     return (cents < 0 ? "-" : "") + std::to_string(size / 100) + "." + fraction;
 }
 
+Cents cents_of(const std::string& amount) {
+    if (amount.empty()) return 0;
+    const std::size_t point = amount.find('.');
+    if (point == std::string::npos) return 100 * std::stoll(amount);
+    return std::stoll(amount.substr(0, point) + (amount.substr(point + 1) + "00").substr(0, 2));
+}
+
 NaiveLedger::NaiveLedger(const std::vector<NaiveAccount>& chart) {
     for (const NaiveAccount& one : chart) add_account(one);
 }

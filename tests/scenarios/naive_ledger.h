@@ -110,6 +110,7 @@ private:
 // "2024-12" → "2025-01" and back.
 std::string month_after(const std::string& period);
 std::string month_before(const std::string& period);
-std::string money(Cents cents); // "-12.05"
+std::string money(Cents cents);           // "-12.05"
+Cents cents_of(const std::string& amount); // "-12.05", "2.5", "7", "" for nothing
 
 } // namespace tests

@@ -1,4 +1,4 @@
-// The lines of a financial statement, worked out from its formulas.
+// The lines of a balance sheet, worked out from its formulas with some of them replaced.
 #include "tests/scenarios/statement_sheet.h"
 
 #include <stdexcept>
@@ -30,12 +30,6 @@ std::vector<std::string> terms_of(const std::string& formula) {
     return terms;
 }
 
-Cents cents_of(const std::string& text) {
-    const std::size_t point = text.find('.');
-    if (point == std::string::npos) return 100 * std::stoll(text);
-    return std::stoll(text.substr(0, point) + (text.substr(point + 1) + "00").substr(0, 2));
-}
-
 // The whole numbers behind the first comma of "fsum(年初,1,24)".
 std::vector<int> numbers_in(const std::string& call) {
     std::vector<int> numbers;
@@ -47,53 +41,22 @@ std::vector<int> numbers_in(const std::string& call) {
 
 } // namespace
 
-const StatementKind& balance_sheet() {
-    static const StatementKind kind{
-        .table = "D6830",
-        .layouts = true,
-        .columns = {{"年初", "A2", "A5"},
-                    {"期末", "A2", "A6"},
-                    {"年初", "B2", "B5"},
-                    {"期末", "B2", "B6"}},
-        .words = {{"年初", "1,'%Y'", "年初"}, {"期末", "0,'%P'", "期末"}}};
-    return kind;
-}
-
-const StatementKind& income_statement() {
-    static const StatementKind kind{.table = "D6832",
-                                    .layouts = true,
-                                    .columns = {{"本月", "A2", "A5"}, {"本年累计", "A2", "A6"}},
-                                    .words = {{"本期借方累计", "2,'%P'", "本月"},
-                                              {"本期贷方累计", "3,'%P'", "本月"},
-                                              {"本年借方累计", "4,'%P'", "本年累计"},
-                                              {"本年贷方累计", "5,'%P'", "本年累计"}}};
-    return kind;
-}
-
-const StatementKind& cash_flow_statement() {
-    static const StatementKind kind{
-        .table = "D6831",
-        .layouts = false,
-        .columns = {{"本年累计", "A2", "A5"}, {"本月", "A2", "A6"}},
-        .words = {{"年初", "1,'%Y'", ""},
-                  {"期末", "0,'%P'", ""},
-                  {"本期累计借方", "2,'%P'", ""},
-                  {"本期累计贷方", "3,'%P'", ""}}};
-    return kind;
-}
-
-StatementSheet::StatementSheet(Books& books, const StatementKind& kind, int layout,
-                               std::string period)
-    : books_(books), kind_(kind), period_(std::move(period)) {
-    const std::string condition = kind.layouts ? " WHERE G=" + std::to_string(layout) : "";
-    for (const Row& row : books.table(std::string("SELECT * FROM ") + kind.table + condition)) {
-        for (const StatementKind::Column& column : kind.columns) {
-            const std::string& line = row.at(column.line);
-            if (line.empty() || line == "<null>") continue;
-            const std::string& formula = row.at(column.formula);
-            lines_[line][column.name].formula = formula == "<null>" ? "" : formula;
-        }
+StatementSheet::StatementSheet(Books& books, int layout, std::string period)
+    : books_(books), period_(std::move(period)) {
+    for (const Row& row : books.table("SELECT A2,A5,A6,B2,B5,B6 FROM D6830 WHERE G=" +
+                                      std::to_string(layout))) {
+        take_half(row, "A2", "A5", "A6");
+        take_half(row, "B2", "B5", "B6");
     }
+}
+
+void StatementSheet::take_half(const Row& row, const char* line, const char* year_begin,
+                               const char* closing) {
+    const auto text = [&](const char* field) {
+        return row.at(field) == "<null>" ? std::string() : row.at(field);
+    };
+    if (text(line).empty()) return;
+    lines_[text(line)] = {{"年初", {text(year_begin)}}, {"期末", {text(closing)}}};
 }
 
 void StatementSheet::replace(const std::string& line, const std::string& formula) {
@@ -124,35 +87,27 @@ Cents StatementSheet::evaluate(const std::string& formula) {
 
 Cents StatementSheet::term(const std::string& text) {
     if (text.find('(') == std::string::npos) return cents_of(text);
-    const StatementKind::Word* word = first_word(text);
-    if (text.starts_with("fd(")) return value(std::to_string(numbers_in(text).at(0)), word->column);
+    const std::string column = text.find("年初") != std::string::npos ? "年初" : "期末";
+    if (text.starts_with("fd(")) return value(std::to_string(numbers_in(text).at(0)), column);
     if (text.starts_with("fsum(")) {
-        return sum_of_lines(word->column, numbers_in(text).at(0), numbers_in(text).at(1));
+        return sum_of_lines(column, numbers_in(text).at(0), numbers_in(text).at(1));
     }
     return from_ledger(text);
-}
-
-const StatementKind::Word* StatementSheet::first_word(const std::string& text) const {
-    for (const StatementKind::Word& one : kind_.words) {
-        if (text.find(one.word) != std::string::npos) return &one;
-    }
-    throw std::invalid_argument("no period word in " + text);
 }
 
 Cents StatementSheet::sum_of_lines(const std::string& column, int from, int to) {
     Cents sum = 0;
     for (const auto& [line, cells] : lines_) {
         const int number = std::stoi(line);
-        if (number >= from && number <= to && cells.contains(column)) sum += value(line, column);
+        if (number >= from && number <= to) sum += value(line, column);
     }
     return sum;
 }
 
 Cents StatementSheet::from_ledger(std::string call) {
-    if (!call.starts_with("dbo.")) call.insert(0, "dbo.");
-    for (const StatementKind::Word& one : kind_.words) call = with(call, one.word, one.meaning);
-    call = with(with(call, "%P", period_), "%Y", period_.substr(0, 5) + "00");
-    return cents_of(books_.value("select " + call + " as a "));
+    call = with(call, "年初", "1,'" + period_.substr(0, 5) + "00'");
+    call = with(call, "期末", "0,'" + period_ + "'");
+    return cents_of(books_.value("select dbo." + call + " as a "));
 }
 
 } // namespace tests

@@ -49,6 +49,7 @@ private:
     void compare_balances(const std::string& period, const json& expected);
     void compare_summary(const std::string& period, const json& expected);
     void compare_statement(const std::string& period, const char* name, const json& expected);
+    void compare_reclassified(const std::string& period, const json& expected);
     void compare_ledgers(const std::string& period, const json& expected);
     void expect_sound(const std::string& when);
 

@@ -1,4 +1,4 @@
-// Worked months: every file in months/ done from the empty books to the closed period, to the cent.
+// Worked months: every file of them done from the empty books to the closed period, to the cent.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -11,9 +11,9 @@ namespace tests {
 
 namespace {
 
-// The files in months/, and those in the folder that ZF_WORKED_MONTHS names.
+// The files in tests/worked_months, and those in the folder that ZF_WORKED_MONTHS names.
 std::vector<std::string> worked_files() {
-    std::vector<std::string> folders = {ZF_SOURCE_DIR "/tests/scenarios/months"};
+    std::vector<std::string> folders = {ZF_SOURCE_DIR "/tests/worked_months"};
     if (const char* more = std::getenv("ZF_WORKED_MONTHS")) folders.push_back(more);
     std::vector<std::string> files;
     for (const std::string& folder : folders) {

@@ -87,6 +87,12 @@ public:
     // 689: the rows of a period down to a level, and the footers.
     Rows trial_balance(const std::string& period, int level, Row* footers = nullptr);
     Rows profit_accounts(); // 667: the accounts and balances to be carried forward
+    // 684: movements of the top-level accounts; `conditions` takes what is shown above the list.
+    Rows account_summary(const std::string& first_day, const std::string& last_day,
+                         std::string* conditions = nullptr);
+    Rows detailed_ledger(const std::string& account, const std::string& period); // 685
+    // 671 to 673, recalculated; `layout` is 样式1 to 样式3, "" where there is one only.
+    Rows statement(int code, const std::string& layout, const std::string& period);
 
 private:
     using json = nlohmann::json;
@@ -99,6 +105,7 @@ private:
               const std::string& grid = "DBGridEh");
     void leave_all(); // closes every form; unsaved work is given up
     Rows rows(const std::string& grid = "DBGridEh");
+    Rows taken(Rows shown); // leaves and forgets what was shown
     Row footers(const std::vector<std::string>& fields);
     int row_of(const std::string& field, const std::string& value,
                const std::string& grid = "DBGridEh");
