@@ -30,6 +30,18 @@ void paint_account_name(QPainter& painter, const QRect& box, const QString& text
                      painter.fontMetrics().elidedText(text.mid(own), Qt::ElideRight, rest.width()));
 }
 
+// A text that begins with blanks stands in by a step for each, and a high row wraps a long one.
+void paint_text(QPainter& painter, QRect box, QString text, Qt::Alignment alignment, bool wraps) {
+    constexpr int step = 12;
+    qsizetype blanks = 0;
+    while (blanks < text.size() && text[blanks] == ' ') ++blanks;
+    if (alignment & Qt::AlignLeft) box.setLeft(box.left() + static_cast<int>(blanks) * step);
+    text = text.mid(blanks);
+    if (wraps) return painter.drawText(box, alignment | Qt::TextWrapAnywhere, text);
+    painter.drawText(box, alignment,
+                     painter.fontMetrics().elidedText(text, Qt::ElideRight, box.width()));
+}
+
 bool is_set(const QString& text) {
     return text == "1" || text.compare("True", Qt::CaseInsensitive) == 0;
 }
@@ -83,8 +95,7 @@ void GridDelegate::paint_content(QPainter& painter, const QRect& cell, int row, 
     if (params.Font == host::clDefault && is_account_name_column(grid, shown) && text.contains('-'))
         return paint_account_name(painter, box, text);
     painter.setPen(ink);
-    painter.drawText(box, alignment_of(grid, shown),
-                     painter.fontMetrics().elidedText(text, Qt::ElideRight, box.width()));
+    paint_text(painter, box, text, alignment_of(grid, shown), cell.height() > row_height(grid));
 }
 
 void GridDelegate::paint_lines(QPainter& painter, const QRect& cell, int row, int column) const {

@@ -85,8 +85,12 @@ bool GridHeader::closes_group(int logical) const {
     if (!column || levels() == 1 || is_ruled(*grid_)) return false;
     const int next = visualIndex(logical) + 1;
     if (next >= count()) return false;
-    const QString own = upper(logical), after = upper(logicalIndex(next));
-    return own != after;
+    const int after = logicalIndex(next);
+    // A title of two lines over one column makes no group of it.
+    const auto spans = [this](int column) {
+        return group_rect(column).width() > sectionSize(column);
+    };
+    return upper(logical) != upper(after) && (spans(logical) || spans(after));
 }
 
 void GridHeader::paint_title(QPainter& painter, const QRect& box, int logical,
@@ -134,7 +138,7 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int logical)
         painter->setPen(column->RuledAmount ? token::ink_2 : token::ink_1);
         painter->drawText(whole, Qt::AlignCenter, group);
         painter->fillRect(whole.left(), whole.bottom(), whole.width(), 1, token::rule_2);
-        painter->fillRect(whole.right(), 0, 1, token::header_level, token::rule_3);
+        painter->fillRect(whole.right(), 0, 1, token::header_level, edge);
         if (column->RuledAmount) {
             digit_boxes::paint_rules(*painter, below);
             painter->setPen(token::ink_2);

@@ -105,7 +105,9 @@ void GridView::refresh() {
     if (!grid_) return;
     model_->refresh();
     setEnabled(grid_->Enabled);
-    verticalHeader()->setDefaultSectionSize(row_height(*grid_));
+    // Setting it again would take back the heights that the person gave rows.
+    if (const int height = row_height(*grid_); verticalHeader()->defaultSectionSize() != height)
+        verticalHeader()->setDefaultSectionSize(height);
     for (int i = 0; i < model_->columnCount(); ++i) {
         const bool hidden = !grid_->Columns[static_cast<std::size_t>(i)].Visible;
         if (hidden && !isColumnHidden(i)) setColumnHidden(i, true);

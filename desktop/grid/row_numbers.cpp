@@ -12,7 +12,7 @@
 namespace desktop {
 
 RowNumbers::RowNumbers(GridView& view) : QHeaderView(Qt::Vertical, &view), view_(view) {
-    setSectionResizeMode(QHeaderView::Fixed);
+    setSectionResizeMode(view.grid()->RowSizing ? QHeaderView::Interactive : QHeaderView::Fixed);
     setMinimumSectionSize(token::grid_row);
     setHighlightSections(false);
     setSectionsClickable(false);
@@ -63,7 +63,9 @@ void RowNumbers::paintEvent(QPaintEvent* event) {
     QHeaderView::paintEvent(event);
 }
 
-// A press on a number is a press on its row.
-void RowNumbers::mousePressEvent(QMouseEvent*) {}
+// A number is nothing to press; the edge of its row is, where rows may be made higher.
+void RowNumbers::mousePressEvent(QMouseEvent* event) {
+    if (view_.grid() && view_.grid()->RowSizing) QHeaderView::mousePressEvent(event);
+}
 
 } // namespace desktop

@@ -68,6 +68,9 @@ void add_field(const LayoutNode& node, QBoxLayout& box, const LayoutPlace& place
     }
     QWidget* widget = draw_control(*node.control, place.view);
     widget->setAccessibleName(qt(node.control->Name()));
+    // A text that takes the rest is cut where the rest ends, instead of pushing the window wider.
+    if (node.width < 0 && dynamic_cast<host::TLabel*>(node.control))
+        widget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     give_width(node, *widget);
     row->addWidget(widget, node.width < 0 ? 1 : 0);
     if (place.in_rows && node.width >= 0) row->addStretch(1);

@@ -26,7 +26,9 @@ constexpr Function ledgers[] = {{684, "科目汇总表", report},
                                 {689, "试算平衡表", report},
                                 {690, "现金,银行存款日记帐", report}};
 constexpr Function statements[] = {
-    {671, "资产负债表", list}, {673, "利 润 表", list}, {672, "现金流量表", list}};
+    {671, "资产负债表", report | changes},
+    {673, "利 润 表", report | changes},
+    {672, "现金流量表", report | changes}};
 constexpr Function period[] = {{667, "结转损溢", opens | adds}, {668, "期末结帐", period_step}};
 constexpr Function trade[] = {
     {630, "销售收款 · 外币", documents}, {631, "销售收款", documents},

@@ -60,12 +60,12 @@ void StatementForm::run_passes() {
     const QuietLines quiet(AdoQry_Main, recalculating_);
     for (int pass = 0; pass < kind_.passes; ++pass) run_pass(pass);
     AdoQry_Main.First();
-    report(kind_.passes - 1, AdoQry_Main.RecordCount());
+    if (!AdoQry_Main.IsEmpty()) tell_progress(kind_.passes - 1, AdoQry_Main.RecordCount());
 }
 
 void StatementForm::run_pass(int pass) {
     for (AdoQry_Main.First(); !AdoQry_Main.Eof(); AdoQry_Main.Next()) {
-        report(pass, AdoQry_Main.RecNo());
+        if (!tell_progress(pass, AdoQry_Main.RecNo())) throw Stopped{pass};
         for (const StatementColumn& column : kind_.columns) {
             if (column.content != StatementContent::Amount) continue;
             const std::string formula = AdoQry_Main.FieldByName(column.formula_field).AsText();
@@ -76,12 +76,11 @@ void StatementForm::run_pass(int pass) {
     GetData();
 }
 
-void StatementForm::report(int pass, int lines_done) {
+bool StatementForm::tell_progress(int pass, int lines_done) const {
     const int lines = AdoQry_Main.RecordCount();
     const std::string what =
         "重算 第 " + std::to_string(pass + 1) + " / " + std::to_string(kind_.passes) + " 遍";
-    if (!the_host().ui->progress(what, pass * lines + lines_done, kind_.passes * lines))
-        throw Stopped{pass};
+    return the_host().ui->progress(what, pass * lines + lines_done, kind_.passes * lines);
 }
 
 // The first pass reckons what comes from the ledger alone, the others what looks at other lines: a

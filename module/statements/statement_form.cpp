@@ -35,6 +35,8 @@ StatementForm::StatementForm(TForm* parent, const StatementKind& kind)
     KeyField = "ID";
     Edit1.Text = "2016-06";
     rb1.Checked = true;
+    CellName.Bold = true;
+    CellName.FontColor = blue;
     rb1.OnClick = rb2.OnClick = [this] { rb1Click(); };
     add_columns();
     for (const FieldLabel& one : kind.labels)
@@ -64,24 +66,27 @@ void StatementForm::FormCreate() {
 }
 
 void StatementForm::add_columns() {
-    const auto halves = static_cast<int>(kind_.columns.size()) / 4;
+    const bool halves = kind_.columns.size() > 4;
     for (const StatementColumn& one : kind_.columns) {
         GridColumn amount = column_of(one.content, one.field, one.title);
         GridColumn formula = column_of(one.content, one.formula_field, one.formula_title);
         amount.ReadOnly = true;
-        if (one.content == StatementContent::Item) amount.Width = halves > 1 ? 26 : -1;
-        if (one.content == StatementContent::Item) formula.Width = halves > 1 ? 20 : 34;
+        if (one.content == StatementContent::Item) {
+            amount.Width = !halves ? 52 : DBGridEh.Columns.empty() ? -1 : 30;
+            formula.Width = halves ? 20 : 34;
+        }
         if (one.content == StatementContent::Amount) {
-            amount.Width = 16;
+            amount.Width = halves ? 17 : 22;
             amount.Align = Alignment::Right;
             amount.Tag = amount_tag;
-            formula.Width = halves > 1 ? 26 : 46;
+            formula.Width = halves ? 28 : -1;
         }
         DBGridEh.Columns.push_back(std::move(amount));
         DBGridEh1.Columns.push_back(std::move(formula));
     }
     for (TDBGridEh* grid : {&DBGridEh, &DBGridEh1}) {
         grid->FixedOrder = true;
+        grid->RowSizing = true;
         grid->AppendOnEnter = false;
     }
     DBGridEh1.Visible = false;
@@ -103,7 +108,6 @@ void StatementForm::arrange() {
 
 void StatementForm::InitForm(const Trecord& record) {
     TFrm_Base_Inner::InitForm(record);
-    DBGridEh.RowSizing = DBGridEh1.RowSizing = true;
     SqlText = kind_.opening_query + layout_text();
     Act_RefreshExecute();
     follow_the_selected_cell();

@@ -55,7 +55,7 @@ private:
     struct Stopped;
     void run_passes();
     void run_pass(int pass);
-    void report(int pass, int lines_done);
+    bool tell_progress(int pass, int lines_done) const; // false when the person asks to stop
     bool is_due(const std::string& formula, int pass) const;
     void reckon(const StatementColumn& column, const std::string& formula);
     std::string amount_text();

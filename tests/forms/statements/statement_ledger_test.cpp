@@ -148,8 +148,7 @@ TEST_F(StatementLedger, words_of_another_statement_are_refused_by_the_database) 
 TEST_F(StatementLedger, a_formula_cannot_change_the_books) {
     define("INSERT INTO D6830 (ID,G,A1,A6) VALUES (1,1,'x','1 as a;DELETE FROM D6802;select 1')");
     const std::string before = books.value("SELECT COUNT(*) FROM D6802");
-    EXPECT_NE(recalculation_stops(671).find("公式只能是一个算式,不能含有“;”!"),
-              std::string::npos);
+    EXPECT_NE(recalculation_stops(671).find("公式只能是一个算式,不能含有“;”!"), std::string::npos);
     EXPECT_EQ(books.value("SELECT COUNT(*) FROM D6802"), before);
 }
 
