@@ -4,6 +4,7 @@
 #include <unicode/coll.h>
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <numeric>
 #include <string>
@@ -40,31 +41,55 @@ std::string collation_key(char32_t character) {
     }
 }
 
+// A number for each character, zero at first; pages are made where characters occur, so that a
+// short list stays cheap.
+class CharacterNumbers {
+public:
+    std::uint32_t& of(char32_t character) {
+        std::unique_ptr<Page>& page = pages_[character / page_size];
+        if (!page) page = std::make_unique<Page>();
+        return (*page)[character % page_size];
+    }
+
+    // Calls take(character, number) for all that are not zero, in order.
+    template <typename Take> void for_each(Take take) {
+        for (std::size_t i = 0; i < pages_.size(); ++i)
+            for (std::size_t c = 0; pages_[i] && c < page_size; ++c)
+                if (std::uint32_t& number = (*pages_[i])[c]; number != 0)
+                    take(static_cast<char32_t>(i * page_size + c), number);
+    }
+
+private:
+    static constexpr std::size_t page_size = 256;
+    using Page = std::array<std::uint32_t, page_size>;
+    std::vector<std::unique_ptr<Page>> pages_{0x110000 / page_size};
+};
+
 // The rank of every character that occurs. Chinese orders character by character, so a long list
 // needs the collator for its few thousand characters only.
-std::vector<std::uint32_t> character_ranks(const std::vector<std::u32string>& texts) {
-    constexpr std::size_t characters = 0x110000;
-    std::vector<std::uint32_t> ranks(characters, 0);
+CharacterNumbers character_ranks(const std::vector<std::u32string>& texts) {
+    CharacterNumbers ranks;
     for (const std::u32string& text : texts)
-        for (const char32_t character : text) ranks[character] = 1;
+        for (const char32_t character : text) ranks.of(character) = 1;
     std::vector<std::pair<std::string, char32_t>> keys;
-    for (char32_t character = 0; character < characters; ++character)
-        if (ranks[character] != 0) keys.emplace_back(collation_key(character), character);
+    ranks.for_each([&](char32_t character, std::uint32_t) {
+        keys.emplace_back(collation_key(character), character);
+    });
     std::sort(keys.begin(), keys.end());
     std::uint32_t rank = 0;
     for (std::size_t i = 0; i < keys.size(); ++i) {
         if (i == 0 || keys[i].first != keys[i - 1].first) ++rank;
-        ranks[keys[i].second] = rank;
+        ranks.of(keys[i].second) = rank;
     }
     return ranks;
 }
 
 // Three bytes a character, most significant first: keys compare as bytes do.
-std::string sort_key(const std::u32string& text, const std::vector<std::uint32_t>& ranks) {
+std::string sort_key(const std::u32string& text, CharacterNumbers& ranks) {
     std::string key;
     key.reserve(text.size() * 3);
     for (const char32_t character : text) {
-        const std::uint32_t rank = ranks[character];
+        const std::uint32_t rank = ranks.of(character);
         for (const int shift : {16, 8, 0}) key += static_cast<char>((rank >> shift) & 0xFF);
     }
     return key;
@@ -82,7 +107,7 @@ std::vector<std::uint32_t> pinyin_ranks(const std::vector<std::string_view>& tex
         if (added) different.push_back(to_characters(texts[i]));
         number[i] = at->second;
     }
-    const auto characters = character_ranks(different);
+    CharacterNumbers characters = character_ranks(different);
     std::vector<std::string> keys;
     for (std::u32string& text : different) {
         keys.push_back(sort_key(text, characters));
