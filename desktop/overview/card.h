@@ -69,6 +69,7 @@ public:
 protected:
     void paint_body(QPainter& painter, const QRect& body) override;
     QString hint() const override;
+    QString right_hint() const override;
 };
 
 // What is to do, most urgent first; Enter opens it.

@@ -68,17 +68,25 @@ void read_money(Figures& figures, const host::Period& period) {
         });
 }
 
-// Profit and loss accounts are category 5; the vouchers that carry them forward undo them.
+// Profit and loss accounts are category 5; the vouchers that carry them forward undo them, so
+// that they are left out. A month before the period is posted: its balances know the result.
 void read_months(Figures& figures, const host::Period& period) {
+    const auto take = [&](TClientDataSet& row) {
+        figures.months.push_back(
+            {row.FieldByName("PZQJ").AsText(), row.FieldByName("P").AsAmount()});
+    };
+    host::Period first = period;
+    for (int i = 1; i < months_shown; ++i) first = first.previous();
+    for_each_row("SELECT B.QJ AS PZQJ,SUM(B.D-B.SY_J-B.J+B.SY_D) AS P FROM D6602 B INNER JOIN "
+                 "D6801 K ON K.KM_ID=B.KM_ID WHERE K.KM_FL=5 AND K.KM_J=1 AND B.INX=0 AND B.QJ>=" +
+                     host::quoted(first.to_text()) + " AND B.QJ<" + host::quoted(figures.period) +
+                     " AND RIGHT(B.QJ,2)<>'00' GROUP BY B.QJ ORDER BY B.QJ",
+                 take);
     for_each_row("SELECT H.PZQJ,SUM(A.D-A.J) AS P FROM D6601A A INNER JOIN D6601 H ON A.NOID=H.NOID"
                  " INNER JOIN D6801 K ON K.KM_ID=A.KM_ID WHERE K.KM_FL=5 AND H.T_SY=0 AND "
-                 "H.PZQJ>=" +
-                     host::quoted(host::Period::of(period.year(), 1).to_text()) + " AND H.PZQJ<=" +
-                     host::quoted(figures.period) + " GROUP BY H.PZQJ ORDER BY H.PZQJ",
-                 [&](TClientDataSet& row) {
-                     figures.months.push_back({row.FieldByName("PZQJ").AsText(),
-                                               row.FieldByName("P").AsAmount()});
-                 });
+                 "H.PZQJ=" +
+                     host::quoted(figures.period) + " GROUP BY H.PZQJ",
+                 take);
 }
 
 } // namespace

@@ -19,6 +19,8 @@ struct MonthResult {
     host::Amount profit;  // income less expense of the month, before it is carried forward
 };
 
+inline constexpr int months_shown = 12;
+
 // Vouchers count whether posted or not, so the figures are of this moment.
 struct Figures {
     std::string period, first_period;      // "" when the books are not set up
@@ -26,7 +28,7 @@ struct Figures {
     bool carried_forward = false;          // profit and loss went into the result of the year
     std::vector<std::string> gaps;         // voucher words whose numbers are not continuous
     std::vector<MoneyAccount> money;       // leaf accounts of cash and bank
-    std::vector<MonthResult> months;       // of the period's year
+    std::vector<MonthResult> months;       // of the months_shown up to the period
     std::string trouble;                   // why there are no figures; "" when there are
 };
 

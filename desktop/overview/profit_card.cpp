@@ -10,7 +10,7 @@
 namespace desktop {
 namespace {
 
-constexpr int column_width = 36, months = 12;
+constexpr int column_width = 36;
 
 // The next of 1, 2, 2.5, 5 times a power of ten: the height of the plot in whole yuan.
 std::int64_t nice_above(std::int64_t yuan) {
@@ -25,17 +25,37 @@ std::int64_t whole(host::Amount amount) {
     return amount.rounded(0).units() / host::Amount::scale;
 }
 
+// "5月"; the first and every January with its year.
+QString month_label(const std::string& period, bool first) {
+    const int month = qt(period).mid(5).toInt();
+    const QString label = QStringLiteral("%1月").arg(month);
+    return first || month == 1 ? QStringLiteral("%1年").arg(qt(period.substr(0, 4))) + label
+                               : label;
+}
+
 } // namespace
 
-ProfitCard::ProfitCard(QWidget* parent) : Card(QStringLiteral("本年利润"), parent) {}
+ProfitCard::ProfitCard(QWidget* parent) : Card(QStringLiteral("利润"), parent) {}
 
-QString ProfitCard::hint() const { return QStringLiteral("按月，元，含未登帐凭证"); }
+QString ProfitCard::hint() const {
+    return QStringLiteral("近%1个月，元，含未登帐凭证").arg(months_shown);
+}
+
+// The year so far.
+QString ProfitCard::right_hint() const {
+    if (figures().months.empty()) return {};
+    const std::string year = figures().period.substr(0, 4);
+    host::Amount sum;
+    for (const auto& month : figures().months)
+        if (month.period.starts_with(year)) sum += month.profit;
+    return QStringLiteral("%1年累计 %2").arg(qt(year), amount_of(sum));
+}
 
 void ProfitCard::paint_body(QPainter& painter, const QRect& body) {
     if (figures().months.empty()) {
         painter.setFont(fonts::body());
         painter.setPen(token::ink_3);
-        painter.drawText(body, Qt::AlignCenter, QStringLiteral("本年还没有损益凭证"));
+        painter.drawText(body, Qt::AlignCenter, QStringLiteral("还没有损益凭证"));
         return;
     }
     std::int64_t high = 0, low = 0;
@@ -52,11 +72,11 @@ void ProfitCard::paint_body(QPainter& painter, const QRect& body) {
     };
     painter.fillRect(plot.x(), y_of(high), plot.width(), 1, token::rule_1);
     if (low < 0) painter.fillRect(plot.x(), y_of(low), plot.width(), 1, token::rule_1);
-    const int step = plot.width() / months;
+    const int step = plot.width() / months_shown;
+    int place = 0;
     for (const auto& month : figures().months) {
-        const int number = qt(month.period).mid(5).toInt();
         const std::int64_t yuan = whole(month.profit);
-        const int x = plot.x() + (number - 1) * step + (step - column_width) / 2;
+        const int x = plot.x() + place * step + (step - column_width) / 2;
         const int top = std::min(y_of(yuan), y_of(0)), bottom = std::max(y_of(yuan), y_of(0));
         const QRect bar(x, top, column_width, std::max(bottom - top, 1));
         const bool open = month.period == figures().period && !figures().carried_forward;
@@ -76,8 +96,9 @@ void ProfitCard::paint_body(QPainter& painter, const QRect& body) {
                           yuan < 0 ? bottom + 16 : top - 6, text);
         painter.setPen(token::ink_3);
         painter.drawText(QRect(x - 40, body.bottom() - 28, column_width + 80, 20), Qt::AlignCenter,
-                         open ? QStringLiteral("%1月（未结转）").arg(number)
-                              : QStringLiteral("%1月").arg(number));
+                         month_label(month.period, place == 0) +
+                             (open ? QStringLiteral("（未结转）") : QString()));
+        ++place;
     }
     painter.fillRect(plot.x(), y_of(0), plot.width(), 1, token::rule_3);
 }

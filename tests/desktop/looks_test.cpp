@@ -4,6 +4,7 @@
 #include "tests/desktop/desk.h"
 #include "tests/desktop/forms.h"
 
+#include "desktop/overview/figures.h"
 #include "desktop/theme/tokens.h"
 
 namespace tests {
@@ -24,6 +25,19 @@ TEST(Looks, the_overview_shows_the_next_step_of_the_period) {
     const QImage picture = desk.picture();
     EXPECT_GT(pixels_of(picture, desktop::token::indigo_4), 2000); // the step that is next
     EXPECT_GT(pixels_of(picture, desktop::token::cinnabar_1), 200); // the seal, a loss
+}
+
+// The open month is read from its vouchers, posted or not; those before it from their balances.
+TEST(Looks, the_overview_tells_the_results_of_twelve_months_the_open_one_last) {
+    Desk desk;
+    const desktop::Figures figures = desktop::read_figures();
+    ASSERT_EQ(figures.months.size(), 9u);
+    EXPECT_EQ(figures.months.front().period, "2015-10");
+    EXPECT_EQ(figures.months.back().period, "2016-06");
+    const auto& queries = desk.data.queries();
+    EXPECT_TRUE(std::any_of(queries.begin(), queries.end(), [](const std::string& query) {
+        return query.find("B.QJ>='2015-07' AND B.QJ<'2016-06'") != std::string::npos;
+    }));
 }
 
 TEST(Looks, a_voucher_is_drawn_as_its_paper_form) {
