@@ -21,6 +21,9 @@ struct BeforeCommit {
 struct OpenOptions {
     bool create = false;    // make new, empty books; refused when they exist
     bool read_only = false; // nothing may be written
+    // A commit is on the disk before it is answered. False for books that nobody relies on yet:
+    // whoever makes them sees to it when they are complete.
+    bool durable = true;
     // How long a statement waits for another connection that writes before it reports busy.
     std::chrono::milliseconds busy_timeout{10000};
     // Room for pages kept in memory.

@@ -32,6 +32,7 @@ std::unique_ptr<engines::Session> open_database(const std::string& books, Access
     const engines::Engine& engine = engine_for(books);
     engines::OpenOptions options;
     options.read_only = access == Access::ReadOnly;
+    options.durable = access != Access::Unpublished;
     options.create = books == ":memory:";
     options.before_commit = {"SYS_TRANSACTION_END", "SYS_6601_GONE"};
     try {

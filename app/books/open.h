@@ -8,7 +8,9 @@
 
 namespace app {
 
-enum class Access { ReadAndWrite, ReadOnly };
+// Unpublished: read and written without waiting for the disk, as long as the books have no name of
+// their own (pending_file.h makes them durable with it).
+enum class Access { ReadAndWrite, ReadOnly, Unpublished };
 
 // Throws Refusal that names the books: missing, no permission, foreign, damaged, written by a newer
 // program, or a database without the tables of a set of books.

@@ -33,9 +33,11 @@ void fix_clock(engines::Session& session, const std::optional<host::Date>& today
     if (today) session.set_clock(today->days() + days_from_1900_to_1970);
 }
 
-Workplace::Workplace(const std::string& books, const std::optional<host::Date>& today)
-    : settings_(settings_path()), session_(open_books(books)), today_(day_in(*session_, today)),
-      clock_(today_), company_(setting_of(*session_, "company")) {
+Workplace::Workplace(const std::string& books, const std::optional<host::Date>& today,
+                     Access access)
+    : settings_(settings_path()), session_(open_books(books, access)),
+      today_(day_in(*session_, today)), clock_(today_),
+      company_(setting_of(*session_, "company")) {
     fix_clock(*session_, today_);
     host::Host& host = host::the_host();
     host.clock = &clock_;

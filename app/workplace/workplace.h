@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "app/books/open.h"
 #include "app/data/engine_data.h"
 #include "app/login/login.h"
 #include "app/login/rights.h"
@@ -28,7 +29,8 @@ class Workplace {
 public:
     // today fixes what forms and GETDATE() take as today; without it the books' own day counts
     // (setting 'today', of demonstration books), else the real one. Throws Refusal.
-    Workplace(const std::string& books, const std::optional<host::Date>& today);
+    Workplace(const std::string& books, const std::optional<host::Date>& today,
+              Access access = Access::ReadAndWrite);
     ~Workplace();
     Workplace(const Workplace&) = delete;
     Workplace& operator=(const Workplace&) = delete;

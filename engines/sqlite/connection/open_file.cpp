@@ -97,7 +97,8 @@ void set_up(sqlite3* connection, const OpenOptions& options, bool in_memory) {
     if (in_memory || options.read_only) return;
     if (text_of_cell(connection, "PRAGMA journal_mode=WAL") != "wal")
         refuse(ErrorCategory::access, "The disk does not allow a write-ahead log.");
-    run_text(connection, "PRAGMA synchronous=FULL; PRAGMA wal_autocheckpoint=2000");
+    run_text(connection, std::string("PRAGMA synchronous=") + (options.durable ? "FULL" : "OFF") +
+                             "; PRAGMA wal_autocheckpoint=2000");
 }
 
 void mark_as_books(sqlite3* connection) {
