@@ -1,6 +1,7 @@
 // The Qt desktop: the frame window, and behind it every form drawn from its host controls.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -46,6 +47,13 @@ struct DesktopServices {
 //
 //     return desktop::run(argc, argv, {.books = ..., .open_function = ...});
 int run(int argc, char** argv, const DesktopServices& services);
+
+// Work before there is a frame: shows how far it has come as soon as it lasts longer than a moment.
+// `report` answers false when the person asked to stop. What the work throws goes through.
+using ReportProgress =
+    std::function<bool(const std::string& what, std::int64_t done, std::int64_t total)>;
+void work_with_progress(int argc, char** argv,
+                        const std::function<void(const ReportProgress& report)>& work);
 
 // Shows one sentence in a window of its own, for a program that cannot go on; returns 1.
 int show_failure(int argc, char** argv, const std::string& sentence);

@@ -2,13 +2,21 @@
 #pragma once
 
 #include <nlohmann/json.hpp>
+#include <string>
 #include <vector>
 
-#include "app/demo/story.h"
+#include "app/demo/told_months.h"
 
 namespace app {
 
-// Accounts into the chart, vouchers one by one, audit, posting, the rest of the audit.
-std::vector<nlohmann::json> typed(const Story& story);
+// Accounts into the chart, opening balances, trial balance, initial posting.
+std::vector<nlohmann::json> typed_start(const Story& story);
+
+// A month's vouchers one by one with the allocation of their cash, audit, posting; a month that
+// closes also has its profit and loss carried forward and is closed.
+std::vector<nlohmann::json> typed_month(const ToldMonth& month);
+
+// Keeps these vouchers, by their places in the list of the open period, as templates.
+std::vector<nlohmann::json> typed_templates(const std::vector<std::size_t>& places);
 
 } // namespace app

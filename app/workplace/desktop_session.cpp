@@ -41,7 +41,11 @@ bool has_display() {
 std::string demonstration_books() {
     const std::string books = data_folder() + "/demo.zf";
     std::error_code ignored;
-    if (!fs::exists(books, ignored)) create_demo_books(books, "");
+    if (fs::exists(books, ignored)) return books;
+    char* argv[] = {program_name, nullptr};
+    desktop::work_with_progress(1, argv, [&books](const desktop::ReportProgress& report) {
+        create_demo_books(books, "", report);
+    });
     return books;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -12,11 +13,17 @@
 namespace app {
 
 // Both ends of a driver: hands out the requests, reads the answers.
+//
+// A row may be named by what stands in it, {"row": {"KM_ID": "1001"}}: it is looked for in the last
+// answer to "rows".
 class ScriptedPerson : public automation::RequestLines, public automation::AnswerLines {
 public:
-    explicit ScriptedPerson(std::vector<nlohmann::json> requests)
+    // go_on is asked before each request; at its first no the person stops, without trouble.
+    explicit ScriptedPerson(std::vector<nlohmann::json> requests,
+                            std::function<bool()> go_on = [] { return true; })
         : waiting_(std::make_move_iterator(requests.begin()),
-                   std::make_move_iterator(requests.end())) {}
+                   std::make_move_iterator(requests.end())),
+          go_on_(std::move(go_on)) {}
 
     std::optional<std::string> next() override;
     void write(const std::string& line) override;
@@ -27,9 +34,13 @@ public:
     const nlohmann::json& answer_to(const std::string& op) { return answers_[op]; }
 
 private:
+    // The number of the first row that holds these cells; none is trouble.
+    nlohmann::json found_row(const nlohmann::json& cells);
+
     std::deque<nlohmann::json> waiting_;
     nlohmann::json asked_;
     std::map<std::string, nlohmann::json> answers_;
+    std::function<bool()> go_on_;
     std::string trouble_;
 };
 

@@ -9,6 +9,7 @@
 #include "desktop/desktop.h"
 #include "desktop/dialogs/login_dialog.h"
 #include "desktop/dialogs/message_dialog.h"
+#include "desktop/dialogs/progress_dialog.h"
 #include "desktop/frame/desktop_interface.h"
 #include "desktop/frame/main_window.h"
 #include "desktop/frame/snapshot.h"
@@ -71,6 +72,16 @@ int run(int argc, char** argv, const DesktopServices& services) {
     const int status = QApplication::exec();
     keep_size(window);
     return status;
+}
+
+void work_with_progress(int argc, char** argv,
+                        const std::function<void(const ReportProgress& report)>& work) {
+    QApplication application(argc, argv);
+    apply_theme(application);
+    ProgressDialog dialog;
+    work([&dialog](const std::string& what, std::int64_t done, std::int64_t total) {
+        return dialog.report(what, done, total);
+    });
 }
 
 int show_failure(int argc, char** argv, const std::string& sentence) {
