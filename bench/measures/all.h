@@ -11,7 +11,9 @@ namespace bench {
 std::vector<Row> posting(const BigBooks& books);
 std::vector<Row> saving(const BigBooks& books);
 std::vector<Row> trial_balance(const BigBooks& books);
+std::vector<Row> detailed_ledger(const BigBooks& books);
 std::vector<Row> voucher_list(const BigBooks& books);
 std::vector<Row> compilation(const BigBooks& books);
+std::vector<Row> loading(const BigBooks& books);
 
 } // namespace bench
