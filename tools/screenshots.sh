@@ -18,6 +18,7 @@ last=(--key PgDown --key PgDown --key PgDown --key PgDown)
 picture shell
 picture voucher_list --function 661 "${last[@]}"
 picture voucher --function 661 "${last[@]}" --key Enter --key Tab --key Tab --key Tab --key Enter
+picture ledger --function 685 --key F2 --key Tab --key Down --key Down --key Down
 picture trial_balance --function 689 --key Tab --key Up --key F2
 # 255 colours are enough for a picture of flat grounds, and make it a third of the size.
 if command -v convert > /dev/null; then

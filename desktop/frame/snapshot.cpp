@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QTimer>
 
+#include <algorithm>
 #include <memory>
 
 #include "desktop/theme/text.h"
@@ -49,15 +50,31 @@ void press_from(std::shared_ptr<std::vector<std::string>> keys, std::size_t at,
     });
 }
 
+// A dialog stands over the one it was opened from, a popup over all of them.
+int height_of(const QWidget& shown) {
+    int height = shown.windowType() == Qt::Popup || shown.windowType() == Qt::ToolTip ? 1000 : 0;
+    for (const QWidget* below = shown.parentWidget(); below; below = below->parentWidget())
+        ++height;
+    return height;
+}
+
+QWidgetList shown_over(const QWidget& window) {
+    QWidgetList shown;
+    for (QWidget* one : QApplication::topLevelWidgets())
+        if (one != &window && one->isVisible()) shown.push_back(one);
+    std::stable_sort(shown.begin(), shown.end(), [](const QWidget* a, const QWidget* b) {
+        return height_of(*a) < height_of(*b);
+    });
+    return shown;
+}
+
 } // namespace
 
 QImage snapshot(QWidget& window) {
     QImage picture = window.grab().toImage();
     QPainter painter(&picture);
-    for (QWidget* over : QApplication::topLevelWidgets())
-        if (over != &window && over->isVisible())
-            painter.drawPixmap(over->geometry().topLeft() - window.geometry().topLeft(),
-                               over->grab());
+    for (QWidget* over : shown_over(window))
+        painter.drawPixmap(over->geometry().topLeft() - window.geometry().topLeft(), over->grab());
     return picture;
 }
 

@@ -38,6 +38,15 @@ bool begins_group(const TDBGridEh& grid, int row) {
     return differs_from_the_row_above(*grid.DataSet, field, row);
 }
 
+std::vector<int> group_starts(const TDBGridEh& grid) {
+    std::vector<int> starts;
+    const int field = group_field(grid);
+    if (field < 0) return starts;
+    for (int row = 0; row < grid.DataSet->RecordCount(); ++row)
+        if (differs_from_the_row_above(*grid.DataSet, field, row)) starts.push_back(row);
+    return starts;
+}
+
 int neighbour_group(const TDBGridEh& grid, int row, bool backward) {
     const int field = group_field(grid);
     if (field < 0 || grid.DataSet->IsEmpty()) return -1;

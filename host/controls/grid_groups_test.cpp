@@ -32,6 +32,7 @@ TEST_F(GridGroups, neighbours_with_the_same_value_belong_together) {
     const bool begins[] = {true, false, true, true, false, false};
     for (int row = 0; row < 6; ++row) EXPECT_EQ(begins_group(grid, row), begins[row]) << row;
     EXPECT_FALSE(begins_group(grid, 6));
+    EXPECT_EQ(group_starts(grid), (std::vector<int>{0, 2, 3}));
 }
 
 TEST_F(GridGroups, the_next_group_begins_with_its_first_row_and_after_the_last_comes_the_first) {
@@ -49,6 +50,7 @@ TEST_F(GridGroups, rows_without_a_grouping_column_have_no_groups) {
     grid.Columns[0].Tag = 0;
     EXPECT_EQ(group_column(grid), -1);
     EXPECT_FALSE(begins_group(grid, 0));
+    EXPECT_TRUE(group_starts(grid).empty());
     EXPECT_EQ(neighbour_group(grid, 0, false), -1);
 }
 

@@ -25,10 +25,8 @@ DetailedLedger::DetailedLedger(TForm* parent, const DetailedLedgerKind& kind)
     AddAmountColumn("D", "贷方金额");
     add_own_column(kind.before_balance);
     AddAmountColumn("E", "余额");
-    GridColumn& account = AddColumn("KM_ID", "科目");
-    account.Visible = false;
-    account.Tag = group_tag;
-    AddColumn("KM_NAME", "会计科目").Visible = false;
+    add_group_column("KM_ID", "科目");
+    add_group_column("KM_NAME", "会计科目");
     AdoQry_Main.DefineField("BDATE", FieldType::DateTime).DisplayFormat = "yyyy-mm-dd";
     AdoQry_Main.DefineField("inx", FieldType::Integer); // -1 on openings and totals
     AdoQry_Main.DefineField("NOID", FieldType::Text);   // key of the line's voucher
@@ -37,6 +35,12 @@ DetailedLedger::DetailedLedger(TForm* parent, const DetailedLedgerKind& kind)
 void DetailedLedger::add_own_column(const LedgerColumn& column) {
     if (column.field == nullptr) return;
     AddColumn(column.field, column.title, column.width).Align = column.align;
+}
+
+void DetailedLedger::add_group_column(const char* field, const char* title) {
+    GridColumn& column = AddColumn(field, title);
+    column.Visible = false;
+    column.Tag = group_tag;
 }
 
 // ---- lines ----

@@ -29,6 +29,7 @@ protected:
 
 private:
     void add_own_column(const LedgerColumn& column);
+    void add_group_column(const char* field, const char* title); // named beside the grid
 };
 
 } // namespace module

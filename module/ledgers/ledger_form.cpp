@@ -46,9 +46,9 @@ LedgerForm::LedgerForm(TForm* parent, const LedgerKind& kind) : TFrm_Base_Qry(pa
     VoucherLabel.FontColor = blue;
     VoucherLabel.OnClick = [this] { DBGridEhDblClick(); };
     OpenerLabel.FontColor = blue;
-    OpenerLabel.Visible = parent != nullptr && parent->Shown();
+    OpenerLabel.Visible = OpenerArrow.Visible = parent != nullptr && parent->Shown();
     if (OpenerLabel.Visible) {
-        OpenerLabel.Caption = parent->Caption.get() + "  ›";
+        OpenerLabel.Caption = parent->Caption.get();
         OpenerLabel.OnClick = [parent] { parent->Activate(); };
     }
     build_group_grid();
@@ -78,8 +78,8 @@ void LedgerForm::arrange(bool with_groups) {
     layout = Rows({ToolBar({&Act_Locate, &Act_Refresh, nullptr, &Act_Group, &Act_Open, nullptr,
                             &Act_Print, &Act_Preview, &Act_Export, nullptr, &Act_Quit}),
                    Columns({Control(ConditionLabel), Spring(), Control(ScopeLabel)}),
-                   Columns({Control(OpenerLabel), Control(AccountLabel), Control(VoucherLabel),
-                            Spring()}),
+                   Columns({Control(OpenerLabel), Control(OpenerArrow), Control(AccountLabel),
+                            Control(VoucherArrow), Control(VoucherLabel), Spring()}),
                    with_groups ? Splitter(Rest(GroupGrid), rows, 29, true) : rows,
                    StatusLine({Control(TipLabel)})});
 }
@@ -98,24 +98,21 @@ void LedgerForm::GetData() {
     row_chosen();
 }
 
+// An account's balance is the one its last row ends with.
 void LedgerForm::list_groups() {
     following_ = true;
-    group_rows_.clear();
+    group_rows_ = group_starts(DBGridEh);
     Groups.DisableControls();
     Groups.EmptyDataSet();
-    const TField* balance = AdoQry_Main.FindField("E");
-    const int count = AdoQry_Main.RecordCount();
-    for (int row = 0; row < count; ++row) {
-        if (begins_group(DBGridEh, row)) {
-            group_rows_.push_back(row);
-            Groups.Append();
-            Groups.FieldByName("KM_ID").SetValue(text_of(AdoQry_Main, "KM_ID", row));
-            const std::string name = text_of(AdoQry_Main, "KM_NAME", row);
-            Groups.FieldByName("KM_NAME").SetValue(own_name(name));
-        }
-        const bool last = row + 1 == count || begins_group(DBGridEh, row + 1);
-        if (!last || balance == nullptr) continue;
-        Groups.FieldByName("E").SetValue(AdoQry_Main.value_at(row, balance->index()));
+    for (std::size_t group = 0; group < group_rows_.size(); ++group) {
+        const int first = group_rows_[group];
+        const bool last = group + 1 == group_rows_.size();
+        const int next = last ? AdoQry_Main.RecordCount() : group_rows_[group + 1];
+        Groups.Append();
+        Groups.FieldByName("KM_ID").SetValue(text_of(AdoQry_Main, "KM_ID", first));
+        Groups.FieldByName("KM_NAME").SetValue(own_name(text_of(AdoQry_Main, "KM_NAME", first)));
+        Groups.FieldByName("E").SetValue(
+            AdoQry_Main.value_at(next - 1, AdoQry_Main.FieldByName("E").index()));
         Groups.Post();
     }
     Groups.MarkSaved();
@@ -143,7 +140,8 @@ void LedgerForm::row_chosen() {
                                      text_of(AdoQry_Main, "KM_NAME", row)
                                : "";
     const std::string voucher = any ? voucher_of_row() : "";
-    VoucherLabel.Caption = voucher.empty() ? "" : "›  凭证 " + voucher;
+    VoucherLabel.Caption = voucher.empty() ? "" : "凭证 " + voucher;
+    VoucherArrow.Visible = VoucherLabel.Visible = !voucher.empty();
     if (following_ || !any || group_rows_.empty()) return;
     following_ = true;
     const auto after = std::upper_bound(group_rows_.begin(), group_rows_.end(), row);

@@ -22,7 +22,9 @@ public:
     TAction Act_Open{this, "Act_Open", "", "Enter", "file-text"};
     TLabel ScopeLabel{this, "ScopeLabel"};     // what the list leaves out
     TLabel OpenerLabel{this, "OpenerLabel"};   // the book this was opened from; a click goes back
+    TLabel OpenerArrow{this, "OpenerArrow", "›"};
     TLabel AccountLabel{this, "AccountLabel"}; // account of the current row
+    TLabel VoucherArrow{this, "VoucherArrow", "›"};
     TLabel VoucherLabel{this, "VoucherLabel"}; // its voucher; a click opens it
     TClientDataSet Groups;                     // the accounts listed, with their last balance
     TDBGridEh GroupGrid{this, "GroupGrid", &Groups};

@@ -1,6 +1,7 @@
 // Keys hit at random in the real forms: every request is answered, whatever state a form is in.
 #include <gtest/gtest.h>
 
+#include "tests/forms/ledgers/ledger_answers.h"
 #include "tests/forms/small_books.h"
 #include "tests/support/person.h"
 #include "tests/support/random_requests.h"
@@ -10,12 +11,15 @@ namespace tests {
 using nlohmann::json;
 
 TEST(RandomRequests, the_real_forms_answer_each_of_them) {
-    for (const std::uint32_t seed : {661U, 662U, 667U, 681U, 689U, 699U}) {
+    for (const std::uint32_t seed : {661U, 662U, 667U, 681U, 685U, 689U, 699U}) {
         FakeData data;
         answer_as_small_books(data);
+        answer_detailed_ledger(data);
+        answer_general_ledger(data);
+        answer_cash_accounts(data);
         Person anna(data);
         RandomRequests requests(seed, {661, 662, 663, 667, 668, 671, 672, 673, 681, 682, 683,
-                                       689, 691, 699, 640});
+                                       684, 685, 686, 689, 690, 691, 699, 640});
         for (int round = 0; round < 300; ++round) {
             const json request = requests.next(anna);
             const json answer = anna.request(request);

@@ -1,7 +1,10 @@
 // Writing a grid as comma-separated values.
 #include "host/forms/parts/grid_export.h"
 
+#include <vector>
+
 #include "host/controls/grid.h"
+#include "host/controls/grid_groups.h"
 #include "host/forms/parts/text_file.h"
 #include "host/values/text.h"
 
@@ -20,12 +23,27 @@ std::string cell(const TDBGridEh& grid, int row, int column) {
                      replaced(field->DisplayFormat, "#,##", ""));
 }
 
-template <class Text> void add_line(std::string& lines, const TDBGridEh& grid, Text text) {
-    bool first = true;
+// The visible columns. What parts a grid into groups without a column in sight stands before them:
+// in a file nothing else says which account a line belongs to.
+std::vector<int> columns_of(const TDBGridEh& grid) {
+    std::vector<int> hidden_groups, visible;
     for (int i = 0; i < static_cast<int>(grid.Columns.size()); ++i) {
-        if (!grid.Columns[static_cast<std::size_t>(i)].Visible) continue;
+        const GridColumn& column = grid.Columns[static_cast<std::size_t>(i)];
+        if (column.Visible)
+            visible.push_back(i);
+        else if (column.Tag == group_tag)
+            hidden_groups.push_back(i);
+    }
+    hidden_groups.insert(hidden_groups.end(), visible.begin(), visible.end());
+    return hidden_groups;
+}
+
+template <class Text>
+void add_line(std::string& lines, const std::vector<int>& columns, Text text) {
+    bool first = true;
+    for (const int column : columns) {
         if (!first) lines += ',';
-        lines += csv_field(text(i));
+        lines += csv_field(text(column));
         first = false;
     }
     lines += "\r\n";
@@ -35,16 +53,17 @@ template <class Text> void add_line(std::string& lines, const TDBGridEh& grid, T
 
 std::string grid_as_csv(const TDBGridEh& grid) {
     std::string lines = "\xEF\xBB\xBF";
-    add_line(lines, grid, [&](int i) {
+    const std::vector<int> columns = columns_of(grid);
+    add_line(lines, columns, [&](int i) {
         return replaced(grid.Columns[static_cast<std::size_t>(i)].Title, "|", " ");
     });
     for (int row = 0; row < grid.DataSet->RecordCount(); ++row)
-        add_line(lines, grid, [&](int i) { return cell(grid, row, i); });
+        add_line(lines, columns, [&](int i) { return cell(grid, row, i); });
     bool footers = false;
     for (const GridColumn& column : grid.Columns)
         footers = footers || (column.Visible && column.Footer != FooterKind::None);
     if (footers && grid.AutoFooter)
-        add_line(lines, grid, [&](int i) { return replaced(grid.footer_text(i), ",", ""); });
+        add_line(lines, columns, [&](int i) { return replaced(grid.footer_text(i), ",", ""); });
     return lines;
 }
 

@@ -1,5 +1,6 @@
 // What base forms share: date ranges, locks, audits, deletes, search, export, columns.
 #include "host/controls/grid.h"
+#include "host/controls/grid_groups.h"
 #include "host/forms/Base_Entry_Head.h"
 #include "host/forms/parts/date_ranges.h"
 #include "host/forms/parts/delete_guard.h"
@@ -200,6 +201,19 @@ TEST_F(Parts, a_grid_is_exported_with_titles_plain_numbers_and_footers) {
               "\"1002,\"\"基本户\"\"\",1234567.50\r\n"
               "1001,-0.50\r\n"
               ",1234567.00\r\n");
+}
+
+TEST_F(Parts, an_export_says_of_each_line_to_which_group_it_belongs) {
+    TSheet form;
+    form.add("1002", "1");
+    add_sum_footers(form.Grid, "J");
+    form.Grid.Columns.push_back(form.Grid.Columns.front());
+    form.Grid.Columns.back().Title = "科目";
+    form.Grid.Columns.back().Tag = group_tag;
+    form.Grid.Columns.back().Visible = false;
+    form.Grid.AutoFooter = false;
+    EXPECT_EQ(grid_as_csv(form.Grid), "\xEF\xBB\xBF科目,期末 KM_ID,期末 J\r\n"
+                                      "1002,1002,1.00\r\n");
 }
 
 TEST_F(Parts, an_export_that_cannot_be_written_is_said) {

@@ -216,7 +216,7 @@ TEST_F(DetailedLedger, the_accounts_listed_beside_lead_to_their_rows) {
     anna.row(1, "GroupGrid");
     EXPECT_EQ(current_row(), 5);
     anna.row(2);
-    EXPECT_EQ(anna.value("VoucherLabel"), "›  凭证 记-8");
+    EXPECT_EQ(anna.value("VoucherLabel"), "凭证 记-8");
 }
 
 TEST_F(DetailedLedger, a_click_on_a_title_leaves_the_rows_in_their_order) {
