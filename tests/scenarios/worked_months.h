@@ -51,6 +51,10 @@ private:
     void compare_statement(const std::string& period, const char* name, const json& expected);
     void compare_reclassified(const std::string& period, const json& expected);
     void compare_ledgers(const std::string& period, const json& expected);
+    void compare_journal(const std::string& period, const std::string& account,
+                         const Rows& ledger);
+    void compare_general_ledger(const std::string& period, const json& expected);
+    std::string other_side(const std::string& period, const Row& line) const;
     void expect_sound(const std::string& when);
 
     const json& file_;

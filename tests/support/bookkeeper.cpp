@@ -366,34 +366,6 @@ Rows Bookkeeper::taken(Rows shown) {
     return shown;
 }
 
-Rows Bookkeeper::account_summary(const std::string& first_day, const std::string& last_day,
-                                 std::string* conditions) {
-    open(684);
-    expect_active("TF6684F");
-    set("BDATE", first_day);
-    set("EDATE", last_day);
-    click("btn_ok");
-    expect_active("TF6684");
-    if (conditions != nullptr) {
-        *conditions = ask({{"op", "get"}, {"control", "ConditionLabel"}}).value("value", "");
-    }
-    return taken(rows());
-}
-
-Rows Bookkeeper::detailed_ledger(const std::string& account, const std::string& period) {
-    const std::string month = std::to_string(std::stoi(period.substr(5)));
-    open(685);
-    expect_active("TF6685F");
-    set("EDT1", period.substr(0, 4));
-    set("EDT2", month);
-    set("EDT3", month);
-    set("KM1", account);
-    set("KM2", account);
-    click("btn_ok");
-    expect_active("TF6685");
-    return taken(rows());
-}
-
 Rows Bookkeeper::statement(int code, const std::string& layout, const std::string& period) {
     open(code);
     if (!layout.empty()) set("CB1", layout);

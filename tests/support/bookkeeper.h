@@ -90,7 +90,10 @@ public:
     // 684: movements of the top-level accounts; `conditions` takes what is shown above the list.
     Rows account_summary(const std::string& first_day, const std::string& last_day,
                          std::string* conditions = nullptr);
-    Rows detailed_ledger(const std::string& account, const std::string& period); // 685
+    // 685 and 690: posted vouchers only; 686: every account, down to the last level.
+    Rows detailed_ledger(const std::string& account, const std::string& period);
+    Rows general_ledger(const std::string& period);
+    Rows journal(const std::string& account, const std::string& period);
     // 671 to 673, recalculated; `layout` is 样式1 to 样式3, "" where there is one only.
     Rows statement(int code, const std::string& layout, const std::string& period);
 
@@ -99,6 +102,8 @@ private:
     json ask(const json& request);
     void ask_saying_yes(const json& request);
     void open(int code);
+    void ask_for_period(int code, const std::string& period); // in the conditions of 685, 686, 690
+    Rows read_and_leave(int code);                            // what the conditions give
     void click(const std::string& control);
     void set(const std::string& control, const json& value);
     void cell(int row, const std::string& field, const std::string& value,
