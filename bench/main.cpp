@@ -18,7 +18,7 @@ constexpr Measure measures[] = {
     {"compilation", bench::compilation, false}, {"posting", bench::posting},
     {"saving", bench::saving},                  {"trial_balance", bench::trial_balance},
     {"voucher_list", bench::voucher_list},      {"detailed_ledger", bench::detailed_ledger},
-    {"loading", bench::loading, false},
+    {"statement", bench::statement},            {"loading", bench::loading, false},
 };
 
 // Without a name every measure is wanted.

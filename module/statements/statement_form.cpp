@@ -73,13 +73,13 @@ void StatementForm::add_columns() {
         amount.ReadOnly = true;
         if (one.content == StatementContent::Item) {
             amount.Width = !halves ? 52 : DBGridEh.Columns.empty() ? -1 : 30;
-            formula.Width = halves ? 20 : 34;
+            formula.Width = halves ? 18 : 34;
         }
         if (one.content == StatementContent::Amount) {
             amount.Width = halves ? 17 : 22;
             amount.Align = Alignment::Right;
             amount.Tag = amount_tag;
-            formula.Width = halves ? 28 : -1;
+            formula.Width = halves ? 23 : -1;
         }
         DBGridEh.Columns.push_back(std::move(amount));
         DBGridEh1.Columns.push_back(std::move(formula));
