@@ -79,7 +79,7 @@ void StatementForm::add_columns() {
             amount.Width = halves ? 17 : 22;
             amount.Align = Alignment::Right;
             amount.Tag = amount_tag;
-            formula.Width = halves ? 23 : -1;
+            formula.Width = halves ? 25 : -1;
         }
         DBGridEh.Columns.push_back(std::move(amount));
         DBGridEh1.Columns.push_back(std::move(formula));
@@ -115,7 +115,10 @@ void StatementForm::InitForm(const Trecord& record) {
     Act_Other.Visible = Act_Save.Visible;
     Act_Other.Enabled = Act_Save.Enabled;
     DBGridEh.SetFocus();
-    if (!kind_.opens_at_current_period) return;
+    if (!kind_.opens_at_current_period) {
+        CurrentPeriod.Caption = "请录入要看的期间,再重算";
+        return;
+    }
     Edit1.Text = read_current_period();
     if (trimmed(Edit1.Text.get()).empty()) LA4.Caption = "读取会计期间错误!请确认是否进行初始建帐!";
 }

@@ -17,7 +17,7 @@ public:
     TRadioButton rb2{this, "rb2", "显示公式"}; // formulas
     std::unique_ptr<TComboBox> CB1;            // layout, where the statement has several
     TEdit Edit1{this, "Edit1", "期间:"};       // period to reckon for, as typed
-    TLabel CurrentPeriod{this, "CurrentPeriod"};
+    TLabel CurrentPeriod{this, "CurrentPeriod"}; // of the books, or what to do
     TLabel CellName{this, "CellName"};                    // "D5" of the selected amount
     TLabel LA4{this, "LA4", "-"};                         // its formula
     TLabel CellItem{this, "CellItem"};                    // what it is: item and column

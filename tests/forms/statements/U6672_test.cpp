@@ -23,6 +23,10 @@ TEST_F(CashFlow, opens_at_2016_06_whatever_the_current_period_is) {
     EXPECT_EQ(anna.sent_texts(), std::vector<std::string>{"SELECT * FROM D6831 "});
     EXPECT_EQ(anna.value("Edit1"), "2016-06");
     EXPECT_EQ(anna.value("LA4"), "-");
+    EXPECT_EQ(anna.value("CurrentPeriod"), "请录入要看的期间,再重算");
+    anna.click("Act_Other");
+    EXPECT_EQ(anna.value("Edit1"), "2016-06");
+    EXPECT_EQ(anna.value("CurrentPeriod"), "当前会计期间 2024-03");
 }
 
 TEST_F(CashFlow, has_one_layout) {
