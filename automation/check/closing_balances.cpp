@@ -1,4 +1,5 @@
 // Every closing balance is the one before plus the movement, and the books balance as a whole.
+#include <iterator>
 #include <set>
 
 #include "automation/check/findings.h"
@@ -64,12 +65,31 @@ void check_period(const Ledger& ledger, const std::string& period, Findings& fin
     if (top != 0) findings.add(period + ": 一级科目余额借贷相差 " + money(top));
 }
 
+// A month that was closed without being posted has no balances, and the month after it begins with
+// nothing.
+void check_month_before(const Ledger& ledger, const std::string& period, Findings& findings) {
+    const std::string before = previous_period(period);
+    const auto next = ledger.closings.lower_bound({before, ""});
+    if (next != ledger.closings.end() && next->first.first == before) return;
+    if (next == ledger.closings.begin()) return; // the books begin here
+    const std::string last = std::prev(next)->first.first;
+    for (auto row = ledger.closings.lower_bound({last, ""}); row != next; ++row) {
+        if (row->second == Movement{}) continue;
+        findings.add(period + ": 之前的 " + before + " 没有登帐," + last +
+                     " 的余额没有转过来;请反结到 " + before + ",逐月登帐");
+        return;
+    }
+}
+
 } // namespace
 
 void check_closing_balances(engines::Session& session, Findings& findings) {
     const Ledger ledger = read_ledger(session);
     for (const std::string& period : periods_of(ledger))
-        if (!not_posted_yet(ledger, period)) check_period(ledger, period, findings);
+        if (!not_posted_yet(ledger, period)) {
+            check_month_before(ledger, period, findings);
+            check_period(ledger, period, findings);
+        }
 }
 
 } // namespace automation

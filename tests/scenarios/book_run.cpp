@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "app/books/open.h"
+#include "automation/check/check.h"
 #include "tests/scenarios/book_comparison.h"
 #include "tests/support/bookkeeper.h"
 
@@ -74,6 +76,12 @@ public:
             verdict.vouchers = typed_;
             verdict.figures += compare_books(books_, ledger_);
         }
+        if (!ledger_.balances_run_on()) return;
+        const auto session = app::open_books(books_.file().string(), app::Access::ReadOnly);
+        for (const automation::Finding& finding : automation::check_books(*session)) {
+            throw Difference("the audit finds " + finding.check + ": " + finding.text);
+        }
+        verdict.audited = true;
     }
 
 private:

@@ -272,6 +272,16 @@ void NaiveLedger::unpost() {
     overtake_later_periods();
 }
 
+bool NaiveLedger::balances_run_on() const {
+    if (current_.empty() || opened_at_ == first_ || !overtaken_.empty()) return false;
+    std::string end = current_;
+    if (!posted_.empty() && *posted_.rbegin() >= end) end = month_after(*posted_.rbegin());
+    for (std::string month = first_; month < end; month = month_after(month)) {
+        if (!posted_.contains(month)) return false;
+    }
+    return true;
+}
+
 Cents NaiveLedger::closing(const std::string& code) const {
     const auto row = balances_.find({current_, code, 1});
     if (row == balances_.end()) return 0;

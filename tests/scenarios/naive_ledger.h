@@ -89,6 +89,8 @@ public:
     bool carry_forward();
 
     const NaiveBalances& balances() const { return balances_; }
+    // Every month from the first to the last was posted after the one before it.
+    bool balances_run_on() const;
 
 private:
     bool below(const std::string& code, const std::string& above) const; // or the same

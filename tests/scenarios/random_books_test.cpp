@@ -16,7 +16,7 @@ int number_from(const char* name, int otherwise) {
     return text == nullptr ? otherwise : std::atoi(text);
 }
 
-constexpr int usual_books = 40;
+constexpr int usual_books = 25;
 constexpr int times_to_shrink = 300;
 
 } // namespace
@@ -26,12 +26,14 @@ TEST(RandomBooks, hold_in_every_period_and_account_what_plain_addition_gives) {
     const auto first = static_cast<std::uint32_t>(number_from("ZF_RANDOM_SEED", 1));
     const auto count = static_cast<std::uint32_t>(number_from("ZF_RANDOM_BOOKS", usual_books));
     BookVerdict sum;
+    std::size_t audited = 0;
     for (std::uint32_t seed = first; seed < first + count; ++seed) {
         const BookPlan plan = plan_books(seed);
         const BookVerdict verdict = keep_books(plan);
         sum.steps += verdict.steps;
         sum.vouchers += verdict.vouchers;
         sum.figures += verdict.figures;
+        if (verdict.audited) ++audited;
         if (verdict.difference.empty()) continue;
         const BookPlan shortest = shrink(plan, times_to_shrink, [](const BookPlan& shorter) {
             return !keep_books(shorter).difference.empty();
@@ -42,7 +44,7 @@ TEST(RandomBooks, hold_in_every_period_and_account_what_plain_addition_gives) {
     }
     std::cout << "seeds " << first << " to " << first + count - 1 << ": " << sum.steps
               << " steps, " << sum.vouchers << " vouchers typed, " << sum.figures
-              << " amounts compared\n";
+              << " amounts compared, " << audited << " books audited\n";
     EXPECT_GT(sum.figures, 0U);
 }
 

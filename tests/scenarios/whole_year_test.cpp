@@ -2,7 +2,8 @@
 // once more: the same balances in every period.
 #include <gtest/gtest.h>
 
-#include "tests/scenarios/naive_ledger.h"
+#include "app/books/open.h"
+#include "automation/check/check.h"
 #include "tests/support/bookkeeper.h"
 #include "tests/support/books.h"
 
@@ -101,6 +102,13 @@ protected:
         return books.value("SELECT " + side + " FROM D6602 WHERE INX=1 AND QJ='" + period +
                            "' AND KM_ID='" + account + "'");
     }
+    // What the audit of the books finds, in one text.
+    std::string findings() {
+        const auto session = app::open_books(books.file().string(), app::Access::ReadOnly);
+        std::string all;
+        for (const automation::Finding& one : automation::check_books(*session)) all += one.text;
+        return all;
+    }
     std::string current() { return books.value("SELECT PARAM FROM D6600 WHERE ID=2"); }
 
     Books books;
@@ -179,6 +187,24 @@ TEST_F(WholeYear, reopened_to_before_the_set_up_and_set_up_again_it_begins_anew)
     EXPECT_EQ(books.value("SELECT COUNT(*) FROM D6601A"), "0");
     keep_the_year();
     EXPECT_EQ(balances(books), before);
+}
+
+// Closing asks for no posting where there is no voucher, but balances travel by posting alone.
+TEST_F(WholeYear, a_month_closed_without_posting_is_found_and_mended_by_posting_in_turn) {
+    open_the_books();
+    keep(1);
+    EXPECT_EQ(anna.close_period(), Told{"结帐完成!"}); // February, never posted
+    keep(3);
+    EXPECT_EQ(closing("2024-03", "3101", "D"), "0.00");
+    EXPECT_EQ(findings(), "2024-03: 之前的 2024-02 没有登帐,2024-01 的余额没有转过来;"
+                          "请反结到 2024-02,逐月登帐");
+    for (int month = 3; month >= 2; --month) EXPECT_EQ(anna.reopen_period(), Told{"反结帐完成!"});
+    for (int month = 2; month <= 3; ++month) {
+        EXPECT_EQ(anna.post(), Told{"登帐完成!"});
+        EXPECT_EQ(anna.close_period(), Told{"结帐完成!"});
+    }
+    EXPECT_EQ(closing("2024-03", "3101", "D"), "1500.00");
+    EXPECT_EQ(findings(), "");
 }
 
 // Opened in July with the half year's figures, the year's sums are those of the whole year.
