@@ -1,6 +1,7 @@
 // One connection to a set of books: T-SQL batches, transactions, clock, interruption, backup.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -44,6 +45,11 @@ public:
 
     // Ends the statement that runs, from any thread; the batch reports ErrorCategory::interrupted.
     virtual void interrupt() = 0;
+    // Hears how far a batch has come: statements of it that are done, and all of them. Called from
+    // inside the batch whenever `every` has passed; may not use the session. false ends the batch
+    // as interrupt() does. An empty function ends the listening.
+    using BatchProgress = std::function<bool(std::int64_t done, std::int64_t all)>;
+    virtual void set_progress(BatchProgress listener, std::chrono::milliseconds every) = 0;
     // Fixes GETDATE() to this day (days since 1900-01-01) with the time of the real clock; nullopt
     // gives the real clock back.
     virtual void set_clock(std::optional<std::int64_t> day) = 0;

@@ -68,7 +68,8 @@ std::string own_rows(const NewBooks& wanted) {
         return "INSERT INTO SYS_SETTING (NAME, VALUE) VALUES (" + host::quoted(name) + "," +
                host::quoted(value) + ");";
     };
-    return "INSERT INTO D6600 (ID, PARAM) VALUES (1,''),(2,''),(3,'" +
+    return "INSERT INTO SYS_LOG_HEAD (LAST_ID, HASH, FIRST_TEXT) VALUES (0,'',1);"
+           "INSERT INTO D6600 (ID, PARAM) VALUES (1,''),(2,''),(3,'" +
            std::to_string(wanted.scheme) + "');" + keep_words_of(wanted.scheme) +
            "INSERT INTO SYS_USER (USER_ID, USER_NAME, PASSWORD_HASH, ADMINISTRATOR) VALUES "
            "('admin','管理员'," +

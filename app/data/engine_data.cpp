@@ -31,13 +31,16 @@ public:
         for (std::size_t i = 0; i < values.size(); ++i)
             cells_[i] = view_of(values[i], storage_[i]);
         receiver_.row(cells_);
+        ++rows_;
         return true;
     }
+    const std::int64_t& rows() const { return rows_; }
 
 private:
     host::RowReceiver& receiver_;
     std::vector<host::CellView> cells_;
     std::vector<std::string> storage_;
+    std::int64_t rows_ = 0;
     bool seen_ = false;
     bool wanted_ = false;
 };
@@ -74,18 +77,69 @@ private:
 
 } // namespace
 
+// ---- long work is told, and can be stopped ----
+
+// Listens to the session while one piece of work runs.
+class EngineData::Listening {
+public:
+    // rows: counted by a query, null for a write.
+    Listening(EngineData& data, const std::int64_t* rows) : data_(data), rows_(rows) {
+        if (!data_.progress_) return;
+        data_.session_.set_progress(
+            [this](std::int64_t done, std::int64_t all) { return tell(done, all); },
+            data_.every_);
+    }
+    ~Listening() {
+        if (data_.progress_) data_.session_.set_progress({}, data_.every_);
+        if (told_) data_.progress_(1, 1);
+    }
+    Listening(const Listening&) = delete;
+    Listening& operator=(const Listening&) = delete;
+
+private:
+    bool tell(std::int64_t done, std::int64_t all) {
+        told_ = true;
+        data_.reporting_ = true;
+        const bool go_on = rows_ ? data_.progress_(*rows_, 0) : data_.progress_(done, all);
+        data_.reporting_ = false;
+        return go_on;
+    }
+    EngineData& data_;
+    const std::int64_t* rows_;
+    bool told_ = false;
+};
+
 EngineData::EngineData(engines::Session& session, const host::Clock& clock, std::string user)
     : session_(session), clock_(clock), user_(std::move(user)) {}
 
+void EngineData::report_progress(Progress progress, std::chrono::milliseconds every) {
+    progress_ = std::move(progress);
+    every_ = every;
+}
+
+// The session is in the middle of a statement then.
+void EngineData::refuse_within_report() const {
+    if (reporting_) throw host::DataError("上一个操作还没有完成,请稍候再试!", "asked while working");
+}
+
 void EngineData::query(std::string_view sql, host::RowReceiver& receiver) {
+    refuse_within_report();
     FirstSet first(receiver);
-    require(session_.execute(sql, first));
+    const Listening listening(*this, &first.rows());
+    const engines::Outcome outcome = session_.execute(sql, first);
+    if (!outcome.ok() && outcome.error->category == engines::ErrorCategory::interrupted)
+        throw host::DataError("查询已取消,显示的内容没有更新!", outcome.error->text);
+    require(outcome);
 }
 
 void EngineData::execute(std::string_view batch, const host::LogEntry& entry) {
+    refuse_within_report();
     Transaction transaction(session_);
     engines::ResultReceiver nobody;
-    require(session_.execute_atomically(batch, nobody));
+    {
+        const Listening listening(*this, nullptr);
+        require(session_.execute_atomically(batch, nobody));
+    }
     require(append_log_row(session_, clock_.now(), user_, entry, batch));
     transaction.commit();
 }

@@ -1,6 +1,8 @@
 // The host's door to the database, with an engine behind it.
 #pragma once
 
+#include <chrono>
+#include <functional>
 #include <string>
 
 #include "engines/session.h"
@@ -21,13 +23,26 @@ public:
     // session and clock must outlive this object.
     EngineData(engines::Session& session, const host::Clock& clock, std::string user);
 
+    // Hears of long work: a write tells its statements done and in all, a query the rows read, of
+    // 0. The last call of a piece of work has done == total, whatever became of it. false stops
+    // the work: a write is undone as a whole, a query leaves its dataset as it was. Nothing is
+    // told of work shorter than `every`.
+    using Progress = std::function<bool(std::int64_t done, std::int64_t total)>;
+    void report_progress(Progress progress, std::chrono::milliseconds every);
+
+    // Both throw DataError also when called from inside a progress report.
     void query(std::string_view sql, host::RowReceiver& receiver) override;
     void execute(std::string_view batch, const host::LogEntry& entry) override;
 
 private:
+    class Listening;
+    void refuse_within_report() const;
     engines::Session& session_;
     const host::Clock& clock_;
     std::string user_;
+    Progress progress_;
+    std::chrono::milliseconds every_{100};
+    bool reporting_ = false;
 };
 
 } // namespace app

@@ -105,6 +105,90 @@ TEST_F(Data, a_key_longer_than_the_log_takes_is_cut_and_still_chained) {
     EXPECT_TRUE(automation::check_books(*session_).empty());
 }
 
+TEST_F(Data, the_log_keeps_what_was_sent_without_password_hashes) {
+    const std::string batch = "UPDATE SYS_USER SET USER_NAME='王''五',"
+                              "PASSWORD_HASH='$argon2id$v=19$abc' WHERE USER_ID='none'";
+    data_.execute(batch, {"users", "none", "Edit"});
+    EXPECT_EQ(value("SELECT TOP 1 BATCH FROM SYS_LOG_TEXT ORDER BY ID DESC"),
+              "UPDATE SYS_USER SET USER_NAME='王''五',PASSWORD_HASH='***' WHERE USER_ID='none'");
+    EXPECT_TRUE(automation::check_books(*session_).empty());
+}
+
+TEST_F(Data, the_log_keeps_a_batch_longer_than_any_page) {
+    std::string batch;
+    for (int i = 0; i < 2000; ++i) batch += "DELETE FROM D6803 WHERE ZY='没有这个摘要 ';";
+    data_.execute(batch, {"683", "", "Delete"});
+    EXPECT_EQ(value("SELECT TOP 1 BATCH FROM SYS_LOG_TEXT ORDER BY ID DESC"), batch);
+    EXPECT_TRUE(automation::check_books(*session_).empty());
+}
+
+// ---- long work ----
+
+namespace {
+
+// Some hundred milliseconds of it.
+constexpr const char* long_work =
+    "UPDATE D6801 SET PYM=LEFT((SELECT COUNT(*) FROM D6801 A, D6801 B WHERE A.KM_J<D6801.KM_J),9);";
+
+} // namespace
+
+TEST_F(Data, long_writing_is_told_and_its_end_too) {
+    std::vector<std::pair<std::int64_t, std::int64_t>> told;
+    data_.report_progress(
+        [&](std::int64_t done, std::int64_t total) {
+            told.emplace_back(done, total);
+            return true;
+        },
+        std::chrono::milliseconds{0});
+    data_.execute(std::string(long_work) + long_work, {"681", "", "Edit"});
+    ASSERT_GT(told.size(), 2u);
+    EXPECT_EQ(told.front(), std::make_pair(std::int64_t{0}, std::int64_t{2}));
+    for (std::size_t i = 1; i + 1 < told.size(); ++i)
+        EXPECT_LE(told[i - 1].first, told[i].first) << i;
+    EXPECT_EQ(told.back().first, told.back().second) << "the last call ends it";
+}
+
+TEST_F(Data, stopped_writing_leaves_the_books_and_the_log_as_they_were) {
+    const std::string rows = value("SELECT COUNT(*) FROM SYS_LOG");
+    data_.report_progress([](std::int64_t done, std::int64_t total) { return done == total; },
+                          std::chrono::milliseconds{0});
+    try {
+        data_.execute("DELETE FROM D6803;" + std::string(long_work), {"681", "", "Edit"});
+        FAIL() << "it was stopped";
+    } catch (const host::DataError& error) {
+        EXPECT_STREQ(error.what(), "操作已取消,没有改动任何数据!");
+    }
+    EXPECT_EQ(value("SELECT COUNT(*) FROM SYS_LOG"), rows);
+    EXPECT_NE(value("SELECT COUNT(*) FROM D6803"), "0");
+    EXPECT_EQ(session_->transaction_depth(), 0);
+    data_.report_progress({}, std::chrono::milliseconds{0});
+    insert_summary("丙");
+    EXPECT_TRUE(automation::check_books(*session_).empty());
+}
+
+TEST_F(Data, a_stopped_query_says_so_and_nothing_may_be_asked_while_it_runs) {
+    Rows rows;
+    int calls = 0;
+    data_.report_progress(
+        [&](std::int64_t done, std::int64_t total) {
+            if (done == total) return true; // the end
+            ++calls;
+            EXPECT_EQ(total, 0);
+            Rows other;
+            EXPECT_THROW(data_.query("SELECT 1", other), host::DataError);
+            EXPECT_THROW(data_.execute("DELETE FROM D6803", {}), host::DataError);
+            return calls < 3;
+        },
+        std::chrono::milliseconds{0});
+    try {
+        data_.query("SELECT A.KM_ID FROM D6801 A, D6801 B, D6801 C", rows);
+        FAIL() << "it was stopped";
+    } catch (const host::DataError& error) {
+        EXPECT_STREQ(error.what(), "查询已取消,显示的内容没有更新!");
+    }
+    EXPECT_EQ(calls, 3);
+}
+
 TEST_F(Data, two_people_writing_in_turn_keep_one_chain) {
     const auto other_session = open_books(books_);
     EngineData other(*other_session, clock_, "li");

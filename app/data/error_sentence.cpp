@@ -39,7 +39,7 @@ constexpr CategorySentence by_category[] = {
     {ErrorCategory::arithmetic, "数字超出了可以计算的范围,请核对后再试!"},
     {ErrorCategory::transaction, "操作没有完整执行,已全部撤消,请重新操作!"},
     {ErrorCategory::busy, "别的用户正在写入这个帐套,请稍候再试!"},
-    {ErrorCategory::interrupted, "操作已被中止,没有更改任何数据!"},
+    {ErrorCategory::interrupted, "操作已取消,没有改动任何数据!"},
     {ErrorCategory::read_only, "帐套只能读取,不能写入,请检查文件和文件夹的权限!"},
     {ErrorCategory::disk_full, "磁盘空间不足,没有保存,请清理磁盘后再试!"},
     {ErrorCategory::damaged, "帐套文件已损坏,请停止使用并从备份恢复!"},

@@ -1,6 +1,7 @@
-// Reads the last row's hash and chains the new row to it.
+// Reads where the log ends and chains the new row to it.
 #include "app/data/log_entry.h"
 
+#include "app/data/log_text.h"
 #include "host/values/sql_text.h"
 #include "schema/log_chain.h"
 
@@ -12,9 +13,11 @@ class LastRow : public engines::ResultReceiver {
 public:
     std::int64_t id = 0;
     std::string hash;
+    bool found = false;
     bool row(std::span<const engines::Value> cells) override {
         id = cells[0].as_integer();
         hash = cells[1].as_text();
+        found = true;
         return false;
     }
 };
@@ -36,31 +39,46 @@ std::string cut(std::string_view text, std::size_t most) {
     return kept;
 }
 
+// The end of the log as its head tells it. Without a head, which somebody took away, the log's own
+// last row counts; the check of the books tells of it.
+engines::Outcome read_end(engines::Session& session, LastRow& last) {
+    engines::Outcome read = session.execute("SELECT LAST_ID, HASH FROM SYS_LOG_HEAD", last);
+    if (!read.ok() || last.found) return read;
+    return session.execute("SELECT TOP 1 ID, HASH FROM SYS_LOG ORDER BY ID DESC", last);
+}
+
+std::string insert_row(const schema::LogRow& row, const std::string& hash) {
+    std::string insert = "INSERT INTO SYS_LOG (ID, LOG_TIME, USER_ID, FUNCTION_CODE, DOC_KEY, "
+                         "OPERATION, DIGEST, HASH) VALUES (" +
+                         std::to_string(row.id);
+    for (const std::string* cell :
+         {&row.time, &row.user, &row.function, &row.key, &row.operation, &row.digest, &hash})
+        insert += "," + host::quoted(*cell);
+    return insert + ");";
+}
+
 } // namespace
 
 engines::Outcome append_log_row(engines::Session& session, host::DateTime now,
                                 const std::string& user, const host::LogEntry& entry,
                                 std::string_view batch) {
     LastRow last;
-    if (engines::Outcome read =
-            session.execute("SELECT TOP 1 ID, HASH FROM SYS_LOG ORDER BY ID DESC", last);
-        !read.ok())
-        return read;
+    if (engines::Outcome read = read_end(session, last); !read.ok()) return read;
+    const std::string text = without_secrets(batch);
     // Half of what the columns take, since a character outside the basic plane counts two there;
     // names of functions have none.
     const schema::LogRow row{last.id + 1,           to_the_second(now),
                              cut(user, 20),         cut(entry.function, 10),
                              cut(entry.key, 100),   cut(entry.operation, 20),
-                             schema::digest_of(batch)};
-    std::string insert = "INSERT INTO SYS_LOG (ID, LOG_TIME, USER_ID, FUNCTION_CODE, DOC_KEY, "
-                         "OPERATION, DIGEST, HASH) VALUES (" +
-                         std::to_string(row.id);
+                             schema::digest_of(text)};
     const std::string hash = schema::chained_hash(last.hash, row);
-    for (const std::string* cell :
-         {&row.time, &row.user, &row.function, &row.key, &row.operation, &row.digest, &hash})
-        insert += "," + host::quoted(*cell);
+    const std::string id = std::to_string(row.id);
     engines::ResultReceiver nobody;
-    return session.execute(insert + ")", nobody);
+    return session.execute(
+        insert_row(row, hash) + "INSERT INTO SYS_LOG_TEXT (ID, BATCH) VALUES (" + id + "," +
+            host::quoted(text) + ");UPDATE SYS_LOG_HEAD SET LAST_ID=" + id + ",HASH=" +
+            host::quoted(hash),
+        nobody);
 }
 
 } // namespace app

@@ -10,7 +10,7 @@
 
 namespace app {
 
-// Adds the row that follows the last one. Must run inside a transaction that holds the right to
+// Adds the row that follows the last one, with the text of the batch, and moves the log's head. Must run inside a transaction that holds the right to
 // write, so that nobody else adds a row in between. A key longer than its column is cut.
 engines::Outcome append_log_row(engines::Session& session, host::DateTime now,
                                 const std::string& user, const host::LogEntry& entry,

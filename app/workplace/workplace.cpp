@@ -5,6 +5,7 @@
 #include "app/books/upgrade.h"
 #include "automation/sql/collected_result.h"
 #include "host/contract/U_glo.h"
+#include "host/forms/form.h"
 #include "host/ports/host.h"
 #include "host/values/sql_text.h"
 
@@ -25,6 +26,15 @@ std::string setting_of(engines::Session& session, const std::string& name) {
 std::optional<host::Date> day_in(engines::Session& session,
                                  const std::optional<host::Date>& wanted) {
     return wanted ? wanted : host::Date::parse(setting_of(session, "today"));
+}
+
+// Long work is told to the person under the caption of the form that does it.
+bool tell_progress(std::int64_t done, std::int64_t total) {
+    const host::Host& host = host::the_host();
+    if (host.ui == nullptr) return true;
+    const std::string form = host.active ? host.active->Caption.get() : "";
+    const char* work = total > 0 ? "正在写入帐套…" : "正在读取…";
+    return host.ui->progress(form.empty() ? work : form + ": " + work, done, total);
 }
 
 } // namespace
@@ -63,6 +73,7 @@ void Workplace::log_in(const std::string& user, const PasswordSource& password) 
     rights_ = Rights::of(*session_, user_);
     host::the_host().may = [this](const host::Right& right) { return rights_.allow(right); };
     data_ = std::make_unique<EngineData>(*session_, clock_, user_.id);
+    data_->report_progress(tell_progress, std::chrono::milliseconds{100});
     host::the_host().data = data_.get();
     host::G_UserId = user_.id;
     host::G_UserName = user_.name;

@@ -1,6 +1,8 @@
 // The table of checks, in the order in which they are told.
 #include "automation/check/check.h"
 
+#include <chrono>
+
 #include "automation/check/findings.h"
 
 namespace automation {
@@ -15,8 +17,12 @@ struct Check {
 constexpr Check checks[] = {
     {"文件", check_storage},
     {"凭证借贷不平", check_unbalanced_vouchers},
+    {"凭证状态不对", check_voucher_states},
+    {"凭证号", check_voucher_numbers},
     {"孤立的记录", check_orphans},
     {"会计科目", check_accounts},
+    {"余额表行不对", check_balance_rows},
+    {"期初余额不符", check_openings},
     {"发生额与凭证不符", check_movements},
     {"期末余额不符", check_closing_balances},
     {"往来单据结算不符", check_settlements},
@@ -24,20 +30,69 @@ constexpr Check checks[] = {
     {"操作日志", check_log},
 };
 
+constexpr std::chrono::milliseconds a_moment{100};
+
+// Tells how far the audit is, also in the middle of a statement, until it is stopped.
+class Telling {
+public:
+    Telling(engines::Session& session, const AuditProgress& progress)
+        : session_(session), progress_(progress) {
+        if (!progress_) return;
+        session_.set_progress([this](std::int64_t, std::int64_t) { return tell(); }, a_moment);
+    }
+    ~Telling() {
+        if (!progress_) return;
+        session_.set_progress({}, a_moment);
+        progress_("", 1, 1);
+    }
+    Telling(const Telling&) = delete;
+    Telling& operator=(const Telling&) = delete;
+
+    bool begin(const char* check) {
+        check_ = check;
+        const bool go_on = tell();
+        ++done_;
+        return go_on;
+    }
+    bool stopped() const { return stopped_; }
+
+private:
+    bool tell() {
+        if (progress_ && !stopped_) stopped_ = !progress_(check_, done_, std::ssize(checks));
+        return !stopped_;
+    }
+    engines::Session& session_;
+    const AuditProgress& progress_;
+    const char* check_ = "";
+    std::int64_t done_ = 0;
+    bool stopped_ = false;
+};
+
+void run(const Check& check, engines::Session& session, Audit& audit) {
+    Findings findings;
+    try {
+        check.run(session, findings);
+    } catch (const engines::Failure& failure) {
+        findings.add(std::string("这一项没有查完: ") + failure.what());
+    }
+    for (std::string& text : findings.take()) audit.findings.push_back({check.name, text});
+    for (std::string& text : findings.take_hints()) audit.hints.push_back({check.name, text});
+}
+
 } // namespace
 
-std::vector<Finding> check_books(engines::Session& session) {
-    std::vector<Finding> all;
+std::optional<Audit> audit_books(engines::Session& session, const AuditProgress& progress) {
+    Audit audit;
+    Telling telling(session, progress);
     for (const Check& check : checks) {
-        Findings findings;
-        try {
-            check.run(session, findings);
-        } catch (const engines::Failure& failure) {
-            findings.add(std::string("这一项没有查完: ") + failure.what());
-        }
-        for (std::string& text : findings.take()) all.push_back({check.name, std::move(text)});
+        if (telling.begin(check.name)) run(check, session, audit);
+        if (telling.stopped()) return std::nullopt;
     }
-    return all;
+    return audit;
+}
+
+std::vector<Finding> check_books(engines::Session& session) {
+    return audit_books(session)->findings;
 }
 
 } // namespace automation

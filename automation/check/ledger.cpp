@@ -43,17 +43,35 @@ std::string money(std::int64_t cents) {
 
 Ledger read_ledger(engines::Session& session) {
     Ledger ledger;
-    for (const TextRow& row : rows_of(session, "SELECT KM_ID, OID, FX FROM D6801"))
-        ledger.accounts[*row[0]] = {*row[1], *row[2] == "借"};
+    for (const TextRow& row : rows_of(session, "SELECT KM_ID, OID, FX, BEGIN2, BEGIN3, BEGIN4, "
+                                               "BEGIN5 FROM D6801"))
+        ledger.accounts[*row[0]] = {*row[1],       *row[2] == "借", cents(row[3]),
+                                    cents(row[4]), cents(row[5]),   cents(row[6])};
     for (const TextRow& row :
          rows_of(session, "SELECT B.QJ, A.KM_ID, B.INX, B.J, B.D, B.SY_J, B.SY_D FROM D6602 B "
                           "INNER JOIN D6801 A ON A.KM_ID = B.KM_ID")) {
+        if (*row[2] != "0" && *row[2] != "1") continue; // the check of the rows tells of it
         auto& rows = *row[2] == "0" ? ledger.movements : ledger.closings;
         rows[{*row[0], *row[1]}] = {cents(row[3]), cents(row[4]), cents(row[5]), cents(row[6])};
     }
-    const auto current = rows_of(session, "SELECT PARAM FROM D6600 WHERE ID = 2");
-    if (!current.empty()) ledger.current = current[0][0].value_or("");
+    ledger.periods = read_open_periods(session);
     return ledger;
+}
+
+Movement at(const std::map<PeriodAccount, Movement>& rows, const PeriodAccount& key) {
+    const auto found = rows.find(key);
+    return found == rows.end() ? Movement{} : found->second;
+}
+
+void add_upwards(const Ledger& ledger, AccountId id,
+                 const std::function<void(const AccountId&)>& add) {
+    // The chart is at most six deep; a ring of parents must not hold the check up.
+    for (int level = 0; level < 8; ++level) {
+        add(id);
+        const auto account = ledger.accounts.find(id);
+        if (account == ledger.accounts.end() || account->second.parent == "Z") break;
+        id = account->second.parent;
+    }
 }
 
 std::map<PeriodAccount, Movement> movements_of_vouchers(engines::Session& session,
@@ -66,7 +84,7 @@ std::map<PeriodAccount, Movement> movements_of_vouchers(engines::Session& sessio
                           "INNER JOIN D6801 A ON A.KM_ID = L.KM_ID WHERE H.D = 1 "
                           "GROUP BY H.PZQJ, A.KM_ID, H.T_SY")) {
         const std::string& period = *row[0];
-        AccountId id = *row[1];
+        const AccountId& id = *row[1];
         // A line on an account with accounts below it has no place in the roll-up; the check of
         // the chart tells of it.
         if (parents.contains(id)) continue;
@@ -75,13 +93,7 @@ std::map<PeriodAccount, Movement> movements_of_vouchers(engines::Session& sessio
             line.sy_debit = line.credit;
             line.sy_credit = line.debit;
         }
-        // The chart is at most six deep; a ring of parents must not hold the check up.
-        for (int level = 0; level < 8; ++level) {
-            sums[{period, id}] += line;
-            const auto account = ledger.accounts.find(id);
-            if (account == ledger.accounts.end() || account->second.parent == "Z") break;
-            id = account->second.parent;
-        }
+        add_upwards(ledger, id, [&](const AccountId& up) { sums[{period, up}] += line; });
     }
     return sums;
 }

@@ -42,8 +42,8 @@ void ProgressDialog::open() {
     bar_->setRange(0, 1000);
     column->addWidget(bar_);
     auto* stop = new HintedButton(dialog_.get(), ButtonLook::Plain);
-    stop->set_texts(QStringLiteral("停止"), "Esc");
-    QObject::connect(stop, &QPushButton::clicked, dialog_.get(), [this] { stopped_ = true; });
+    stop->set_texts(QStringLiteral("取消"), "Esc");
+    QObject::connect(stop, &QPushButton::clicked, dialog_.get(), &QDialog::reject);
     QObject::connect(dialog_.get(), &QDialog::rejected, dialog_.get(), [this] { stopped_ = true; });
     column->addWidget(stop, 0, Qt::AlignRight);
     dialog_->body()->addLayout(column);

@@ -157,6 +157,10 @@ void SqliteSession::interrupt() {
     sqlite3_interrupt(connection_.get());
 }
 
+void SqliteSession::set_progress(BatchProgress listener, std::chrono::milliseconds every) {
+    executor_.progress().listen(std::move(listener), every);
+}
+
 void SqliteSession::backup_to(const std::string& file, const Progress& progress) {
     copy_books(connection_.get(), file, progress);
 }

@@ -18,6 +18,7 @@ public:
     void rollback() override;
     int transaction_depth() const override { return transactions_.depth(); }
     void interrupt() override;
+    void set_progress(BatchProgress listener, std::chrono::milliseconds every) override;
     void set_clock(std::optional<std::int64_t> day) override { executor_.set_clock(day); }
     void set_person(Person person) override { executor_.set_person(std::move(person)); }
     void backup_to(const std::string& file, const Progress& progress) override;

@@ -43,7 +43,7 @@ TEST_F(Check, a_line_without_a_head_and_an_allocation_without_a_voucher) {
 
 TEST_F(Check, an_account_that_the_chart_does_not_hold) {
     damage("UPDATE D6601A SET KM_ID = '9999' WHERE NOID = '2024-03记003' AND INX = 0");
-    EXPECT_TRUE(finds("孤立的记录", "分录的科目不存在: 9999")) << findings();
+    EXPECT_TRUE(finds("孤立的记录", "分录的科目不存在: 9999 (凭证 2024-03记003)")) << findings();
 }
 
 TEST_F(Check, a_movement_changed_by_a_cent) {
@@ -82,15 +82,6 @@ TEST_F(Check, a_full_name_that_is_not_the_one_the_chart_gives) {
     EXPECT_TRUE(finds("会计科目", "科目全称不对: 100901")) << findings();
 }
 
-TEST_F(Check, a_log_row_changed_taken_out_or_slipped_in) {
-    damage("UPDATE SYS_LOG SET USER_ID = 'li' WHERE ID = 3");
-    EXPECT_TRUE(finds("操作日志", "第 3 条记录")) << findings();
-    damage("UPDATE SYS_LOG SET USER_ID = 'admin' WHERE ID = 3");
-    EXPECT_EQ(findings(), "");
-    damage("DELETE FROM SYS_LOG WHERE ID = 3");
-    EXPECT_TRUE(finds("操作日志", "缺少第 3 条")) << findings();
-}
-
 TEST_F(Check, a_settled_amount_that_its_lines_do_not_give) {
     damage("INSERT INTO D8102 (NOID, C, KH_GYS_ID, BDATE, USER_ID, TOLMONEY, YSMONEY) VALUES "
            "('s1', 0, 'K1', '2024-03-01', 'admin', 100, 100)");
@@ -104,6 +95,22 @@ TEST_F(Check, a_settled_amount_that_its_lines_do_not_give) {
     EXPECT_TRUE(finds("往来单据结算不符", "D8102 s1: 已结 39.99 应为 40.00")) << findings();
     damage("UPDATE D631 SET MONEY = 41 WHERE NOID = 'r1'");
     EXPECT_TRUE(finds("收付款单金额不符", "r1: 金额 41.00 明细合计 40.00")) << findings();
+}
+
+TEST_F(Check, lines_of_trade_whose_document_is_gone) {
+    damage("INSERT INTO D631A (NOID, C, D8102NOID, KH_GYS_ID, MONEY) VALUES "
+           "('r9', 0, 's9', 'K1', 5)");
+    damage("INSERT INTO D631B (NOID, JY_ID, MONEY) VALUES ('r8', '1', 5)");
+    damage("INSERT INTO D641A (NOID, C, D8202NOID, KH_GYS_ID, MONEY) VALUES "
+           "('p9', 0, 'b9', 'G1', 5)");
+    damage("INSERT INTO D651A (NOID, SZLB, MONEY) VALUES ('o9', '01', 5)");
+    damage("INSERT INTO D652A (NOID, SZLB, MONEY) VALUES ('o8', '01', 5)");
+    damage("INSERT INTO D8102A (ID, NOID, WL_ID) VALUES ('s8-1000', 's8', 'W1')");
+    for (const char* text :
+         {"核销行没有收款单: r9", "核销的销售单不存在: s9 (收款单 r9)", "分帐户的金额没有收款单: r8",
+          "核销行没有付款单: p9", "核销的采购单不存在: b9 (付款单 p9)",
+          "明细行没有其他收款单: o9", "明细行没有其他付款单: o8", "明细行没有销售单: s8"})
+        EXPECT_TRUE(finds("孤立的记录", text)) << text << "\n" << findings();
 }
 
 TEST_F(Check, many_findings_of_one_kind_are_counted_instead_of_listed) {

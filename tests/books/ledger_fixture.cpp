@@ -3,41 +3,12 @@
 
 #include "app/books/open.h"
 #include "automation/sql/collected_result.h"
+#include "module/vouchers/posting_batch.h"
 #include "tests/support/fresh_books.h"
 
 namespace tests {
 
 namespace {
-
-const std::string movements =
-    "FROM (SELECT D6601A.KM_ID, SUM(D6601A.J) AS J, SUM(D6601A.D) AS D FROM D6601A "
-    "INNER JOIN D6601 ON D6601A.NOID = D6601.NOID WHERE D6601.T=1 AND (D6601.PZQJ = '2024-03') "
-    "GROUP BY D6601A.KM_ID, D6601.PZQJ) T "
-    "WHERE D6602.INX=0 AND D6602.QJ='2024-03' AND D6602.KM_ID=T.KM_ID;";
-
-std::string empty_rows(const std::string& kind) {
-    return "INSERT INTO D6602 (INX,QJ,KM_ID) SELECT " + kind +
-           ",'2024-03',D6801.KM_ID FROM D6801 left OUTER JOIN D6602 ON D6602.KM_ID = D6801.KM_ID "
-           "and (D6602.INX = " + kind + ") AND (D6602.QJ = '2024-03') where d6602.km_id is null;";
-}
-
-std::string roll_up() {
-    std::string batch;
-    for (int pass = 0; pass < 6; ++pass)
-        batch += "UPDATE D6602 SET J=T.J,D=T.D FROM (SELECT OID,SUM(J) AS J,SUM(D) AS D FROM D6602 "
-                 "INNER JOIN D6801 ON D6602.KM_ID=D6801.KM_ID WHERE QJ ='2024-03' AND INX = 0 "
-                 "GROUP BY OID) T WHERE D6602.KM_ID=T.OID AND D6602.QJ ='2024-03';";
-    return batch;
-}
-
-const std::string closing =
-    "UPDATE D6602 SET D6602.J=T.J,D6602.D=T.D FROM ( SELECT D6602.KM_ID, "
-    "CASE D6801.FX WHEN '借' then ISNULL(BE.J, 0.00)+D6602.J-D6602.D else 0.00 end AS J, "
-    "CASE D6801.FX WHEN '借' then 0.00 else ISNULL(BE.D, 0.00)+D6602.D-D6602.J end AS D "
-    "FROM D6602 INNER JOIN D6801 ON D6602.KM_ID = D6801.KM_ID LEFT OUTER JOIN "
-    "(SELECT KM_ID, J, D FROM D6602 WHERE QJ = '2024-02' AND INX = 1) BE "
-    "ON D6602.KM_ID = BE.KM_ID WHERE (D6602.INX = 0) AND (D6602.QJ = '2024-03')) T "
-    "WHERE D6602.INX=1 AND D6602.QJ='2024-03' AND D6602.KM_ID=T.KM_ID;";
 
 // Opened in March 2024.
 std::string fresh_books(const std::string& file) {
@@ -52,13 +23,14 @@ Ledger::Ledger()
       clock_(host::Date::of(2024, 3, 15)),
       data_(std::make_unique<app::EngineData>(*session_, clock_, "admin")) {}
 
-std::string Ledger::voucher(int number, const std::vector<Line>& lines) {
+std::string Ledger::voucher(int number, const std::vector<Line>& lines, const std::string& word) {
+    const std::string period = value("SELECT PARAM FROM D6600 WHERE ID = 2");
     std::string padded = std::to_string(number);
     padded.insert(0, padded.size() < 3 ? 3 - padded.size() : 0, '0');
-    const std::string key = "2024-03记" + padded;
+    const std::string key = period + word + padded;
     std::string batch = "INSERT INTO D6601 (NOID, PZQJ, PZZ, PZZ_H, PZZ_Z, BDATE, USER_ID, T) "
-                        "VALUES ('" + key + "','2024-03','记','" + std::to_string(number) +
-                        "','1','2024-03-15','admin',1);";
+                        "VALUES ('" + key + "','" + period + "','" + word + "','" +
+                        std::to_string(number) + "','1','" + period + "-15','admin',1);";
     int inx = 0;
     for (const Line& line : lines)
         batch += "INSERT INTO D6601A (NOID, ZY, KM_ID, J, D, INX) VALUES ('" + key + "','摘要','" +
@@ -69,11 +41,28 @@ std::string Ledger::voucher(int number, const std::vector<Line>& lines) {
 }
 
 void Ledger::post() {
-    data_->execute(empty_rows("0") + empty_rows("1") +
-                       "UPDATE D6602 SET D6602.J=T.J,D6602.D=T.D " + movements + roll_up() +
-                       closing + "update D6601 set d=1 WHERE (D6601.PZQJ = '2024-03') "
-                       "and D6601.D=0 and t=1;",
-                   {"663", "2024-03", "Edit"});
+    const auto period = host::Period::parse(value("SELECT PARAM FROM D6600 WHERE ID = 2"));
+    data_->execute(module::posting_batch(*period), {"663", period->to_text(), "Edit"});
+}
+
+void Ledger::unpost() {
+    const auto period = host::Period::parse(value("SELECT PARAM FROM D6600 WHERE ID = 2"));
+    data_->execute(module::unposting_batch(*period), {"663", period->to_text(), "Edit"});
+}
+
+void Ledger::set_period(const host::Period& period, const std::string& key) {
+    data_->execute("UPDATE D6600 SET PARAM='" + period.to_text() + "' WHERE ID=2;",
+                   {"668", key, "Edit"});
+}
+
+void Ledger::close_period() {
+    const auto period = host::Period::parse(value("SELECT PARAM FROM D6600 WHERE ID = 2"));
+    set_period(period->next(), "期末结帐" + period->to_text());
+}
+
+void Ledger::take_closing_back() {
+    const auto period = host::Period::parse(value("SELECT PARAM FROM D6600 WHERE ID = 2"));
+    set_period(period->previous(), "期末反结帐" + period->to_text());
 }
 
 std::string Ledger::value(const std::string& select) {
@@ -87,6 +76,14 @@ std::string Ledger::findings() {
     std::string all;
     for (const auto& finding : automation::check_books(*session_))
         all += finding.check + ": " + finding.text + "\n";
+    return all;
+}
+
+std::string Ledger::hints() {
+    std::string all;
+    const automation::Audit audit = *automation::audit_books(*session_);
+    for (const automation::Finding& hint : audit.hints)
+        all += hint.check + ": " + hint.text + "\n";
     return all;
 }
 

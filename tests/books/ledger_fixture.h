@@ -10,6 +10,7 @@
 #include "app/settings/surroundings.h"
 #include "automation/check/check.h"
 #include "engines/session.h"
+#include "host/values/period.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tests {
@@ -23,18 +24,28 @@ class Ledger : public ::testing::Test {
 protected:
     Ledger();
 
-    // Writes an audited voucher of 2024-03; answers its key.
-    std::string voucher(int number, const std::vector<Line>& lines);
-    // Posts 2024-03 by the batch of the posting dialog.
+    // Writes an audited voucher of the current period; answers its key.
+    std::string voucher(int number, const std::vector<Line>& lines,
+                        const std::string& word = "记");
+    // Posts the current period, or takes it back, by the batch of the posting dialog.
     void post();
+    void unpost();
+    // Closes the current period or takes the last closing back, as the closing dialog does.
+    void close_period();
+    void take_closing_back();
     // The first column of the first row, "" without one.
     std::string value(const std::string& select);
     // A batch past every form, as somebody with the file in hand might send it.
     void damage(const std::string& batch);
     // The texts of all findings, joined; "" for sound books.
     std::string findings();
+    std::string hints(); // in the same way
     bool finds(const std::string& check, const std::string& part);
 
+private:
+    void set_period(const host::Period& period, const std::string& key);
+
+protected:
     TemporaryFolder folder_;
     std::string books_;
     std::unique_ptr<engines::Session> session_;

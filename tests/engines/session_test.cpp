@@ -1,7 +1,10 @@
 // Batches that are all or nothing, transactions of the caller, cancelling, clock, backup.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
 #include <thread>
+#include <vector>
 
 #include "engines/calendar.h"
 #include "tests/engines/small_books.h"
@@ -79,6 +82,59 @@ TEST(Interrupt, ends_the_running_statement_and_the_session_goes_on) {
     ASSERT_FALSE(outcome.ok());
     EXPECT_EQ(outcome.error->category, engines::ErrorCategory::interrupted);
     EXPECT_EQ(rows(*session), "60");
+}
+
+TEST(Progress, tells_statements_done_and_in_all_and_never_goes_back) {
+    const TemporaryFolder folder;
+    const auto session = create(folder.file("a.zf"), 40);
+    std::vector<std::int64_t> told;
+    session->set_progress(
+        [&](std::int64_t done, std::int64_t all) {
+            EXPECT_EQ(all, 3);
+            told.push_back(done);
+            return true;
+        },
+        std::chrono::milliseconds{0});
+    const std::string slow = "UPDATE T SET V=(SELECT COUNT(*) FROM T A, T B, T C WHERE A.ID>T.ID)+";
+    ASSERT_TRUE(run_atomically(*session, slow + "1;" + slow + "2;" + slow + "3;").ok());
+    ASSERT_GT(told.size(), 3u);
+    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+    EXPECT_EQ(told.front(), 0);
+    EXPECT_EQ(told.back(), 2); // the third was still running
+    const std::size_t before = told.size();
+    session->set_progress({}, std::chrono::milliseconds{0});
+    ASSERT_TRUE(run_atomically(*session, slow + "4").ok());
+    EXPECT_EQ(told.size(), before) << "nobody listens any more";
+}
+
+TEST(Progress, a_listener_that_says_stop_leaves_nothing_of_the_batch) {
+    const TemporaryFolder folder;
+    const auto session = create(folder.file("a.zf"), 40);
+    session->set_progress([](std::int64_t done, std::int64_t) { return done < 1; },
+                          std::chrono::milliseconds{0});
+    const engines::Outcome outcome = run_atomically(
+        *session, "DELETE FROM T WHERE ID<=20;"
+                  "UPDATE T SET V=(SELECT COUNT(*) FROM T A, T B, T C, T D, T E);");
+    ASSERT_FALSE(outcome.ok());
+    EXPECT_EQ(outcome.error->category, engines::ErrorCategory::interrupted);
+    EXPECT_EQ(session->transaction_depth(), 0);
+    session->set_progress({}, std::chrono::milliseconds{0});
+    EXPECT_EQ(rows(*session), "40");
+    EXPECT_TRUE(run(*session, "DELETE FROM T WHERE ID=1").ok()) << "the session works on";
+}
+
+TEST(Progress, short_work_is_not_told) {
+    const TemporaryFolder folder;
+    const auto session = create(folder.file("a.zf"), 40);
+    int calls = 0;
+    session->set_progress(
+        [&](std::int64_t, std::int64_t) {
+            ++calls;
+            return true;
+        },
+        std::chrono::hours{1});
+    ASSERT_TRUE(run_atomically(*session, "UPDATE T SET V='x'").ok());
+    EXPECT_EQ(calls, 0);
 }
 
 TEST(Clock, a_fixed_day_is_the_date_of_getdate) {

@@ -196,7 +196,7 @@ TEST_F(WholeYear, a_month_closed_without_posting_is_found_and_mended_by_posting_
     EXPECT_EQ(anna.close_period(), Told{"结帐完成!"}); // February, never posted
     keep(3);
     EXPECT_EQ(closing("2024-03", "3101", "D"), "0.00");
-    EXPECT_EQ(findings(), "2024-03: 之前的 2024-02 没有登帐,2024-01 的余额没有转过来;"
+    EXPECT_EQ(findings(), "2024-02: 已结帐却没有登帐,2024-01 的余额没有转过来;"
                           "请反结到 2024-02,逐月登帐");
     for (int month = 3; month >= 2; --month) EXPECT_EQ(anna.reopen_period(), Told{"反结帐完成!"});
     for (int month = 2; month <= 3; ++month) {

@@ -13,6 +13,7 @@
 #include "engines/sqlite/executor/cursors.h"
 #include "engines/sqlite/executor/frame.h"
 #include "engines/sqlite/executor/kept_copies.h"
+#include "engines/sqlite/executor/progress_meter.h"
 #include "engines/sqlite/executor/sink.h"
 #include "engines/sqlite/executor/transactions.h"
 #include "engines/sqlite/functions/runtime.h"
@@ -40,7 +41,8 @@ public:
         Identities& identities;
         Transactions& transactions;
     };
-    explicit Executor(const Parts& parts) : parts_(parts) {}
+    explicit Executor(const Parts& parts)
+        : parts_(parts), progress_(parts.connection, interrupted_) {}
 
     // Runs a compiled batch and tells how it ended. contained: the first error ends it, and the
     // caller undoes what it did.
@@ -53,6 +55,7 @@ public:
 
     SessionOptions& options() { return options_; }
     std::atomic<bool>& interrupted() { return interrupted_; }
+    ProgressMeter& progress() { return progress_; }
     void set_clock(std::optional<std::int64_t> day) { clock_day_ = day; }
     void set_person(Person person) { person_ = std::move(person); }
 
@@ -151,6 +154,7 @@ private:
     Parts parts_;
     SessionOptions options_;
     std::atomic<bool> interrupted_{false};
+    ProgressMeter progress_;
     std::optional<std::int64_t> clock_day_;
     Person person_;
 

@@ -26,6 +26,7 @@ Outcome Executor::run(const tsql::CompiledBatch& batch, ResultReceiver& receiver
     contained_ = contained;
     interrupted_ = false;
     unchanged_.reset();
+    progress_.begin(static_cast<std::int64_t>(batch.units.size()));
     for (const tsql::CompiledUnit& unit : batch.units) {
         Frame frame;
         frame.owner = unit.plan;
@@ -36,6 +37,7 @@ Outcome Executor::run(const tsql::CompiledBatch& batch, ResultReceiver& receiver
         const FrameScope scope(frame_, frame);
         const Flow flow = run_steps(unit.plan->steps);
         if (flow == Flow::end_batch || flow == Flow::leave_routine) break;
+        progress_.statement_done();
     }
     if (parts_.transactions.doomed()) {
         parts_.transactions.rollback();

@@ -42,10 +42,15 @@ std::string row_condition(const CatalogTable& table, const std::string& text, Bi
     return emitted;
 }
 
+// SQLite takes numbers between the parentheses of a type; "nvarchar(max)" is a name to it.
+std::string declared_type(const Type& type) {
+    return type.length == Type::max_length ? quoted_name(type.text()) : type.text();
+}
+
 } // namespace
 
 std::string declared_column(const CatalogColumn& column) {
-    std::string text = quoted_name(column.name) + " " + column.type.text();
+    std::string text = quoted_name(column.name) + " " + declared_type(column.type);
     if (column.type.is_text()) {
         const bool binary = column.collation.find("_BIN") != std::string::npos;
         const bool cased = column.collation.find("_CS_") != std::string::npos;
