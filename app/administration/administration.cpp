@@ -4,7 +4,10 @@
 #include <memory>
 #include <string_view>
 
+#include "app/administration/books_backup.h"
+#include "app/administration/books_check.h"
 #include "app/administration/books_settings.h"
+#include "app/administration/operation_log.h"
 #include "app/administration/own_password.h"
 #include "app/administration/roles.h"
 #include "app/administration/users.h"
@@ -37,6 +40,9 @@ constexpr Administration functions[] = {
     {"roles", modeless<TFrm_Roles>},
     {"books", modal<TFrm_Books>},
     {"password", modal<TFrm_Password>},
+    {"log", modeless<TFrm_OperationLog>},
+    {"check", modeless<TFrm_Check>},
+    {"backup", back_up_books},
 };
 
 } // namespace

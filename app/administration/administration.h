@@ -1,4 +1,4 @@
-// The host's own functions: users, roles, settings of the books, the own password.
+// The host's own functions: users, roles, settings of the books, its log and audit.
 #pragma once
 
 #include <string>

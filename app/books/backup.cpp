@@ -1,6 +1,7 @@
 // Verified copies, and the old books put aside.
 #include "app/books/backup.h"
 
+#include <chrono>
 #include <filesystem>
 
 #include "app/books/engines.h"
@@ -17,16 +18,51 @@ namespace {
 // What the embedded engine keeps beside a file while somebody has it open.
 constexpr const char* companions[] = {"-wal", "-shm"};
 
-void copy_verified(engines::Session& source, const std::string& name, PendingFile& pending) {
+[[noreturn]] void refuse_stopped() { throw Refusal("操作已取消,没有留下文件,帐套没有改变!"); }
+
+// Runs the storage check of a copy and tells how long it takes.
+std::vector<std::string> findings_of(engines::Session& copy, const CopyProgress& progress) {
+    bool stopped = false;
+    if (progress)
+        copy.set_progress(
+            [&](std::int64_t, std::int64_t) {
+                stopped = stopped || !progress("正在检查副本…", 0, 0);
+                return !stopped;
+            },
+            std::chrono::milliseconds{100});
+    std::vector<std::string> findings = copy.check_integrity();
+    if (stopped) refuse_stopped();
+    return findings;
+}
+
+void copy_verified(engines::Session& source, const std::string& name, PendingFile& pending,
+                   const CopyProgress& progress) {
     try {
-        source.backup_to(pending.path(), [](std::int64_t, std::int64_t) { return true; });
+        source.backup_to(pending.path(), [&](std::int64_t left, std::int64_t all) {
+            return !progress || progress("正在复制帐套…", all - left, all + 1);
+        });
     } catch (const engines::Failure& failure) {
+        if (failure.error().category == engines::ErrorCategory::interrupted) refuse_stopped();
         throw Refusal("复制 " + name + " 失败: " + opening_sentence(name, failure.error()));
     }
-    const auto findings = open_books(pending.path())->check_integrity();
+    const auto findings = findings_of(*open_books(pending.path()), progress);
     if (!findings.empty())
         throw Refusal(name + " 的副本没有通过检查(" + findings.front() + "),已放弃!");
 }
+
+// Whatever becomes of the work, its end is told.
+class Ending {
+public:
+    explicit Ending(const CopyProgress& progress) : progress_(progress) {}
+    ~Ending() {
+        if (progress_) progress_("", 1, 1);
+    }
+    Ending(const Ending&) = delete;
+    Ending& operator=(const Ending&) = delete;
+
+private:
+    const CopyProgress& progress_;
+};
 
 void require_file(const std::string& books) {
     engine_for(books);
@@ -65,17 +101,24 @@ void move_aside(const std::string& books, const std::string& aside) {
 
 } // namespace
 
-void backup_books(const std::string& books, const std::string& file) {
-    require_file(books);
-    auto session = open_books(books);
+void backup_session(engines::Session& session, const std::string& name, const std::string& file,
+                    const CopyProgress& progress) {
+    const Ending ending(progress);
     PendingFile pending(file);
-    copy_verified(*session, books, pending);
+    copy_verified(session, name, pending, progress);
     pending.publish();
 }
 
-std::string restore_books(const std::string& file, const std::string& books,
-                          const std::string& moment) {
+void backup_books(const std::string& books, const std::string& file,
+                  const CopyProgress& progress) {
     require_file(books);
+    backup_session(*open_books(books), books, file, progress);
+}
+
+std::string restore_books(const std::string& file, const std::string& books,
+                          const std::string& moment, const CopyProgress& progress) {
+    require_file(books);
+    const Ending ending(progress);
     const auto backup = open_backup(file);
     std::error_code ignored;
     const bool replaces = fs::exists(books, ignored);
@@ -84,7 +127,7 @@ std::string restore_books(const std::string& file, const std::string& books,
     const std::string aside = books + ".before-restore-" + moment;
     // The copy is made and checked before the old books are touched.
     PendingFile pending(replaces ? aside + ".copy" : books);
-    copy_verified(*backup, file, pending);
+    copy_verified(*backup, file, pending, progress);
     if (!replaces) {
         pending.publish();
         return "";

@@ -1,18 +1,32 @@
 // Copies books to a backup file and back.
 #pragma once
 
+#include <functional>
 #include <string>
+
+#include "engines/session.h"
 
 namespace app {
 
+// How far a copy has come: what is being done, pages copied and in all. False stops it; no file is
+// left then, and books stay as they were.
+using CopyProgress = std::function<bool(const std::string& what, std::int64_t done,
+                                        std::int64_t all)>;
+
 // A consistent copy of the books while others work in them. The copy is opened and checked before
-// it gets its name; an existing file is never replaced. Throws Refusal.
-void backup_books(const std::string& books, const std::string& file);
+// it gets its name; an existing file is never replaced. Throws Refusal, also when it was stopped.
+void backup_books(const std::string& books, const std::string& file,
+                  const CopyProgress& progress = {});
+
+// The same of books that are open.
+void backup_session(engines::Session& session, const std::string& name, const std::string& file,
+                    const CopyProgress& progress);
 
 // Makes the books what the backup holds. Books that exist are kept beside under a name with the
 // moment of restoring; the name is answered ("" when there were none). Refused while somebody
-// else has the books open, and when the backup is damaged. Throws Refusal.
+// else has the books open, and when the backup is damaged. Throws Refusal, also when it was
+// stopped: which it can be until the copy is complete.
 std::string restore_books(const std::string& file, const std::string& books,
-                          const std::string& moment);
+                          const std::string& moment, const CopyProgress& progress = {});
 
 } // namespace app

@@ -41,6 +41,40 @@ TEST_F(Backup, a_copy_holds_what_was_saved_while_others_have_the_books_open) {
     EXPECT_TRUE(has(copy_, "kept"));
 }
 
+TEST_F(Backup, tells_how_far_it_is_and_its_end) {
+    std::vector<std::pair<std::int64_t, std::int64_t>> told;
+    backup_books(books_, copy_, [&](const std::string& what, std::int64_t done, std::int64_t all) {
+        EXPECT_EQ(what.empty(), done == all && all == 1);
+        told.emplace_back(done, all);
+        return true;
+    });
+    ASSERT_GE(told.size(), 2u);
+    EXPECT_EQ(told.back(), std::make_pair(std::int64_t{1}, std::int64_t{1}));
+    EXPECT_LT(told.front().first, told.front().second) << "copied, not yet checked";
+    EXPECT_TRUE(fs::exists(copy_));
+}
+
+TEST_F(Backup, stopped_it_leaves_no_file) {
+    // Larger than one portion of the copy, so that it can be stopped within it.
+    automation::rows_of(*open_books(books_),
+                        "CREATE TABLE BIG (A varchar(8000)); INSERT INTO BIG SELECT "
+                        "REPLICATE('x', 8000) FROM "
+                        "(SELECT TOP 2000 A.KM_ID FROM D6801 A, D6801 B) T");
+    const auto stop = [](const std::string&, std::int64_t, std::int64_t) { return false; };
+    try {
+        backup_books(books_, copy_, stop);
+        FAIL() << "it was stopped";
+    } catch (const Refusal& refusal) {
+        EXPECT_STREQ(refusal.what(), "操作已取消,没有留下文件,帐套没有改变!");
+    }
+    EXPECT_EQ(folder_.files(), 1u);
+    backup_books(books_, copy_);
+    write(books_, "after");
+    EXPECT_THROW(restore_books(copy_, books_, "20240305-140506", stop), Refusal);
+    EXPECT_TRUE(has(books_, "after"));
+    EXPECT_EQ(folder_.files(), 2u);
+}
+
 TEST_F(Backup, restoring_brings_the_books_back_and_keeps_the_old_ones_aside) {
     write(books_, "before");
     backup_books(books_, copy_);

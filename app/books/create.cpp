@@ -68,8 +68,7 @@ std::string own_rows(const NewBooks& wanted) {
         return "INSERT INTO SYS_SETTING (NAME, VALUE) VALUES (" + host::quoted(name) + "," +
                host::quoted(value) + ");";
     };
-    return "INSERT INTO SYS_LOG_HEAD (LAST_ID, HASH, FIRST_TEXT) VALUES (0,'',1);"
-           "INSERT INTO D6600 (ID, PARAM) VALUES (1,''),(2,''),(3,'" +
+    return "INSERT INTO D6600 (ID, PARAM) VALUES (1,''),(2,''),(3,'" +
            std::to_string(wanted.scheme) + "');" + keep_words_of(wanted.scheme) +
            "INSERT INTO SYS_USER (USER_ID, USER_NAME, PASSWORD_HASH, ADMINISTRATOR) VALUES "
            "('admin','管理员'," +
@@ -84,6 +83,7 @@ void build(engines::Session& session, const NewBooks& wanted, const host::Clock&
     for (const schema::TemplateTable& table : schema::template_tables(wanted.template_name))
         insert_rows(session, table);
     run(session, own_rows(wanted), "帐套参数");
+    require(begin_log_head(session), "操作日志");
     require(append_log_row(session, clock.now(), "admin", {"new", "", "Add"}, ""), "操作日志");
     require(session.commit(), "保存");
 }

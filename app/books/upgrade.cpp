@@ -50,6 +50,7 @@ void create_what_is_missing(engines::Session& session, const host::Clock& clock,
         created += (created.empty() ? "" : ",") + std::string(object.name);
         if (object.name == "SYS_ROLE_RIGHT")
             require(session, session.execute(standard_roles_batch(), nobody));
+        if (object.name == "SYS_LOG_HEAD") require(session, begin_log_head(session));
     }
     require(session, append_log_row(session, clock.now(), user, {"books", "", "Upgrade"}, created));
     require(session, session.commit());

@@ -42,6 +42,17 @@ TEST_F(Upgrade, role_tables_come_with_the_standard_roles_and_a_row_of_the_log) {
     EXPECT_TRUE(automation::check_books(*session_).empty());
 }
 
+TEST_F(Upgrade, a_log_from_before_texts_were_kept_goes_on_with_them) {
+    run("DROP TABLE SYS_LOG_HEAD; DROP TABLE SYS_LOG_TEXT");
+    EXPECT_TRUE(automation::check_books(*session_).empty()) << "an old log is no damage";
+    upgrade();
+    EXPECT_EQ(value("SELECT CAST(LAST_ID AS varchar) + '/' + CAST(FIRST_TEXT AS varchar) "
+                    "FROM SYS_LOG_HEAD"),
+              "2/2");
+    EXPECT_EQ(value("SELECT BATCH FROM SYS_LOG_TEXT"), "SYS_LOG_HEAD,SYS_LOG_TEXT");
+    EXPECT_TRUE(automation::check_books(*session_).empty());
+}
+
 TEST_F(Upgrade, books_that_lack_nothing_are_not_written) {
     const std::string rows = value("SELECT COUNT(*) FROM SYS_LOG");
     upgrade();

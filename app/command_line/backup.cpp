@@ -4,6 +4,7 @@
 
 #include "app/books/backup.h"
 #include "app/command_line/commands.h"
+#include "app/command_line/terminal_progress.h"
 #include "app/settings/surroundings.h"
 
 namespace app {
@@ -22,6 +23,12 @@ std::string moment() {
     return text;
 }
 
+CopyProgress shown_on(TerminalProgress& terminal) {
+    return [&terminal](const std::string& what, std::int64_t done, std::int64_t all) {
+        return terminal.report(what, done, all);
+    };
+}
+
 } // namespace
 
 void add_backup(CLI::App& program, Chosen& chosen) {
@@ -31,7 +38,8 @@ void add_backup(CLI::App& program, Chosen& chosen) {
     command->add_option("FILE", names->file, "备份文件")->required();
     command->callback([names, &chosen] {
         chosen = [names] {
-            backup_books(names->books, names->file);
+            TerminalProgress terminal;
+            backup_books(names->books, names->file, shown_on(terminal));
             tell("已备份到 " + names->file + "。");
             return 0;
         };
@@ -45,7 +53,9 @@ void add_restore(CLI::App& program, Chosen& chosen) {
     command->add_option("BOOKS", names->books, "帐套文件")->required();
     command->callback([names, &chosen] {
         chosen = [names] {
-            const std::string aside = restore_books(names->file, names->books, moment());
+            TerminalProgress terminal;
+            const std::string aside =
+                restore_books(names->file, names->books, moment(), shown_on(terminal));
             if (!aside.empty()) tell("原帐套已改名为 " + aside + "。");
             tell("已恢复帐套 " + names->books + "。");
             return 0;

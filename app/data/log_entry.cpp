@@ -59,6 +59,15 @@ std::string insert_row(const schema::LogRow& row, const std::string& hash) {
 
 } // namespace
 
+engines::Outcome begin_log_head(engines::Session& session) {
+    engines::ResultReceiver nobody;
+    return session.execute(
+        "INSERT INTO SYS_LOG_HEAD (LAST_ID, HASH, FIRST_TEXT) SELECT ISNULL(MAX(ID), 0), "
+        "RTRIM(ISNULL((SELECT TOP 1 HASH FROM SYS_LOG ORDER BY ID DESC), '')), "
+        "ISNULL(MAX(ID), 0) + 1 FROM SYS_LOG",
+        nobody);
+}
+
 engines::Outcome append_log_row(engines::Session& session, host::DateTime now,
                                 const std::string& user, const host::LogEntry& entry,
                                 std::string_view batch) {

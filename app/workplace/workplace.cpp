@@ -1,6 +1,7 @@
 // Puts engine, settings and clock behind the host's ports.
 #include "app/workplace/workplace.h"
 
+#include "app/administration/audit_service.h"
 #include "app/books/open.h"
 #include "app/books/upgrade.h"
 #include "automation/sql/collected_result.h"
@@ -53,9 +54,11 @@ Workplace::Workplace(const std::string& books, const std::optional<host::Date>& 
     host.clock = &clock_;
     host.settings = &settings_;
     host.random = &random_;
+    open_for_audit() = [books] { return open_books(books); };
 }
 
 Workplace::~Workplace() {
+    open_for_audit() = nullptr;
     host::Host& host = host::the_host();
     host.data = nullptr;
     host.may = [](const host::Right&) { return false; };

@@ -2,6 +2,7 @@
 #include "automation/check/check.h"
 
 #include <chrono>
+#include <span>
 
 #include "automation/check/findings.h"
 
@@ -27,7 +28,7 @@ constexpr Check checks[] = {
     {"期末余额不符", check_closing_balances},
     {"往来单据结算不符", check_settlements},
     {"收付款单金额不符", check_receipts},
-    {"操作日志", check_log},
+    {"操作日志", check_log}, // the last one: it is also asked for alone
 };
 
 constexpr std::chrono::milliseconds a_moment{100};
@@ -35,8 +36,8 @@ constexpr std::chrono::milliseconds a_moment{100};
 // Tells how far the audit is, also in the middle of a statement, until it is stopped.
 class Telling {
 public:
-    Telling(engines::Session& session, const AuditProgress& progress)
-        : session_(session), progress_(progress) {
+    Telling(engines::Session& session, const AuditProgress& progress, std::int64_t all)
+        : session_(session), progress_(progress), all_(all) {
         if (!progress_) return;
         session_.set_progress([this](std::int64_t, std::int64_t) { return tell(); }, a_moment);
     }
@@ -50,21 +51,21 @@ public:
 
     bool begin(const char* check) {
         check_ = check;
-        const bool go_on = tell();
         ++done_;
-        return go_on;
+        return tell();
     }
     bool stopped() const { return stopped_; }
 
 private:
     bool tell() {
-        if (progress_ && !stopped_) stopped_ = !progress_(check_, done_, std::ssize(checks));
+        if (progress_ && !stopped_) stopped_ = !progress_(check_, done_, all_);
         return !stopped_;
     }
     engines::Session& session_;
     const AuditProgress& progress_;
+    const std::int64_t all_;
     const char* check_ = "";
-    std::int64_t done_ = 0;
+    std::int64_t done_ = -1; // checks that ended
     bool stopped_ = false;
 };
 
@@ -79,16 +80,25 @@ void run(const Check& check, engines::Session& session, Audit& audit) {
     for (std::string& text : findings.take_hints()) audit.hints.push_back({check.name, text});
 }
 
-} // namespace
-
-std::optional<Audit> audit_books(engines::Session& session, const AuditProgress& progress) {
+std::optional<Audit> run_all(std::span<const Check> wanted, engines::Session& session,
+                             const AuditProgress& progress) {
     Audit audit;
-    Telling telling(session, progress);
-    for (const Check& check : checks) {
+    Telling telling(session, progress, std::ssize(wanted));
+    for (const Check& check : wanted) {
         if (telling.begin(check.name)) run(check, session, audit);
         if (telling.stopped()) return std::nullopt;
     }
     return audit;
+}
+
+} // namespace
+
+std::optional<Audit> audit_books(engines::Session& session, const AuditProgress& progress) {
+    return run_all(checks, session, progress);
+}
+
+std::optional<Audit> audit_log(engines::Session& session, const AuditProgress& progress) {
+    return run_all(std::span(checks).last<1>(), session, progress);
 }
 
 std::vector<Finding> check_books(engines::Session& session) {

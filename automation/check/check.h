@@ -29,6 +29,9 @@ using AuditProgress = std::function<bool(const std::string& check, std::int64_t 
 // only, in one pass a check; other users may go on working.
 std::optional<Audit> audit_books(engines::Session& session, const AuditProgress& progress = {});
 
+// The same for the operation log alone.
+std::optional<Audit> audit_log(engines::Session& session, const AuditProgress& progress = {});
+
 // The findings alone.
 std::vector<Finding> check_books(engines::Session& session);
 

@@ -10,9 +10,13 @@ namespace automation {
 
 namespace {
 
-constexpr const char* rows_with_texts =
-    "SELECT L.ID, L.LOG_TIME, L.USER_ID, L.FUNCTION_CODE, L.DOC_KEY, L.OPERATION, L.DIGEST, "
-    "L.HASH, T.BATCH FROM SYS_LOG L LEFT JOIN SYS_LOG_TEXT T ON T.ID = L.ID ORDER BY L.ID";
+std::string rows_query(bool texts) {
+    const std::string columns = "SELECT L.ID, L.LOG_TIME, L.USER_ID, L.FUNCTION_CODE, L.DOC_KEY, "
+                                "L.OPERATION, L.DIGEST, L.HASH, ";
+    return columns + (texts ? "T.BATCH FROM SYS_LOG L LEFT JOIN SYS_LOG_TEXT T ON T.ID = L.ID"
+                            : "NULL FROM SYS_LOG L") +
+           " ORDER BY L.ID";
+}
 
 std::string text_of_cell(const engines::Value& cell) {
     return cell.is_null() ? "" : engines::text_of(cell);
@@ -37,7 +41,7 @@ public:
         for (std::size_t i = 0; i < std::size(texts); ++i) *texts[i] = text_of_cell(cells[i + 2]);
         const std::string hash = text_of_cell(cells[7]);
         check_place(row, hash);
-        if (row.id >= head_.first_text) check_text(row, cells[8]);
+        if (head_.kept && row.id >= head_.first_text) check_text(row, cells[8]);
         previous_ = hash;
         expected_ = row.id + 1;
         return true;
@@ -45,6 +49,10 @@ public:
 
     // After the last row: does the log reach to where its head says?
     void finish() {
+        if (!head_.kept) {
+            findings_.hint("由以前的程序建立,没有保存内容和末尾的记载;管理员登录一次后补上");
+            return;
+        }
         if (!head_.found) {
             findings_.add("日志末尾的记载(SYS_LOG_HEAD)不见了,不能断定末尾有没有被截去");
             return;
@@ -91,9 +99,10 @@ private:
 void check_log(engines::Session& session, Findings& findings) {
     const LogHead head = read_log_head(session);
     Chain chain(head, findings);
-    const engines::Outcome outcome = session.execute(rows_with_texts, chain);
+    const engines::Outcome outcome = session.execute(rows_query(head.kept), chain);
     if (!outcome.ok()) throw engines::Failure(*outcome.error);
     chain.finish();
+    if (!head.kept) return;
     add_rows(session,
              "SELECT '内容没有所属的记录: 第', T.ID, '条' FROM SYS_LOG_TEXT T "
              "WHERE NOT EXISTS (SELECT * FROM SYS_LOG L WHERE L.ID = T.ID) ORDER BY T.ID",

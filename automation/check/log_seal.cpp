@@ -38,6 +38,8 @@ std::optional<Seal> parsed(std::string_view text) {
 
 LogHead read_log_head(engines::Session& session) {
     LogHead head;
+    head.kept = rows_of(session, "SELECT OBJECT_ID('SYS_LOG_HEAD')")[0][0].has_value();
+    if (!head.kept) return head;
     const auto rows = rows_of(session, "SELECT LAST_ID, HASH, FIRST_TEXT FROM SYS_LOG_HEAD");
     if (rows.empty()) return head;
     head.found = true;

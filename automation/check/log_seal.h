@@ -12,6 +12,7 @@ namespace automation {
 
 // The one row of SYS_LOG_HEAD.
 struct LogHead {
+    bool kept = false; // the books know heads and texts of logs: they are not of an earlier program
     bool found = false;
     std::int64_t last = 0;       // number of the last row
     std::string hash;            // of the last row

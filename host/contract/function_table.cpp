@@ -48,6 +48,9 @@ constexpr Function masterdata[] = {
 constexpr Function administration[] = {{0, "用户", list, "users"},
                                        {0, "角色与权限", list, "roles"},
                                        {0, "帐套设置", opens | changes, "books"},
+                                       {0, "操作日志", report, "log"},
+                                       {0, "核对帐套", report, "check"},
+                                       {0, "备份帐套", opens, "backup"},
                                        {0, "修改密码", 0, "password"}};
 
 constexpr WorkArea areas[] = {

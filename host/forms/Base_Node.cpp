@@ -126,7 +126,7 @@ void TFrm_Base_Node::Act_ExportExecute() {
         lines += csv_field(code) + "," + csv_field(name) + "," +
                  std::to_string(node->level() + 1) + "\r\n";
     }
-    save_text_as(Caption, lines, "已导出 " + std::to_string(nodes.size()) + " 行到 ");
+    save_text_as(Caption, [&] { return lines; }, "已导出 " + std::to_string(nodes.size()) + " 行到 ");
 }
 
 void TFrm_Base_Node::search(bool next) {

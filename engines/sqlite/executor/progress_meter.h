@@ -20,7 +20,7 @@ public:
     void listen(Session::BatchProgress listener, std::chrono::milliseconds every);
     // A batch of so many statements begins.
     void begin(std::int64_t all);
-    void statement_done() { ++done_; }
+    void statement_done();
 
 private:
     using Clock = std::chrono::steady_clock;

@@ -3,9 +3,12 @@
 
 #include <vector>
 
+#include "host/contract/U_function.h"
 #include "host/controls/grid.h"
 #include "host/controls/grid_groups.h"
+#include "host/forms/parts/long_work.h"
 #include "host/forms/parts/text_file.h"
+#include "host/values/errors.h"
 #include "host/values/text.h"
 
 namespace host {
@@ -49,6 +52,21 @@ void add_line(std::string& lines, const std::vector<int>& columns, Text text) {
     lines += "\r\n";
 }
 
+void add_rows(std::string& lines, const TDBGridEh& grid, const std::vector<int>& columns) {
+    const int rows = grid.DataSet->RecordCount();
+    bool go_on = true;
+    {
+        LongWork work("正在导出…", rows);
+        for (int row = 0; row < rows && go_on; ++row) {
+            add_line(lines, columns, [&](int i) { return cell(grid, row, i); });
+            go_on = work.step();
+        }
+    }
+    if (go_on) return;
+    DISPINFO("导出已取消,没有写文件!", 5);
+    Abort();
+}
+
 } // namespace
 
 std::string grid_as_csv(const TDBGridEh& grid) {
@@ -57,8 +75,7 @@ std::string grid_as_csv(const TDBGridEh& grid) {
     add_line(lines, columns, [&](int i) {
         return replaced(grid.Columns[static_cast<std::size_t>(i)].Title, "|", " ");
     });
-    for (int row = 0; row < grid.DataSet->RecordCount(); ++row)
-        add_line(lines, columns, [&](int i) { return cell(grid, row, i); });
+    add_rows(lines, grid, columns);
     bool footers = false;
     for (const GridColumn& column : grid.Columns)
         footers = footers || (column.Visible && column.Footer != FooterKind::None);
@@ -69,7 +86,7 @@ std::string grid_as_csv(const TDBGridEh& grid) {
 
 void export_grid(const TDBGridEh& grid, const std::string& title) {
     if (grid.DataSet == nullptr) return;
-    save_text_as(title, grid_as_csv(grid),
+    save_text_as(title, [&] { return grid_as_csv(grid); },
                  "已导出 " + std::to_string(grid.DataSet->RecordCount()) + " 行到 ");
 }
 

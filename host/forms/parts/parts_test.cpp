@@ -1,4 +1,7 @@
 // What base forms share: date ranges, locks, audits, deletes, search, export, columns.
+#include <chrono>
+#include <thread>
+
 #include "host/controls/grid.h"
 #include "host/controls/grid_groups.h"
 #include "host/forms/Base_Entry_Head.h"
@@ -214,6 +217,24 @@ TEST_F(Parts, an_export_says_of_each_line_to_which_group_it_belongs) {
     form.Grid.AutoFooter = false;
     EXPECT_EQ(grid_as_csv(form.Grid), "\xEF\xBB\xBF科目,期末 KM_ID,期末 J\r\n"
                                       "1002,1002,1.00\r\n");
+}
+
+TEST_F(Parts, a_long_export_tells_how_far_it_is_and_writes_nothing_when_stopped) {
+    TSheet form;
+    // Cells that take long enough for a report every few hundred rows.
+    form.rows.DefineField("KM_ID", FieldType::Text).OnGetText = [](const TField& field) {
+        std::this_thread::sleep_for(std::chrono::microseconds(500));
+        return field.AsText();
+    };
+    for (int i = 0; i < 1000; ++i) form.add("1001", "1");
+    const std::string all = grid_as_csv(form.Grid);
+    // Every 256 rows the clock is looked at; all of them lie more than a tenth of a second apart.
+    EXPECT_EQ(desk.ui.reports, (std::vector<std::string>{"正在导出… 256/1000", "正在导出… 512/1000",
+                                                         "正在导出… 768/1000", "正在导出… 1/1"}));
+    desk.ui.stop_at_report = desk.ui.reports.size() + 1;
+    desk.ui.file = "/no/such/folder/a.csv";
+    EXPECT_THROW(export_grid(form.Grid, "科目"), EAbort);
+    EXPECT_EQ(desk.ui.last_message(), "导出已取消,没有写文件!");
 }
 
 TEST_F(Parts, an_export_that_cannot_be_written_is_said) {

@@ -21,11 +21,13 @@ std::string file_name_of(const std::string& title) {
 
 } // namespace
 
-void save_text_as(const std::string& title, const std::string& text, const std::string& done) {
+void save_text_as(const std::string& title, const std::function<std::string()>& text,
+                  const std::string& done) {
     const auto path = the_host().ui->choose_file_to_save("导出" + title, file_name_of(title));
     if (!path || path->empty()) return;
+    const std::string content = text(); // made before the file is touched
     std::ofstream file(std::filesystem::path(*path), std::ios::binary | std::ios::trunc);
-    file << text;
+    file << content;
     file.close();
     DISPINFO(file ? done + *path
                   : "文件“" + *path + "”不能写入，请换一个位置，或关闭正在使用它的程序后再试。", 5);
