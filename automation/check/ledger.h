@@ -48,7 +48,8 @@ std::map<PeriodAccount, Movement> movements_of_vouchers(engines::Session& sessio
 Movement at(const std::map<PeriodAccount, Movement>& rows, const PeriodAccount& key);
 
 // Adds to the account and to everything above it.
-void add_upwards(const Ledger& ledger, AccountId id, const std::function<void(const AccountId&)>& add);
+void add_upwards(const Ledger& ledger, AccountId id,
+                 const std::function<void(const AccountId&)>& add);
 
 // Cents as a person writes them: -5 is "-0.05".
 std::string money(std::int64_t cents);

@@ -36,7 +36,8 @@ bool holds(const std::map<PeriodAccount, Movement>& rows, const std::string& per
 } // namespace
 
 Openings openings_of(const Ledger& ledger) {
-    Openings openings{year_row(ledger.periods.first), previous_period(ledger.periods.first), {}, {}};
+    const std::string& first = ledger.periods.first;
+    Openings openings{year_row(first), previous_period(first), {}, {}};
     std::map<AccountId, Movement> sides;
     for (const auto& [id, account] : ledger.accounts) {
         add_upwards(ledger, id, [&](const AccountId& up) {

@@ -46,9 +46,11 @@ public:
                              "T,D,T_SY) VALUES (?1,?2,?3,?4,1,?5,'admin',0,0,0)"),
           line_(connection_, "INSERT INTO D6601A (NOID,ZY,KM_ID,J,D,INX) "
                              "VALUES (?1,?2,?3,?4,?5,?6)"),
-          last_(connection_, "SELECT ID, HASH FROM SYS_LOG ORDER BY ID DESC LIMIT 1"),
+          last_(connection_, "SELECT LAST_ID, HASH FROM SYS_LOG_HEAD"),
           log_(connection_, "INSERT INTO SYS_LOG (ID,LOG_TIME,USER_ID,FUNCTION_CODE,DOC_KEY,"
-                            "OPERATION,DIGEST,HASH) VALUES (?1,?2,'admin','661',?3,'Add',?4,?5)") {}
+                            "OPERATION,DIGEST,HASH) VALUES (?1,?2,'admin','661',?3,'Add',?4,?5)"),
+          text_(connection_, "INSERT INTO SYS_LOG_TEXT (ID,BATCH) VALUES (?1,?2)"),
+          head_of_log_(connection_, "UPDATE SYS_LOG_HEAD SET LAST_ID=?1,HASH=?2") {}
 
     void save(const NextVoucher& voucher, const std::vector<std::string>& accounts,
               std::int64_t ticks, const std::string& text) {
@@ -77,17 +79,19 @@ private:
         last_.reset();
         const std::string hash = schema::chained_hash(previous, row);
         log_.bind(1, row.id).bind(2, ticks).bind(3, key).bind(4, row.digest).bind(5, hash).run();
+        text_.bind(1, row.id).bind(2, text).run();
+        head_of_log_.bind(1, row.id).bind(2, hash).run();
     }
 
     hand::Connection connection_;
-    hand::Statement head_, line_, last_, log_;
+    hand::Statement head_, line_, last_, log_, text_, head_of_log_;
 };
 
 } // namespace
 
 std::vector<Row> saving(const BigBooks& books) {
-    HandSaver hand(books.file);
     OurSession ours(books.file);
+    HandSaver hand(books.file);
     NextVoucher by_hand{hand_word, books.last.to_text(), books.last.first_day().to_text(), 0};
     NextVoucher by_us = by_hand;
     by_us.word = our_word;

@@ -2,6 +2,7 @@
 #include "bench/measures/session.h"
 
 #include "app/books/engines.h"
+#include "app/books/upgrade.h"
 #include "engines/engine.h"
 
 namespace bench {
@@ -21,7 +22,10 @@ struct SummingReceiver : host::RowReceiver {
 
 OurSession::OurSession(const std::string& file)
     : session_(app::engine_for(file).open(file, {})),
-      data_(std::make_unique<app::EngineData>(*session_, clock_, "admin")) {}
+      data_(std::make_unique<app::EngineData>(*session_, clock_, "admin")) {
+    // The books may have been made before a table came into being.
+    app::create_what_is_missing(*session_, clock_, "admin");
+}
 
 std::int64_t OurSession::read(const std::string& query) {
     SummingReceiver receiver;

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/dialogs/panel_dialog.h"
+#include "desktop/dialogs/veil.h"
 #include "desktop/renderers/hinted_button.h"
 #include "desktop/theme/fonts.h"
 #include "desktop/theme/text.h"
@@ -23,7 +24,9 @@ ProgressDialog::ProgressDialog() = default;
 ProgressDialog::~ProgressDialog() = default;
 
 void ProgressDialog::open() {
-    dialog_ = std::make_unique<PanelDialog>(QStringLiteral("请稍候"), window_in_front());
+    QWidget* below = window_in_front();
+    veil_ = std::make_unique<Veil>(below);
+    dialog_ = std::make_unique<PanelDialog>(QStringLiteral("请稍候"), below);
     dialog_->setObjectName("progress");
     dialog_->setFixedWidth(420);
     auto* column = new QVBoxLayout;
@@ -73,6 +76,7 @@ bool ProgressDialog::report(const std::string& what, std::int64_t done, std::int
 
 void ProgressDialog::end() {
     dialog_.reset();
+    veil_.reset();
     since_.invalidate();
     stopped_ = false;
 }

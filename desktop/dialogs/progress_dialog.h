@@ -12,6 +12,7 @@ class QProgressBar;
 namespace desktop {
 
 class PanelDialog;
+class Veil;
 
 // Appears only when the work lasts longer than a moment, and goes when it is done.
 class ProgressDialog {
@@ -24,6 +25,7 @@ public:
 
 private:
     void open();
+    std::unique_ptr<Veil> veil_;
     std::unique_ptr<PanelDialog> dialog_;
     QLabel* words_ = nullptr;
     QLabel* count_ = nullptr;

@@ -16,6 +16,10 @@ BooksOptions march() {
 
 LedgerDesk::LedgerDesk() : books(march()), anna(books.data(), books.person()) {}
 
+void LedgerDesk::TearDown() {
+    if (!written_past_forms) EXPECT_EQ(books.findings(), "");
+}
+
 void LedgerDesk::new_voucher() {
     anna.open(661);
     anna.click("Act_Add");

@@ -6,6 +6,7 @@
 
 #include "app/books/open.h"
 #include "app/data/engine_data.h"
+#include "automation/check/check.h"
 #include "automation/sql/collected_result.h"
 #include "host/values/text.h"
 #include "tests/support/fresh_books.h"
@@ -113,6 +114,13 @@ std::string Books::value(const std::string& select) {
     if (!result.outcome.ok()) ADD_FAILURE() << select << "\n" << result.outcome.error->text;
     if (result.sets.empty() || result.sets.front().rows.empty()) return {};
     return result.sets.front().rows.front().front().value_or("<null>");
+}
+
+std::string Books::findings() {
+    std::string all;
+    for (const automation::Finding& finding : automation::check_books(*parts_->reader))
+        all += finding.check + ": " + finding.text + "\n";
+    return all;
 }
 
 void Books::execute(const std::string& batch) {

@@ -40,6 +40,8 @@ public:
     // Direct looks at the tables, on a session of their own. Values as text, "<null>" for NULL.
     Rows table(const std::string& select);
     std::string value(const std::string& select); // first column of the first row; "" without one
+    // What the audit of the books finds, a line each; "" for sound books.
+    std::string findings();
     // Set-up that no form of the test's subject could make; fails the test when refused.
     void execute(const std::string& batch);
 

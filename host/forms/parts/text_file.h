@@ -6,7 +6,7 @@
 
 namespace host {
 
-// Asks where to, suggesting a file name made of `title`, writes what `text` answers and says `done`;
+// Asks where to, suggesting a file name made of `title`, writes what `text` answers, says `done`;
 // what kept the file from being written is shown. Nothing happens when the person changes his mind.
 void save_text_as(const std::string& title, const std::function<std::string()>& text,
                   const std::string& done);

@@ -38,14 +38,15 @@ TEST_F(OperationLog, lists_the_newest_first_in_words) {
     admin.open_host("log");
     EXPECT_EQ(admin.caption(), "操作日志");
     const Rows rows = admin.rows();
-    ASSERT_EQ(rows.size(), 2u);
+    ASSERT_EQ(rows.size(), 3u); // made, set up, and this
     EXPECT_EQ(rows[0].at("FUNCTION_CODE"), "用户");
     EXPECT_EQ(rows[0].at("OPERATION"), "新增");
     EXPECT_EQ(rows[0].at("DOC_KEY"), "li");
     EXPECT_EQ(rows[0].at("USER_ID"), "admin");
     EXPECT_TRUE(rows[0].at("LOG_TIME").starts_with("2024-03-15")) << rows[0].at("LOG_TIME");
-    EXPECT_EQ(rows[1].at("FUNCTION_CODE"), "建立帐套");
-    EXPECT_EQ(admin.value("ConditionLabel"), " ●全部记录    共 2 条");
+    EXPECT_EQ(rows[1].at("FUNCTION_CODE"), "699 会计科目初始");
+    EXPECT_EQ(rows[2].at("FUNCTION_CODE"), "建立帐套");
+    EXPECT_EQ(admin.value("ConditionLabel"), " ●全部记录    共 3 条");
 }
 
 TEST_F(OperationLog, shows_what_the_row_changed_a_statement_a_line) {
@@ -74,7 +75,7 @@ TEST_F(OperationLog, is_narrowed_by_days_user_function_operation_and_document) {
         const char *from, *to, *user, *function, *operation, *document, *condition;
         int rows;
     } const cases[] = {
-        {"", "", "全部", "全部", "全部", "", " WHERE (1=1)", 3},
+        {"", "", "全部", "全部", "全部", "", " WHERE (1=1)", 4},
         {"2024-03-15", "2024-03-15", "全部", "用户", "全部", "",
          " WHERE (1=1) AND (SYS_LOG.LOG_TIME>='2024-03-15') AND (SYS_LOG.LOG_TIME<'2024-03-16') "
          "AND (SYS_LOG.FUNCTION_CODE='users')", 1},
@@ -118,8 +119,8 @@ TEST_F(OperationLog, a_large_log_opens_with_its_newest_rows_and_more_on_demand) 
     EXPECT_EQ(admin.value("ConditionLabel"), " ●全部记录    最近 500 条,按 F7 看更多");
     EXPECT_EQ(admin.value("BATCH"), "(这条记录没有保存内容)");
     admin.key("F7");
-    EXPECT_EQ(admin.row_count(), 1201);
-    EXPECT_EQ(admin.value("ConditionLabel"), " ●全部记录    共 1201 条");
+    EXPECT_EQ(admin.row_count(), 1202);
+    EXPECT_EQ(admin.value("ConditionLabel"), " ●全部记录    共 1202 条");
     EXPECT_FALSE(admin.enabled("Act_Other"));
 }
 
@@ -127,11 +128,11 @@ TEST_F(OperationLog, tells_whether_it_is_as_it_was_written) {
     add_summary("付款");
     admin.open_host("log");
     admin.click("Act_Check");
-    EXPECT_TRUE(admin.next_message().starts_with("操作日志完整,没有被改动过。封条: 2-"));
-    books.execute("UPDATE SYS_LOG SET DOC_KEY='别的' WHERE ID=2");
+    EXPECT_TRUE(admin.next_message().starts_with("操作日志完整,没有被改动过。封条: 3-"));
+    books.execute("UPDATE SYS_LOG SET DOC_KEY='别的' WHERE ID=3");
     admin.click("Act_Check");
     const std::string message = admin.next_message();
-    EXPECT_TRUE(message.starts_with("操作日志有 1 处问题:\n第 2 条记录(2024-03-15 ")) << message;
+    EXPECT_TRUE(message.starts_with("操作日志有 1 处问题:\n第 3 条记录(2024-03-15 ")) << message;
     EXPECT_TRUE(message.ends_with(" admin 683 别的)被改动过")) << message;
 }
 
@@ -139,7 +140,7 @@ TEST_F(OperationLog, the_books_are_checked_in_a_list) {
     admin.open_host("check");
     EXPECT_EQ(admin.row_count(), 0);
     EXPECT_TRUE(admin.value("ConditionLabel").starts_with(
-        "帐套没有发现问题。    操作日志封条: 1-"))
+        "帐套没有发现问题。    操作日志封条: 2-"))
         << admin.value("ConditionLabel");
     books.execute("INSERT INTO D6601A (NOID, ZY, KM_ID, J, D, INX) VALUES ('x','x','1001',1,0,0)");
     admin.key("F5");

@@ -151,6 +151,7 @@ TEST_F(ClosingLedger, an_unaudited_voucher_blocks_even_when_it_counts_as_posted)
     new_voucher();
     save_voucher("1001", "5101", "1000");
     leave_vouchers();
+    written_past_forms = true;
     books.execute("UPDATE D6601 SET T=0, D=1");
     anna.open(668);
     anna.click("btn_ok");

@@ -23,6 +23,7 @@ class OpeningLedger : public testing::Test {
 protected:
     OpeningLedger() : books(not_set_up()), anna(books.data(), books.person()) {}
 
+    void TearDown() override { EXPECT_EQ(books.findings(), ""); }
     void add_account(const std::string& below, const std::string& code, const std::string& name,
                      bool debit = true) {
         anna.node(below);
