@@ -50,6 +50,22 @@ TEST_F(CreateBooks, new_books_hold_the_template_the_user_and_the_company) {
     EXPECT_EQ(folder_.files(), 1u);
 }
 
+TEST_F(CreateBooks, are_refused_beside_the_journal_of_books_that_were_deleted) {
+    for (const char* suffix : {"-wal", "-journal"}) {
+        const std::string journal = folder_.file("a.zf") + suffix;
+        std::ofstream(journal) << "x";
+        try {
+            create_books(wanted(), clock_);
+            FAIL() << suffix;
+        } catch (const Refusal& refusal) {
+            EXPECT_EQ(std::string(refusal.what()),
+                      "文件 " + journal + " 是以前的同名帐套留下的,请先移走它,或换一个名称!");
+        }
+        EXPECT_EQ(folder_.files(), 1u);
+        std::filesystem::remove(journal);
+    }
+}
+
 TEST_F(CreateBooks, voucher_words_are_those_of_the_scheme_and_the_carry_forwards) {
     const std::pair<int, const char*> schemes[] = {{1, "1"}, {2, "4"}, {3, "6"}};
     for (const auto& [scheme, words] : schemes) {

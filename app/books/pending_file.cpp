@@ -21,6 +21,16 @@ void refuse_existing(const std::string& target) {
         throw Refusal("文件 " + target + " 已经存在,不会被覆盖,请换一个名称!");
 }
 
+// Where only the file of a set of books was deleted, its journal still stands beside it and would
+// be taken for the new file's: the new books would be damaged at once.
+void refuse_orphaned_journal(const std::string& target) {
+    std::error_code ignored;
+    for (const char* suffix : {"-wal", "-journal"})
+        if (fs::exists(fs::symlink_status(target + suffix, ignored)))
+            throw Refusal("文件 " + target + suffix +
+                          " 是以前的同名帐套留下的,请先移走它,或换一个名称!");
+}
+
 void sync(const std::string& path, int flags) {
     const int file = ::open(path.c_str(), flags);
     if (file < 0) return;
@@ -37,6 +47,7 @@ std::string folder_of(const std::string& path) {
 
 PendingFile::PendingFile(std::string target) : target_(std::move(target)) {
     refuse_existing(target_);
+    refuse_orphaned_journal(target_);
     std::error_code ignored;
     if (!fs::is_directory(folder_of(target_), ignored))
         throw Refusal("文件夹 " + folder_of(target_) + " 不存在,请先建立!");
