@@ -67,6 +67,7 @@ void LedgerForm::build_group_grid() {
                          balance};
     GroupGrid.OnGetCellParams = DBGridEh.OnGetCellParams;
     GroupGrid.OnTitleClick = [](int) {};
+    GroupGrid.OnDblClick = [this] { DBGridEh.SetFocus(); }; // on to its lines
     GroupGrid.ReadOnly = true;
     GroupGrid.TabStop = false;
     Groups.Open();
@@ -86,16 +87,38 @@ void LedgerForm::arrange(bool with_groups) {
 
 void LedgerForm::Act_LocateExecute() {
     TFrm_Base_Qry::Act_LocateExecute();
-    if (LedgerFilter* conditions = Conditions(); conditions->ResultText == SqlText)
-        ScopeLabel.Caption = conditions->Scope;
+    const LedgerFilter* conditions = Conditions();
+    if (conditions->ResultText != SqlText) return;
+    ScopeLabel.Caption = conditions->Scope;
+    SetTabTitle(""); // no longer the one account it was opened for
 }
 
 // ---- groups ----
 
+// Read anew, the ledger shows the same line of the same account.
 void LedgerForm::GetData() {
+    const bool again = SqlText == shown_sql_;
+    const int line = again ? line_in_group(AdoQry_Main.RecNo()) : 0;
     TFrm_Base_Qry::GetData();
+    shown_sql_ = SqlText;
     list_groups();
+    const int row = AdoQry_Main.RecNo();
+    if (row >= 0) AdoQry_Main.GotoRow(std::min(row + line, last_of_group(row)));
     row_chosen();
+}
+
+std::size_t LedgerForm::group_of(int row) const {
+    const auto after = std::upper_bound(group_rows_.begin(), group_rows_.end(), row);
+    return static_cast<std::size_t>(after - group_rows_.begin()) - 1;
+}
+
+int LedgerForm::line_in_group(int row) const {
+    return row < 0 || group_rows_.empty() ? 0 : row - group_rows_[group_of(row)];
+}
+
+int LedgerForm::last_of_group(int row) const {
+    const std::size_t next = group_of(row) + 1;
+    return (next < group_rows_.size() ? group_rows_[next] : AdoQry_Main.RecordCount()) - 1;
 }
 
 // An account's balance is the one its last row ends with.
@@ -106,13 +129,11 @@ void LedgerForm::list_groups() {
     Groups.EmptyDataSet();
     for (std::size_t group = 0; group < group_rows_.size(); ++group) {
         const int first = group_rows_[group];
-        const bool last = group + 1 == group_rows_.size();
-        const int next = last ? AdoQry_Main.RecordCount() : group_rows_[group + 1];
         Groups.Append();
         Groups.FieldByName("KM_ID").SetValue(text_of(AdoQry_Main, "KM_ID", first));
         Groups.FieldByName("KM_NAME").SetValue(own_name(text_of(AdoQry_Main, "KM_NAME", first)));
         Groups.FieldByName("E").SetValue(
-            AdoQry_Main.value_at(next - 1, AdoQry_Main.FieldByName("E").index()));
+            AdoQry_Main.value_at(last_of_group(first), AdoQry_Main.FieldByName("E").index()));
         Groups.Post();
     }
     Groups.MarkSaved();
@@ -144,8 +165,7 @@ void LedgerForm::row_chosen() {
     VoucherArrow.Visible = VoucherLabel.Visible = !voucher.empty();
     if (following_ || !any || group_rows_.empty()) return;
     following_ = true;
-    const auto after = std::upper_bound(group_rows_.begin(), group_rows_.end(), row);
-    Groups.GotoRow(static_cast<int>(after - group_rows_.begin()) - 1);
+    Groups.GotoRow(static_cast<int>(group_of(row)));
     following_ = false;
 }
 

@@ -49,7 +49,11 @@ private:
     void go_to_group(bool backward);
     void row_chosen();
     void group_chosen();
+    std::size_t group_of(int row) const;
+    int line_in_group(int row) const; // 0 for the first
+    int last_of_group(int row) const; // the last row of the group of `row`
     std::vector<int> group_rows_; // first row of each group
+    std::string shown_sql_;       // the statement whose rows are shown
     bool following_ = false;      // one grid follows the other
 };
 

@@ -219,6 +219,29 @@ TEST_F(DetailedLedger, the_accounts_listed_beside_lead_to_their_rows) {
     EXPECT_EQ(anna.value("VoucherLabel"), "凭证 记-8");
 }
 
+TEST_F(DetailedLedger, enter_on_an_account_goes_on_to_its_lines) {
+    Person& anna = at_the_ledger();
+    anna.row(1, "GroupGrid");
+    anna.key("Enter", "GroupGrid");
+    EXPECT_EQ(anna.focused(), "DBGridEh");
+    EXPECT_EQ(current_row(), 5);
+}
+
+TEST_F(DetailedLedger, read_anew_it_shows_the_same_line) {
+    Person& anna = at_the_ledger();
+    anna.row(6);
+    anna.key("F5", "DBGridEh");
+    EXPECT_EQ(current_row(), 6);
+    anna.row(8);
+    data.answer("EXEC SYS_685",
+                {"PZZ text", "E money", "KM_ID text", "KM_NAME text", "inx int", "NOID text"},
+                {{"记-7", "585", "1001", "现金", "0", "2024-03记007"},
+                 {"记-7", "0", "1131", "应收帐款-东方", "1", "2024-03记007"},
+                 {"记-8", "0", "1131", "应收帐款-东方", "1", "2024-03记008"}});
+    anna.key("F5", "DBGridEh");
+    EXPECT_EQ(current_row(), 2); // the last line the account has now
+}
+
 TEST_F(DetailedLedger, a_click_on_a_title_leaves_the_rows_in_their_order) {
     Person& anna = at_the_ledger();
     anna.inside([] {

@@ -1,4 +1,5 @@
 // The general ledger: its conditions word for word, the way to the lines behind a balance.
+#include "host/forms/form.h"
 #include "tests/forms/form_desk.h"
 #include "tests/forms/ledgers/ledger_answers.h"
 #include "tests/forms/small_books.h"
@@ -175,6 +176,7 @@ TEST_F(GeneralLedger, the_lines_of_a_balance_may_be_asked_for_under_other_condit
     anna.click("btn_ok");
     EXPECT_EQ(anna.value("ConditionLabel"),
               " ●会计年度:2024     ●会计期间:3  至  3     ●科目代码：2 至 999999999999999");
+    anna.inside([] { EXPECT_EQ(host::the_host().active->TabTitle(), "明细分类帐"); });
 }
 
 } // namespace
