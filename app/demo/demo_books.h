@@ -14,8 +14,9 @@ using DemoProgress = std::function<bool(const std::string& what, std::int64_t do
 
 // Creates the books and fills them as a person would, through the module's own forms: accounts in
 // the chart, opening balances, vouchers one by one, and every month audited, posted, carried
-// forward and closed; the last month stays open, part posted, part audited. A failure or a stop
-// leaves nothing. password: of the user admin, "" for none. Throws Refusal.
+// forward and closed, the year with its statements; the last month stays open, part posted, part
+// audited. A failure or a stop leaves nothing. password: of the user admin, "" for none. Throws
+// Refusal.
 void create_demo_books(const std::string& books, const std::string& password,
                        const DemoProgress& progress);
 

@@ -145,6 +145,16 @@ void close_period(Requests& to) {
     to.close();
 }
 
+// Balance sheet, income statement and cash flow statement as they are at the end of the period.
+void work_out_statements(const host::Period& period, Requests& to) {
+    for (const int code : {671, 673, 672}) {
+        to.open(code);
+        to.set("Edit1", period.to_text());
+        to.click("Act_Other");
+        to.close();
+    }
+}
+
 } // namespace
 
 std::vector<json> typed_start(const Story& story) {
@@ -170,6 +180,7 @@ std::vector<json> typed_month(const ToldMonth& month) {
     enter_vouchers(month.after_carrying, requests);
     audit(carried, carried + 1 + month.after_carrying.size(), requests);
     post(requests);
+    if (month.period.month() == 12) work_out_statements(month.period, requests);
     close_period(requests);
     return requests.take();
 }

@@ -13,7 +13,8 @@ namespace app {
 std::vector<nlohmann::json> typed_start(const Story& story);
 
 // A month's vouchers one by one with the allocation of their cash, audit, posting; a month that
-// closes also has its profit and loss carried forward and is closed.
+// closes also has its profit and loss carried forward and is closed; a year ends with its
+// statements.
 std::vector<nlohmann::json> typed_month(const ToldMonth& month);
 
 // Keeps these vouchers, by their places in the list of the open period, as templates.

@@ -85,6 +85,20 @@ TEST_F(DemoBooks, know_the_result_of_a_posted_month_from_its_balances_as_from_it
               by_vouchers);
 }
 
+// Assets equal debts and capital; the cash flow statement ends with what cash changed by; the
+// income statement ends with the profit that 3131 was closed with.
+TEST_F(DemoBooks, have_the_statements_of_the_year_and_they_agree_with_the_accounts) {
+    EXPECT_EQ(rows("SELECT COUNT(*) FROM D6830 WHERE G = 1 AND A2 = '67' AND A3 = B3 AND A4 = B4 "
+                   "AND CAST(A4 AS decimal(18,2)) > 0"),
+              told(R"([["1"]])"));
+    EXPECT_EQ(rows("SELECT CAST(A3 AS decimal(18,2)) FROM D6831 WHERE A2 = '56'"),
+              rows("SELECT CAST(A4 AS decimal(18,2)) - CAST(A3 AS decimal(18,2)) FROM D6830 "
+                   "WHERE G = 1 AND A2 = '1'"));
+    EXPECT_EQ(rows("SELECT CAST(A4 AS decimal(18,2)) FROM D6832 WHERE G = 1 AND A2 = '30'"),
+              rows("SELECT SUM(A.J) FROM D6601A A INNER JOIN D6601 H ON H.NOID = A.NOID WHERE "
+                   "H.PZQJ = '2023-12' AND A.KM_ID = '3131' AND A.ZY = '结转本年利润'"));
+}
+
 TEST_F(DemoBooks, have_templates_to_begin_vouchers_from) {
     EXPECT_EQ(rows("SELECT COUNT(DISTINCT NOID) FROM D6601M"), told(R"([["4"]])"));
 }
