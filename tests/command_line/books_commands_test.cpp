@@ -119,6 +119,35 @@ TEST_F(BooksCommands, check_tells_each_finding_and_ends_with_one) {
     EXPECT_NE(check.out.find("分录没有凭证头: x"), std::string::npos) << check.out;
 }
 
+TEST_F(BooksCommands, check_compares_the_log_with_a_seal_and_keeps_hints_off_the_findings) {
+    ASSERT_EQ(make("a.zf").status, 0);
+    const ProgramRun first = run_program({"check", books_});
+    const std::string label = "操作日志封条: ";
+    const std::size_t at = first.errors.find(label);
+    ASSERT_NE(at, std::string::npos) << first.errors;
+    const std::string seal =
+        first.errors.substr(at + label.size(), first.errors.find('\n', at) - at - label.size());
+    EXPECT_EQ(run_program({"check", books_, "--seal", seal}).status, 0) << seal;
+    std::string other = seal;
+    other.back() = other.back() == '0' ? '1' : '0';
+    const ProgramRun broken = run_program({"check", books_, "--seal", other});
+    EXPECT_EQ(broken.status, 1);
+    EXPECT_TRUE(broken.out.starts_with("操作日志: 封条 " + other + " 对不上")) << broken.out;
+    EXPECT_EQ(run_program({"check", books_, "--seal", "x"}).status, 1);
+    // A voucher dated outside its period may be, and is only told.
+    run_program({"sql", books_},
+                "INSERT INTO D6601 (NOID, PZQJ, PZZ, PZZ_H, BDATE, USER_ID) VALUES "
+                "('2024-03记001','2024-03','记',1,'2024-05-01','admin');"
+                "INSERT INTO D6601A (NOID, ZY, KM_ID, J, D, INX) VALUES "
+                "('2024-03记001','x','1001',1,0,0),('2024-03记001','x','3101',0,1,1)");
+    const ProgramRun hinted = run_program({"check", books_});
+    EXPECT_EQ(hinted.status, 0) << hinted.out;
+    EXPECT_EQ(hinted.out, "");
+    EXPECT_NE(hinted.errors.find("提示: 凭证状态不对: 2024-03记001: 凭证日期 2024-05-01"),
+              std::string::npos)
+        << hinted.errors;
+}
+
 TEST_F(BooksCommands, backup_and_restore_bring_the_books_back) {
     ASSERT_EQ(make("a.zf").status, 0);
     EXPECT_EQ(run_program({"backup", books_, folder_.file("copy")}).status, 0);
