@@ -1,10 +1,9 @@
 // zhangfang demo BOOKS
 #include <csignal>
-#include <cstdio>
 #include <memory>
-#include <unistd.h>
 
 #include "app/command_line/commands.h"
+#include "app/command_line/terminal_progress.h"
 #include "app/demo/demo_books.h"
 #include "app/login/password.h"
 #include "app/login/password_source.h"
@@ -23,16 +22,6 @@ void stop_on_interrupt() {
     });
 }
 
-// One line on a terminal, written anew at each step; nothing where nobody looks.
-bool show_progress(const std::string& what, std::int64_t done, std::int64_t total) {
-    static std::string shown;
-    const std::string line = what + " " + std::to_string(done * 100 / total) + "%";
-    if (isatty(STDERR_FILENO) != 0 && line != shown)
-        std::fprintf(stderr, "\r\033[K%s%s", line.c_str(), done + 1 == total ? "\r\033[K" : "");
-    shown = line;
-    return asked_to_stop == 0;
-}
-
 } // namespace
 
 void add_demo(CLI::App& program, Chosen& chosen) {
@@ -43,7 +32,12 @@ void add_demo(CLI::App& program, Chosen& chosen) {
         chosen = [books] {
             const std::string password = new_password("管理员 admin 的密码: ").value_or("");
             stop_on_interrupt();
-            create_demo_books(*books, password, show_progress);
+            TerminalProgress terminal;
+            create_demo_books(*books, password,
+                              [&](const std::string& what, std::int64_t done, std::int64_t total) {
+                                  terminal.report(what, done, total);
+                                  return asked_to_stop == 0;
+                              });
             tell("已建立演示帐套 " + *books + "。");
             return 0;
         };

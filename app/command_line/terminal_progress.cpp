@@ -17,15 +17,15 @@ constexpr const char* wipe = "\r\x1b[K";
 TerminalProgress::TerminalProgress() : terminal_(::isatty(STDERR_FILENO) == 1) {}
 
 TerminalProgress::~TerminalProgress() {
-    if (shown_) std::cerr << wipe << std::flush;
+    if (!shown_.empty()) std::cerr << wipe << std::flush;
 }
 
 bool TerminalProgress::report(const std::string& what, std::int64_t done, std::int64_t all) {
     if (!terminal_) return true;
-    shown_ = true;
-    std::cerr << wipe << what;
-    if (all > 0) std::cerr << ' ' << done * 100 / all << '%';
-    std::cerr << std::flush;
+    const std::string percent = all > 0 ? " " + std::to_string(done * 100 / all) + "%" : "";
+    if (what + percent == shown_) return true;
+    shown_ = what + percent;
+    std::cerr << wipe << shown_ << std::flush;
     return true;
 }
 

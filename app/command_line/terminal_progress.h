@@ -21,7 +21,7 @@ public:
 
 private:
     bool terminal_;
-    bool shown_ = false;
+    std::string shown_;
 };
 
 } // namespace app
