@@ -29,6 +29,17 @@ CopyProgress shown_on(TerminalProgress& terminal) {
     };
 }
 
+// Both wipe their progress off the terminal before anything else is said.
+void back_up(const Names& names) {
+    TerminalProgress terminal;
+    backup_books(names.books, names.file, shown_on(terminal));
+}
+
+std::string restore(const Names& names) {
+    TerminalProgress terminal;
+    return restore_books(names.file, names.books, moment(), shown_on(terminal));
+}
+
 } // namespace
 
 void add_backup(CLI::App& program, Chosen& chosen) {
@@ -38,8 +49,7 @@ void add_backup(CLI::App& program, Chosen& chosen) {
     command->add_option("FILE", names->file, "备份文件")->required();
     command->callback([names, &chosen] {
         chosen = [names] {
-            TerminalProgress terminal;
-            backup_books(names->books, names->file, shown_on(terminal));
+            back_up(*names);
             tell("已备份到 " + names->file + "。");
             return 0;
         };
@@ -53,9 +63,7 @@ void add_restore(CLI::App& program, Chosen& chosen) {
     command->add_option("BOOKS", names->books, "帐套文件")->required();
     command->callback([names, &chosen] {
         chosen = [names] {
-            TerminalProgress terminal;
-            const std::string aside =
-                restore_books(names->file, names->books, moment(), shown_on(terminal));
+            const std::string aside = restore(*names);
             if (!aside.empty()) tell("原帐套已改名为 " + aside + "。");
             tell("已恢复帐套 " + names->books + "。");
             return 0;

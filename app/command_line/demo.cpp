@@ -22,6 +22,16 @@ void stop_on_interrupt() {
     });
 }
 
+// The progress is wiped off the terminal before anything else is said.
+void make(const std::string& books, const std::string& password) {
+    TerminalProgress terminal;
+    create_demo_books(books, password,
+                      [&](const std::string& what, std::int64_t done, std::int64_t total) {
+                          terminal.report(what, done, total);
+                          return asked_to_stop == 0;
+                      });
+}
+
 } // namespace
 
 void add_demo(CLI::App& program, Chosen& chosen) {
@@ -32,12 +42,7 @@ void add_demo(CLI::App& program, Chosen& chosen) {
         chosen = [books] {
             const std::string password = new_password("管理员 admin 的密码: ").value_or("");
             stop_on_interrupt();
-            TerminalProgress terminal;
-            create_demo_books(*books, password,
-                              [&](const std::string& what, std::int64_t done, std::int64_t total) {
-                                  terminal.report(what, done, total);
-                                  return asked_to_stop == 0;
-                              });
+            make(*books, password);
             tell("已建立演示帐套 " + *books + "。");
             return 0;
         };
