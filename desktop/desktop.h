@@ -20,7 +20,7 @@ struct BooksLabel {
 
 // A picture of one function instead of a session: opens it, presses the keys, writes the PNG.
 struct Screenshot {
-    int code = 0; // 0: the overview
+    std::string function; // "661", "users"; empty: the overview
     std::string file;
     std::vector<std::string> keys; // "F3", "Enter"
     int width = 1440, height = 900;
@@ -37,7 +37,7 @@ struct DesktopServices {
     // Checks a login: "" lets in, anything else is the sentence to show. Absent: nothing is asked.
     std::function<std::string(const std::string& user, const std::string& password)> log_in;
     std::string last_user;
-    std::vector<std::string> recent_books;
+    std::vector<std::string> recent_books; // those that are open first
     std::function<void(const std::string& books)> open_books; // starts over with another set
     std::optional<Screenshot> screenshot;
 };

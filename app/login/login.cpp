@@ -37,4 +37,11 @@ User log_in(engines::Session& session, const std::string& user, const PasswordSo
     return {cells[0].value_or(""), cells[1].value_or(""), cells[3] == "1"};
 }
 
+std::optional<std::string> only_user(engines::Session& session) {
+    const auto rows = automation::rows_of(
+        session, "SELECT USER_ID, PASSWORD_HASH FROM SYS_USER WHERE ACTIVE = 1");
+    if (rows.size() != 1 || !rows[0][1].value_or("").empty()) return std::nullopt;
+    return rows[0][0];
+}
+
 } // namespace app

@@ -22,4 +22,7 @@ using PasswordSource = std::function<std::optional<std::string>()>;
 // tell which of the two it was.
 User log_in(engines::Session& session, const std::string& user, const PasswordSource& password);
 
+// The one user who may come in, where nobody else may and he has no password.
+std::optional<std::string> only_user(engines::Session& session);
+
 } // namespace app

@@ -43,4 +43,12 @@ TEST_F(LogIn, tells_apart_who_may_come_in) {
     EXPECT_THROW(with("li' OR 1=1 --", "secret"), Refusal);
 }
 
+TEST_F(LogIn, one_user_without_a_password_needs_no_question) {
+    EXPECT_EQ(only_user(*session_), std::nullopt); // two may come in
+    automation::rows_of(*session_, "UPDATE SYS_USER SET ACTIVE = 0 WHERE USER_ID = 'li'");
+    EXPECT_EQ(only_user(*session_), "admin");
+    automation::rows_of(*session_, "UPDATE SYS_USER SET PASSWORD_HASH = 'x'");
+    EXPECT_EQ(only_user(*session_), std::nullopt);
+}
+
 } // namespace app

@@ -8,6 +8,8 @@
 #include "app/administration/administration.h"
 #include "app/data/error_sentence.h"
 #include "app/demo/demo_books.h"
+#include "app/login/attempts.h"
+#include "app/login/password_source.h"
 #include "app/refusal.h"
 #include "app/workplace/module.h"
 #include "app/workplace/workplace.h"
@@ -63,6 +65,17 @@ void start_over(const std::string& books) {
     ::execv("/proc/self/exe", arguments);
 }
 
+// "" when the person is in, else why not.
+std::string try_login(Workplace& work, const std::string& user, const std::string& password) {
+    try {
+        work.log_in(user, [&password] { return password; });
+        work.settings().write(settings_section, last_user, user);
+        return "";
+    } catch (const Refusal& refusal) {
+        return refusal.what();
+    }
+}
+
 host::Trecord menu_pick(int code) {
     host::Trecord record;
     record.set_code(code);
@@ -80,6 +93,7 @@ desktop::DesktopServices services_for(const DesktopWanted& wanted, const std::st
     services.open_function = [&frame](int code) {
         Module::loaded().open(menu_pick(code), &frame);
     };
+    host::the_host().open_function = services.open_function;
     services.open_administration = [&frame](const std::string& name) {
         open_administration(name, &frame);
     };
@@ -88,14 +102,9 @@ desktop::DesktopServices services_for(const DesktopWanted& wanted, const std::st
         return (function != nullptr && function->actions == 0) ||
                host::the_host().may({key, "open"});
     };
-    services.log_in = [&work](const std::string& user, const std::string& password) {
-        try {
-            work.log_in(user, [&password] { return password; });
-            work.settings().write(settings_section, last_user, user);
-            return std::string();
-        } catch (const Refusal& refusal) {
-            return std::string(refusal.what());
-        }
+    services.log_in = [&work, attempts = std::make_shared<LoginAttempts>()](
+                          const std::string& user, const std::string& password) {
+        return attempts->attempt([&] { return try_login(work, user, password); });
     };
     services.last_user = work.settings().read(settings_section, last_user, "admin");
     services.recent_books = {books};
@@ -105,10 +114,16 @@ desktop::DesktopServices services_for(const DesktopWanted& wanted, const std::st
     return services;
 }
 
-// Whoever has no password is let in without being asked.
-bool let_in_without_asking(Workplace& work, const std::string& user) {
+// Books with one user who has no password are opened without a question: there is nobody to tell
+// apart. A picture is taken for the user whose password the environment gives.
+bool let_in_without_asking(Workplace& work, const DesktopWanted& wanted, const std::string& user) {
+    const std::optional<std::string> alone = only_user(work.session());
+    if (!alone && wanted.screenshot.empty()) return false;
     try {
-        work.log_in(user, [] { return std::optional<std::string>(); });
+        work.log_in(alone.value_or(user), [&wanted]() -> std::optional<std::string> {
+            if (wanted.screenshot.empty()) return std::nullopt;
+            return given_password("密码: ");
+        });
         return true;
     } catch (const Refusal&) {
         return false;
@@ -121,7 +136,7 @@ int run_on(const DesktopWanted& wanted, const std::string& books, int argc, char
     host::TForm frame(nullptr); // owns the forms: they go before the books are closed
     work.settings().write(settings_section, last_books, books);
     desktop::DesktopServices services = services_for(wanted, books, work, frame);
-    if (let_in_without_asking(work, services.last_user)) services.log_in = nullptr;
+    if (let_in_without_asking(work, wanted, services.last_user)) services.log_in = nullptr;
     return desktop::run(argc, argv, services);
 }
 

@@ -10,7 +10,7 @@ namespace app {
 struct DesktopWanted {
     std::string books;       // "" for the books used last, else the demonstration books
     std::string screenshot;  // a file: draw one picture instead of working
-    int function = 0;        // what the picture shows; 0 the overview
+    std::string function;    // what the picture shows: "661", "users"; "" the overview
     std::vector<std::string> keys;
 };
 

@@ -17,12 +17,18 @@ void run_driver(automation::RequestLines& requests, automation::AnswerLines& ans
         {requests, answers, [&](const host::Trecord& record) { module.open(record, owner); }, query,
          [&](const std::string& name) { return open_administration(name, owner); }});
     host::the_host().ui = &driver;
+    host::the_host().open_function = [&](int code) {
+        host::Trecord record;
+        record.set_code(code);
+        module.open(record, owner);
+    };
     {
         host::TForm frame(nullptr); // owns the forms: they go before what they speak to
         owner = &frame;
         driver.run();
         host::release_closed_forms();
     }
+    host::the_host().open_function = nullptr;
     host::the_host().ui = nullptr;
 }
 

@@ -229,15 +229,19 @@ void MainWindow::showEvent(QShowEvent* event) {
 }
 
 // Leaving asks every form that holds unsaved work, the last one first.
-void MainWindow::closeEvent(QCloseEvent* event) {
+bool MainWindow::close_forms() {
     while (pages_->count() > 1) {
         const int before = pages_->count();
         close_tab(pages_->count() - 1);
-        if (pages_->count() < before) continue;
-        event->ignore();
-        return;
+        if (pages_->count() == before) return false;
     }
-    event->accept();
+    return true;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(close_forms()); }
+
+void MainWindow::start_over(const std::string& books) {
+    if (services_.open_books && close_forms()) services_.open_books(books);
 }
 
 // A click beside every control of a form leaves the focus where the form has it.

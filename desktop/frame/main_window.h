@@ -46,6 +46,7 @@ public:
     void close_in_front();
     void step_tab(int by);
     void find_function();
+    void start_over(const std::string& books); // with other books, or as somebody else
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -58,6 +59,7 @@ private:
     void lay_out(QMenuBar* menus);
     void tab_chosen(int index);
     void close_tab(int index);
+    bool close_forms(); // false when somebody still works in one
     void follow_active();
     void refresh_tab(FormView& view);
     int index_of(const FormView& view) const;

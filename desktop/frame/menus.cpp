@@ -31,10 +31,13 @@ void add_file_menu(QMenuBar& bar, MainWindow& window) {
     if (services.open_books) {
         add(*menu, QStringLiteral("打开帐套…"), "Ctrl+O", [&window] {
             const QString file = QFileDialog::getOpenFileName(&window, QStringLiteral("打开帐套"));
-            if (!file.isEmpty()) window.services().open_books(utf8(file));
+            if (!file.isEmpty()) window.start_over(utf8(file));
         });
         for (const std::string& books : services.recent_books)
-            add(*menu, qt(books), {}, [&window, books] { window.services().open_books(books); });
+            add(*menu, qt(books), {}, [&window, books] { window.start_over(books); });
+        if (!services.recent_books.empty())
+            add(*menu, QStringLiteral("换用户登录"), {},
+                [&window] { window.start_over(window.services().recent_books.front()); });
         menu->addSeparator();
     }
     add(*menu, QStringLiteral("关闭当前页"), "Ctrl+W", [&window] { window.close_in_front(); });

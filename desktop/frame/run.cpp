@@ -15,6 +15,7 @@
 #include "desktop/frame/snapshot.h"
 #include "desktop/theme/text.h"
 #include "desktop/theme/theme.h"
+#include "host/contract/function_table.h"
 #include "host/ports/host.h"
 
 namespace desktop {
@@ -42,7 +43,8 @@ int take_picture(MainWindow& window, const Screenshot& wanted) {
     bool written = false;
     // From the event loop, so that modal forms can stand while the picture is taken.
     QTimer::singleShot(0, &window, [&] {
-        if (wanted.code != 0) window.open_function(wanted.code);
+        if (const host::Function* function = host::function_of(wanted.function))
+            window.open(*function);
     });
     press_keys_then(wanted.keys, [&] {
         written = snapshot(window).save(qt(wanted.file), "PNG", 0);

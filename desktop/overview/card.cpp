@@ -14,6 +14,8 @@ constexpr int head = 36;
 
 } // namespace
 
+QString no_right() { return QStringLiteral("您没有查看这些数字的权限"); }
+
 QString amount_of(host::Amount amount) { return qt(amount.to_text(2)); }
 
 Card::Card(const QString& title, QWidget* parent) : QWidget(parent), title_(title) {

@@ -29,6 +29,8 @@ private:
 
 // Amounts of the overview have two decimals, as everywhere.
 QString amount_of(host::Amount amount);
+// Stands in a card whose figures the person may not see.
+QString no_right();
 
 // The road of a period: enter, audit, post, carry forward, close; the next step has its button.
 class StepsCard : public Card {

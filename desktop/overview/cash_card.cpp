@@ -43,7 +43,9 @@ void CashCard::paint_body(QPainter& painter, const QRect& body) {
     const QRect inner = body.adjusted(16, 0, -16, 0);
     if (figures().money.empty()) {
         painter.setPen(token::ink_3);
-        painter.drawText(inner, Qt::AlignCenter, QStringLiteral("没有现金和银行科目"));
+        painter.drawText(inner, Qt::AlignCenter,
+                         figures().may_see_money ? QStringLiteral("没有现金和银行科目")
+                                                 : no_right());
         return;
     }
     const QRect titles(inner.x(), inner.y(), inner.width(), head);

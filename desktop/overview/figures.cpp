@@ -3,6 +3,7 @@
 
 #include "host/contract/U_dataop.h"
 #include "host/dataset/client_dataset.h"
+#include "host/ports/host.h"
 #include "host/values/errors.h"
 #include "host/values/period.h"
 #include "host/values/sql_text.h"
@@ -89,6 +90,12 @@ void read_months(Figures& figures, const host::Period& period) {
                  take);
 }
 
+bool may_open_one_of(std::initializer_list<const char*> functions) {
+    for (const char* function : functions)
+        if (host::the_host().may({function, "open"})) return true;
+    return false;
+}
+
 } // namespace
 
 std::string read_current_period() {
@@ -103,6 +110,9 @@ std::string read_current_period() {
 
 Figures read_figures() {
     Figures figures;
+    figures.may_see_vouchers = may_open_one_of({"661", "662", "663"});
+    figures.may_see_money = may_open_one_of({"650", "652", "689", "690"});
+    figures.may_see_result = may_open_one_of({"673", "689"});
     try {
         read_period(figures);
         const auto period = host::Period::parse(figures.period);
@@ -110,9 +120,9 @@ Figures read_figures() {
             figures.period.clear();
             return figures;
         }
-        read_vouchers(figures);
-        read_money(figures, *period);
-        read_months(figures, *period);
+        if (figures.may_see_vouchers) read_vouchers(figures);
+        if (figures.may_see_money) read_money(figures, *period);
+        if (figures.may_see_result) read_months(figures, *period);
     } catch (const host::DataError& error) {
         figures.trouble = error.what();
     }

@@ -30,12 +30,15 @@ struct Figures {
     std::vector<MoneyAccount> money;       // leaf accounts of cash and bank
     std::vector<MonthResult> months;       // of the months_shown up to the period
     std::string trouble;                   // why there are no figures; "" when there are
+    // Figures are shown to those who may open a function that tells them; the others are left out.
+    bool may_see_vouchers = true, may_see_money = true, may_see_result = true;
 };
 
 // The current period alone; "" when there is none.
 std::string read_current_period();
 
-// Reads the figures with a few statements; never throws for an error of the database.
+// Reads the figures that the person may see with a few statements; never throws for an error of the
+// database.
 Figures read_figures();
 
 } // namespace desktop

@@ -55,7 +55,9 @@ void ProfitCard::paint_body(QPainter& painter, const QRect& body) {
     if (figures().months.empty()) {
         painter.setFont(fonts::body());
         painter.setPen(token::ink_3);
-        painter.drawText(body, Qt::AlignCenter, QStringLiteral("还没有损益凭证"));
+        painter.drawText(body, Qt::AlignCenter,
+                         figures().may_see_result ? QStringLiteral("还没有损益凭证")
+                                                  : no_right());
         return;
     }
     std::int64_t high = 0, low = 0;

@@ -26,6 +26,7 @@ constexpr int count = 5;
 
 QString state_of(int step, const Figures& figures) {
     const auto period = host::Period::parse(figures.period);
+    if (!figures.may_see_vouchers) return {};
     switch (step) {
     case 0: return QStringLiteral("本期 %1 张凭证").arg(figures.vouchers);
     case 1:

@@ -1,12 +1,16 @@
 // The operations and helpers that the module calls.
+#include <set>
+
 #include "host/contract/U_dataop.h"
 #include "host/contract/U_function.h"
 #include "host/contract/U_linkedit.h"
 #include "host/contract/Zpy.h"
+#include "host/contract/function_table.h"
 #include "host/controls/edits.h"
 #include "host/dataset/client_dataset.h"
 #include "host/forms/Sys_Choose.h"
 #include "host/forms/Sys_Report.h"
+#include "host/ports/host.h"
 #include "host/values/errors.h"
 #include "tests/support/fake_interface.h"
 
@@ -212,6 +216,37 @@ TEST_F(Contract, a_lookup_offers_the_rows_and_takes_the_chosen_one) {
     });
     EXPECT_EQ(form.Account.Text.get(), "314102");
     EXPECT_EQ(rows.RecordCount(), 3);
+}
+
+TEST_F(Contract, whoever_may_only_look_at_a_function_writes_nothing_in_it) {
+    // function  what the person may   sent
+    const struct {
+        const char* function;
+        const char* may;
+        bool sent;
+    } attempts[] = {{"661", "open", false},  {"661", "print", false},   {"661", "add", true},
+                    {"662", "audit", true},  {"662", "change", false},  {"663", "post", true},
+                    {"689", "open", true}, // a report writes nothing; the books' own work does
+                    {"password", "", true}, {"users", "change", true}};
+    for (const auto& attempt : attempts) {
+        the_host().may = [&](const Right& right) { return right.action == attempt.may; };
+        const std::string answer = ExecSql(attempt.function, "k", "Edit", "UPDATE …");
+        EXPECT_EQ(answer == "Y", attempt.sent) << attempt.function << " " << attempt.may;
+    }
+    EXPECT_EQ(desk.ui.messages.front(),
+              "您在这项功能中只能查看，没有保存。请与系统管理员联系。");
+}
+
+TEST(FunctionTable, every_function_is_named_once) {
+    std::set<std::string> keys;
+    for (const WorkArea& area : work_areas())
+        for (const Function& function : area.functions) {
+            EXPECT_TRUE(keys.insert(function.key()).second) << function.key();
+            EXPECT_EQ(function_of(function.key()), &function);
+            EXPECT_LE(function.key().size(), 10u); // the column
+        }
+    EXPECT_EQ(function_of("600"), nullptr);
+    EXPECT_EQ(function_of(""), nullptr);
 }
 
 TEST(Pinyin, words_of_accounting_are_read_as_bookkeepers_read_them) {

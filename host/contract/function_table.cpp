@@ -8,15 +8,18 @@ constexpr unsigned opens = 1, adds = 2, changes = 4, deletes = 8, audits = 16, p
                    prints = 64, exports = 128;
 
 constexpr RightsAction actions[] = {
-    {opens, "open", "打开"},     {adds, "add", "新增"},   {changes, "change", "修改"},
-    {deletes, "delete", "删除"}, {audits, "audit", "审核"}, {posts, "post", "登帐"},
-    {prints, "print", "打印"},   {exports, "export", "导出"}};
+    {opens, "open", "打开", false},   {adds, "add", "新增", true},
+    {changes, "change", "修改", true}, {deletes, "delete", "删除", true},
+    {audits, "audit", "审核", true},  {posts, "post", "登帐", true},
+    {prints, "print", "打印", false}, {exports, "export", "导出", false}};
 
 // What the forms of a kind offer.
 constexpr unsigned report = opens | prints | exports;
 constexpr unsigned list = report | adds | changes | deletes;
 constexpr unsigned documents = list | audits;
 constexpr unsigned period_step = opens | posts;
+constexpr unsigned statement = report | changes;
+constexpr unsigned opening_figures = report | changes | posts;
 
 constexpr Function vouchers[] = {
     {661, "录凭证", list}, {662, "凭证审核", report | audits}, {663, "凭证登帐", period_step}};
@@ -26,9 +29,7 @@ constexpr Function ledgers[] = {{684, "科目汇总表", report},
                                 {689, "试算平衡表", report},
                                 {690, "现金,银行存款日记帐", report}};
 constexpr Function statements[] = {
-    {671, "资产负债表", report | changes},
-    {673, "利 润 表", report | changes},
-    {672, "现金流量表", report | changes}};
+    {671, "资产负债表", statement}, {673, "利 润 表", statement}, {672, "现金流量表", statement}};
 constexpr Function period[] = {{667, "结转损溢", opens | adds}, {668, "期末结帐", period_step}};
 constexpr Function trade[] = {
     {630, "销售收款 · 外币", documents}, {631, "销售收款", documents},
@@ -43,7 +44,7 @@ constexpr Function cash[] = {{648, "银行存取款单", documents},
 constexpr Function masterdata[] = {
     {681, "会计科目", list},     {682, "凭证字", list},
     {683, "常用摘要", list},     {687, "收支类别", list},
-    {691, "现金流量项目", list}, {699, "会计科目初始", report | changes | posts},
+    {691, "现金流量项目", list}, {699, "会计科目初始", opening_figures},
     {628, "期初应收款", list},   {629, "期初应付款", list}};
 constexpr Function administration[] = {{0, "用户", list, "users"},
                                        {0, "角色与权限", list, "roles"},

@@ -12,6 +12,7 @@ struct RightsAction {
     unsigned bit;
     std::string_view name;    // "audit"
     std::string_view caption; // "审核"
+    bool writes;              // changes the books
 };
 std::span<const RightsAction> rights_actions();
 

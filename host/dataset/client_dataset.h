@@ -78,6 +78,11 @@ public:
     bool Modified() const;
     void MarkSaved(); // forgets the changes: Modified() is false again
     void LeaveRow();  // as moving away does: posts or drops
+    // Which kinds of change wait to be saved; each asks for a right of its own.
+    struct ChangeKinds {
+        bool inserted, changed, deleted;
+    };
+    ChangeKinds Changes() const;
 
     // View. The filter sees the dataset on the row asked about.
     void SetFilter(std::function<bool(const TClientDataSet&)> filter);

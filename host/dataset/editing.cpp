@@ -166,6 +166,10 @@ bool TClientDataSet::Modified() const {
     return !changes_.empty() || (editing() && row_modified_);
 }
 
+TClientDataSet::ChangeKinds TClientDataSet::Changes() const {
+    return {!changes_.inserted.empty(), !changes_.changed.empty(), !changes_.deleted.empty()};
+}
+
 void TClientDataSet::MarkSaved() { changes_.clear(); }
 
 } // namespace host

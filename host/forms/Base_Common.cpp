@@ -61,9 +61,19 @@ void TFrm_Base_Common::OpenFunction(const Trecord& record) {
 }
 
 void TFrm_Base_Common::RequireRight(const std::string& action, const std::string& what) const {
-    if (the_host().may({RightsFunction(), action})) return;
+    if (Allowed(action)) return;
     DISPINFO("您没有" + what + "的权限，请与系统管理员联系。", 5);
     Abort();
+}
+
+bool TFrm_Base_Common::Allowed(const std::string& action) const {
+    return the_host().may({RightsFunction(), action});
+}
+
+void TFrm_Base_Common::RequireSaveRight(const std::string& mode) const {
+    const std::string what = "“" + Caption.get() + "”";
+    if (mode == "Add" || mode == "CopyAdd") RequireRight("add", "新增" + what);
+    if (mode == "Edit") RequireRight("change", "修改" + what);
 }
 
 bool TFrm_Base_Common::BooksAreStrict() const {

@@ -54,6 +54,10 @@ protected:
     // For buttons that are no actions: refuses with a message and Abort() when the user lacks the
     // right `action` ("post") on this function; `what` names the act in the message ("登帐").
     void RequireRight(const std::string& action, const std::string& what) const;
+    // Saving what is new ("Add", "CopyAdd") needs the right to add, what was there ("Edit") the
+    // right to change; other modes keep nothing of their own.
+    void RequireSaveRight(const std::string& mode) const;
+    bool Allowed(const std::string& action) const; // asks without a message
 
     // Every field is checked as if it had been left, in the order of the layout; refuses by
     // Abort().

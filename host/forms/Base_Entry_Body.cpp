@@ -21,6 +21,11 @@ struct Tfrm_Base_Entry_Body::LineWatch : DataSetListener {
 Tfrm_Base_Entry_Body::Tfrm_Base_Entry_Body(TForm* parent) : TFrm_Base_Panel(parent) {
     FreeOnClose = false; // stays with its list and is shown again
     hide({&Act_Add, &Act_CopyAdd, &Act_Modify, &Act_Delete, &Act_Refresh, &Act_Locate});
+    // Asked at the action, so that no form's own way of saving passes it by.
+    Act_Save.OnExecute = [this] {
+        RequireSaveRight(Mode);
+        Act_SaveExecute();
+    };
     Act_AddLine.OnExecute = [this] { Act_AddExecute(); };
     Act_DeleteLine.OnExecute = [this] { Act_DeleteLineExecute(); };
     DBGridEh.OnButtonClick = [this](GridColumn& column) { ColumnClick(column); };

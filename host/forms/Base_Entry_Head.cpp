@@ -7,7 +7,6 @@
 #include "host/forms/parts/document_lock.h"
 #include "host/forms/parts/list_search.h"
 #include "host/forms/parts/sum_footers.h"
-#include "host/ports/host.h"
 #include "host/values/errors.h"
 #include "host/values/sql_text.h"
 
@@ -196,7 +195,7 @@ void TFrm_Base_Entry_Head::Act_ModifyExecute() {
 void TFrm_Base_Entry_Head::DBGridEhDblClick() {
     if (!StillThere() || EntryForm() == nullptr) return;
     std::string reason = WhyLocked();
-    if (reason.empty() && !the_host().may({FunctionCode, Act_Modify.Right}))
+    if (reason.empty() && !Act_Modify.Right.empty() && !Allowed(Act_Modify.Right))
         reason = "您没有修改的权限。";
     EntryForm()->LockReason.Caption = reason;
     open_document(auditing() || !reason.empty(), false);

@@ -3,7 +3,6 @@
 
 #include "host/forms/parts/list_search.h"
 #include "host/forms/parts/sum_footers.h"
-#include "host/ports/host.h"
 #include "host/values/errors.h"
 
 namespace host {
@@ -11,17 +10,32 @@ namespace host {
 TFrm_Base_Inner::TFrm_Base_Inner(TForm* parent) : TFrm_Base_Panel(parent) {
     hide({&Act_CopyAdd, &Act_Modify, &Act_Locate, &Act_Other});
     Act_Save.Right = "change";
+    Act_Save.OnExecute = [this] {
+        CommitActive();
+        AdoQry_Main.LeaveRow();
+        require_rights_of_changes();
+        Act_SaveExecute();
+    };
     Act_Delete.ShortCut = "Ctrl+Delete"; // Delete empties the cell
     layout = Rows({ToolBar({&Act_Add, &Act_Delete, &Act_Save, nullptr, &Act_Refresh, nullptr,
                             &Act_Print, &Act_Preview, &Act_Export, nullptr, &Act_Quit}),
                    Rest(DBGridEh)});
 }
 
+// Rows come into the grid by Enter in the last cell as well as by the action: what counts besides
+// the right to change the sheet is what would be written.
+void TFrm_Base_Inner::require_rights_of_changes() const {
+    const TClientDataSet::ChangeKinds kinds = AdoQry_Main.Changes();
+    const std::string what = "“" + Caption.get() + "”";
+    if (kinds.inserted) RequireRight("add", "新增" + what);
+    if (kinds.deleted) RequireRight("delete", "删除" + what);
+}
+
 void TFrm_Base_Inner::InitForm(const Trecord& record) {
     OpenFunction(record);
-    if (!the_host().may({RightsFunction(), Act_Save.Right})) DBGridEh.ReadOnly = true;
     add_sum_footers(DBGridEh, SumFields);
     if (!SqlText.empty()) GetData();
+    if (!Allowed(Act_Save.Right)) DBGridEh.ReadOnly = true;
     Show();
 }
 

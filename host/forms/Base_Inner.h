@@ -19,6 +19,9 @@ protected:
     void Act_DeleteExecute() override;
     void Act_SaveExecute() override;
     bool has_unsaved_work() const override;
+
+private:
+    void require_rights_of_changes() const;
 };
 
 } // namespace host

@@ -5,6 +5,7 @@
 #include "host/forms/Base_Node.h"
 #include "host/forms/Base_Node_d.h"
 #include "host/forms/Base_Outer.h"
+#include "host/ports/host.h"
 #include "tests/support/fake_interface.h"
 
 namespace host {
@@ -136,6 +137,28 @@ TEST_F(CodeList, a_refused_save_keeps_the_dialog_and_the_list) {
     });
     list.Act_Modify.Execute();
     EXPECT_EQ(list.AdoQry_Main.FieldByName("PZZ_PRINT").AsText(), "记帐凭证");
+}
+
+TEST_F(CodeList, a_dialog_saves_only_with_the_right_of_its_mode) {
+    // mode     lacks     saved
+    const struct {
+        const char* mode;
+        const char* lacks;
+        bool saved;
+    } attempts[] = {{"Add", "add", false},      {"CopyAdd", "add", false},
+                    {"Edit", "change", false},  {"Edit", "add", true},
+                    {"Add", "change", true}};
+    for (const auto& attempt : attempts) {
+        const std::size_t before = desk.data.executed().size();
+        the_host().may = [&](const Right& right) { return right.action != attempt.lacks; };
+        desk.ui.inside.push_back([&](TForm& form) {
+            list.dialog.Word.Text = "付";
+            tests::press(form, "F2");
+            form.ModalResult = mrCancel;
+        });
+        list.dialog.Open(attempt.mode, "记", &list.AdoQry_Main);
+        EXPECT_EQ(desk.data.executed().size() > before, attempt.saved) << attempt.mode;
+    }
 }
 
 TEST_F(CodeList, what_is_in_use_stays) {
@@ -286,6 +309,50 @@ TEST(InPlace, what_was_typed_is_saved_as_a_whole_and_summed_meanwhile) {
     form.DBGridEh.enter_cell("1");
     tests::press(form, "F5"); // answered no: the work stays
     EXPECT_EQ(form.DBGridEh.cell_text(0, 1), "1.00");
+}
+
+TEST(InPlace, what_is_written_asks_for_its_right_however_it_came_into_the_grid) {
+    // did               lacks     sent
+    const struct {
+        const char* did;
+        const char* lacks;
+        bool sent;
+    } attempts[] = {{"insert", "add", false},    {"insert", "delete", true},
+                    {"change", "change", false}, {"change", "add", true},
+                    {"delete", "delete", false}, {"delete", "add", true}};
+    for (const auto& attempt : attempts) {
+        tests::Desk desk;
+        desk.data.answer("SELECT KM_ID", {"KM_ID text", "BEGIN1 money"}, {{"1001", "10"}});
+        TF904 form;
+        Trecord pick;
+        pick.set_code(904);
+        form.InitForm(pick);
+        const std::string did = attempt.did;
+        if (did == "insert") {
+            form.AdoQry_Main.Append(); // as Enter in the last cell does
+            form.AdoQry_Main.FieldByName("KM_ID").SetValue(std::string("1002"));
+        }
+        if (did == "delete") form.AdoQry_Main.Delete();
+        if (did == "change") form.DBGridEh.SelectField("BEGIN1"), form.DBGridEh.enter_cell("7");
+        the_host().may = [&](const Right& right) { return right.action != attempt.lacks; };
+        tests::press(form, "F2");
+        EXPECT_EQ(!desk.data.executed().empty(), attempt.sent) << did << " " << attempt.lacks;
+        if (!attempt.sent) {
+            EXPECT_NE(desk.ui.last_message().find("权限"), std::string::npos);
+            EXPECT_TRUE(form.Dirty()); // nothing typed is lost
+        }
+    }
+}
+
+TEST(InPlace, whoever_may_only_look_cannot_type) {
+    tests::Desk desk;
+    desk.data.answer("SELECT KM_ID", {"KM_ID text", "BEGIN1 money"}, {{"1001", "10"}});
+    the_host().may = [](const Right& right) { return right.action == "open"; };
+    TF904 form;
+    Trecord pick;
+    pick.set_code(904);
+    form.InitForm(pick);
+    EXPECT_FALSE(form.DBGridEh.can_edit(1));
 }
 
 TEST(Picker, arrows_choose_while_typing_and_enter_takes_the_row) {

@@ -289,4 +289,29 @@ TEST_F(Entry, rights_are_asked_for_each_action) {
     EXPECT_EQ(list.body.Mode, "ReadOnly");
 }
 
+// The right may have been there when the document was opened and the form reached some other way:
+// what counts is asked when it is saved.
+TEST_F(Entry, saving_a_new_document_needs_to_add_and_a_changed_one_to_change) {
+    // opened to     lacks     told
+    const struct {
+        bool add;
+        const char* lacks;
+        const char* told;
+    } attempts[] = {
+        {true, "add", "您没有新增“单据”的权限，请与系统管理员联系。"},
+        {false, "change", "您没有修改“单据”的权限，请与系统管理员联系。"},
+    };
+    for (const auto& attempt : attempts) {
+        the_host().may = [](const Right&) { return true; };
+        desk.ui.answers = {true}; // what the attempt before typed may go
+        run(attempt.add ? list.Act_Add : list.Act_Modify);
+        list.body.DBGridEh.SelectField("ZY");
+        list.body.DBGridEh.enter_cell("收款");
+        the_host().may = [&](const Right& right) { return right.action != attempt.lacks; };
+        tests::press(list.body, "F2");
+        EXPECT_EQ(desk.ui.last_message(), attempt.told);
+        EXPECT_EQ(executed(), 0u);
+    }
+}
+
 } // namespace host

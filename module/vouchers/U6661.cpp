@@ -25,6 +25,7 @@ constexpr Color not_audited_background = 0xFFFF80;
 TF6661::TF6661(TForm* parent) : TFrm_Base_Entry_Head(parent) {
     Caption = "录凭证";
     Action1.OnExecute = [this] { Action1Execute(); };
+    Action1.Right = "add"; // a template is something new
     Act_Red.OnExecute = [this] { Act_RedExecute(); };
     Act_Red.Right = "add";
     const auto scrolled = AdoQry_Main.AfterScroll;
@@ -86,6 +87,7 @@ void TF6661::build_layout(bool audit) {
     for (TAction* action : {&Act_Add, &Act_CopyAdd, &Act_Delete, &Action1, &Act_Red})
         action->Visible = !audit;
     Act_Modify.Caption = audit ? "查看凭证" : "修改";
+    if (audit) Act_Modify.Right = ""; // looking is part of auditing
     std::vector<TAction*> own = {&Act_Add, &Act_CopyAdd, &Act_Modify, &Act_Delete};
     if (audit) own = {&Act_Audit, &Act_UnAudit, nullptr, &Act_Modify};
     for (TAction* action : {static_cast<TAction*>(nullptr), &Act_Locate, &Act_Refresh}) {

@@ -86,6 +86,7 @@ void TF6661_1::bind_events() {
     BDATE.OnChange = [this] { refresh_date_hint(); };
     Act_xj.OnExecute = [this] { Act_xjExecute(); };
     N2.OnExecute = [this] { N2Click(); };
+    N2.Right = "add"; // a template is something new
     PoPMenu.OnPopup = [this] { PoPMenuPopup(); };
 }
 

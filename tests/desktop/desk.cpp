@@ -48,13 +48,16 @@ void press(const std::string& name) {
 
 } // namespace
 
-Desk::Desk(std::function<void(int)> open, const std::string& today) : clock_(today) {
+Desk::Desk(std::function<void(int)> open, const std::string& today,
+           std::function<bool(const host::Right&)> may)
+    : clock_(today) {
     host::Host& host = host::the_host();
     host.data = &data;
     host.clock = &clock_;
     host.settings = &settings_;
     host.random = &random_;
     host.ui = &interface_;
+    if (may) host.may = std::move(may);
     data.answer("SELECT ID,PARAM FROM D6600", {"ID int", "PARAM text"},
                 {{"1", "2014-01"}, {"2", "2016-06"}});
     data.answer("SELECT COUNT(*) AS N", {"N int", "U int", "P int", "S int"},
@@ -71,9 +74,15 @@ Desk::Desk(std::function<void(int)> open, const std::string& today) : clock_(tod
     data.answer("SELECT H.PZQJ,SUM", {"PZQJ text", "P money"}, {{"2016-06", "31056"}});
     desktop::DesktopServices services;
     services.books = [] {
-        return desktop::BooksLabel{"苏州嘉禾贸易有限公司", "李敏", "jiahe.db", "本机"};
+        return desktop::BooksLabel{"苏州嘉禾贸易有限公司", "李敏", "jiahe.db", "本机", "小企业"};
     };
     services.open_function = std::move(open);
+    services.open_administration = [this](const std::string& name) {
+        administration.push_back(name);
+    };
+    services.has_function = [](const std::string& key) {
+        return host::the_host().may({key, "open"});
+    };
     window_ = std::make_unique<desktop::MainWindow>(services);
     interface_.set_window(window_.get());
     window_->resize(1440, 900);

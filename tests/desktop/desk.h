@@ -11,6 +11,7 @@
 
 #include "desktop/frame/desktop_interface.h"
 #include "desktop/frame/main_window.h"
+#include "host/ports/host.h"
 #include "tests/support/fake_data.h"
 #include "tests/support/surroundings.h"
 
@@ -20,8 +21,10 @@ namespace tests {
 // what was prepared, else by Enter (which is 确定, and 否 for a question), and are remembered.
 class Desk {
 public:
+    // may: the rights of the person; all of them where left out.
     explicit Desk(std::function<void(int code)> open = nullptr,
-                  const std::string& today = "2016-06-28");
+                  const std::string& today = "2016-06-28",
+                  std::function<bool(const host::Right&)> may = nullptr);
     ~Desk();
 
     FakeData data;
@@ -34,6 +37,7 @@ public:
     // unless `look` ended it.
     std::vector<std::string> messages; // texts shown, oldest first
     std::vector<bool> answers;         // for the next questions
+    std::vector<std::string> administration; // names of the host's functions opened, in order
     QImage picture();                  // the frame with whatever stands over it
     void keep(const std::string& name); // writes the picture where ZF_PICTURES says, if it does
     // Runs when a modal form stands; for tests that work inside one.

@@ -25,6 +25,7 @@ void EditDialog::FormShow() {
 bool EditDialog::has_unsaved_work() const { return Shown() && !saved_ && as_prepared_.differs(); }
 
 void EditDialog::btn_okClick() {
+    RequireSaveRight(Mode);
     if (!CheckAll()) return;
     saved_ = false;
     SaveData();

@@ -109,13 +109,13 @@ TEST_F(OpeningFigures, the_first_step_saves_what_changed) {
     EXPECT_EQ(data.executed().size(), 1u);
 }
 
-TEST_F(OpeningFigures, saving_needs_the_right_to_change) {
+TEST_F(OpeningFigures, whoever_may_not_change_types_and_saves_nothing) {
     PersonOptions options;
     options.may = [](const host::Right& right) { return right.action != "change"; };
     Person anna(data, options);
     anna.open(699);
-    anna.cell(0, "BEGIN2", "30");
-    anna.click("LA1");
+    anna.cannot_cell(0, "BEGIN2", "30");
+    anna.cannot_click("Act_Save");
     EXPECT_NE(anna.next_message().find("权限"), std::string::npos);
     EXPECT_TRUE(data.executed().empty());
 }
