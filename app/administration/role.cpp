@@ -21,7 +21,7 @@ TFrm_Role::TFrm_Role(TForm* parent) : TFrm_Base_Detail(parent) {
     btn_row_none.OnClick = [this] { sheet_.mark_row(false); };
     btn_all.OnClick = [this] { sheet_.mark_all(true); };
     btn_none.OnClick = [this] { sheet_.mark_all(false); };
-    PreferredWidth = 100;
+    PreferredWidth = 122;
     layout = Rows({Columns({Field("角色号", ROLE_ID, 18), Field("角色", ROLE_NAME, 24), Spring()}),
                    Rest(DBGridEh),
                    Columns({Control(btn_row), Control(btn_row_none), Control(btn_all),
