@@ -10,6 +10,7 @@ namespace module {
 
 TF6684F::TF6684F(TForm* parent) : VoucherRangeFilter(parent, 9999) {
     Caption = "科目汇总表 · 查询条件";
+    PZZ_H1.Min = PZZ_H2.Min = Amount::from_whole(1);
     std::vector<LayoutNode> rows = range_rows();
     rows.insert(rows.end(), {posting_row(), Buttons({&btn_ok, &btn_Cancel})});
     layout = Rows(rows);

@@ -13,7 +13,7 @@ VoucherRangeFilter::VoucherRangeFilter(TForm* parent, std::int64_t last_number)
     : TFrm_Sys_Filter(parent), last_number_(last_number) {
     for (TRadioButton* state : {&R1, &R2, &R3}) state->GroupIndex = 1;
     PZZ_H1.Min = PZZ_H2.Min = Amount();
-    PreferredWidth = 66;
+    PreferredWidth = 76; // the row of the dates in full
     BindDayCount(BDATE, EDATE, titDATE);
     BindDateMenu(btn_dateset, BDATE, EDATE);
 }

@@ -43,6 +43,7 @@ LedgerForm::LedgerForm(TForm* parent, const LedgerKind& kind) : TFrm_Base_Qry(pa
     DBGridEh.EmptyText = "没有数据，请按 F3 选择查询条件";
     AdoQry_Main.AfterScroll = [this] { row_chosen(); };
     AccountLabel.Bold = true;
+    VoucherArrow.Visible = VoucherLabel.Visible = false;
     VoucherLabel.FontColor = blue;
     VoucherLabel.OnClick = [this] { DBGridEhDblClick(); };
     OpenerLabel.FontColor = blue;

@@ -62,6 +62,7 @@ TEST_F(DetailedLedger, cancelled_it_shows_nothing_and_refresh_says_why) {
     anna.click("btn_Cancel");
     anna.expect_active("TF6685");
     EXPECT_EQ(anna.row_count(), 0);
+    EXPECT_FALSE(anna.visible("VoucherLabel"));
     anna.click("Act_Refresh");
     anna.expect_message(no_conditions);
 }
