@@ -6,7 +6,7 @@ export CCACHE_SLOPPINESS = pch_defines,time_macros,include_file_mtime,include_fi
 CMAKE_FLAGS = -G Ninja -DCMAKE_BUILD_TYPE=$(TYPE) -DCMAKE_CXX_COMPILER=g++ \
               -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
 
-.PHONY: run build test test-sanitized bench check format packages clean where hooks
+.PHONY: run build test test-sanitized bench bench-peers check format packages clean where hooks
 
 build: packages
 	@cmake -S . -B $(BUILD) $(CMAKE_FLAGS) > $(BUILD).configure.log 2>&1 || \
@@ -30,6 +30,9 @@ test-sanitized: packages
 
 bench: build
 	@$(BUILD)/zf_bench $(BUILD) $(MEASURE)
+
+bench-peers: build
+	@$(BUILD)/zf_bench_peers $(BUILD)
 
 format:
 	@git ls-files '*.cpp' '*.h' | xargs clang-format -i

@@ -8,12 +8,16 @@
 
 namespace bench {
 
-// 2,000 accounts in five levels; periods of 10,000 vouchers and about 40,700 lines each, all
-// audited; every period but the last is posted.
+// 2,000 accounts in five levels, each that takes entries opened with 1,000.00 on its own side;
+// periods of 10,000 vouchers and about 40,700 lines each, all audited; every period but the last is
+// posted. Books of fewer vouchers than a year fills have quiet periods of 100 vouchers, which are
+// not counted, before the busy ones: in all books the last period has 10,000 vouchers and a whole
+// calendar year lies before it.
 struct BigBooks {
     std::string file;
     int vouchers = 0;
-    host::Period last = host::Period::of(2024, 1);
+    host::Period first = host::Period::of(2010, 1);
+    host::Period last = first;
     std::vector<std::string> leaves; // account codes that take entries
     std::string busy_account;
 };

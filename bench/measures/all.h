@@ -13,6 +13,7 @@ std::vector<Row> saving(const BigBooks& books);
 std::vector<Row> trial_balance(const BigBooks& books);
 std::vector<Row> detailed_ledger(const BigBooks& books);
 std::vector<Row> voucher_list(const BigBooks& books);
+std::vector<Row> general_ledger(const BigBooks& books);
 std::vector<Row> statement(const BigBooks& books);
 std::vector<Row> compilation(const BigBooks& books);
 std::vector<Row> loading(const BigBooks& books);

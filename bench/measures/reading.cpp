@@ -34,13 +34,6 @@ std::string in_books(const std::string& work, const BigBooks& books) {
     return work + ", books of " + std::to_string(books.vouchers) + " vouchers";
 }
 
-// Opening row and totals left out: the lines with their running balance.
-constexpr const char* hand_ledger =
-    "SELECT H.BDATE, H.PZZ||'-'||H.PZZ_H, A.ZY, A.J, A.D, sum(A.J-A.D) OVER (ORDER BY H.BDATE, "
-    "H.PZZ, H.PZZ_H, A.INX ROWS UNBOUNDED PRECEDING), A.NOID FROM D6601A A JOIN D6601 H ON "
-    "H.NOID=A.NOID WHERE A.KM_ID=?1 AND A.NOID>=?2 AND A.NOID<?3 AND H.D=1 "
-    "ORDER BY H.BDATE, H.PZZ, H.PZZ_H, A.INX";
-
 } // namespace
 
 std::vector<Row> trial_balance(const BigBooks& books) {
@@ -76,23 +69,6 @@ std::vector<Row> voucher_list(const BigBooks& books) {
                       {[&] { read_all(by_hand.bind(1, from).bind(2, to), 13); }},
                       {[&] { ours.read(query); }});
     row.budget_ratio = 1.5;
-    return {row};
-}
-
-std::vector<Row> detailed_ledger(const BigBooks& books) {
-    hand::Connection connection(books.file);
-    hand::Statement by_hand(connection, hand_ledger);
-    OurSession ours(books.file);
-    const host::Period period = books.last.previous();
-    const std::string text = period.to_text(), after = period.next().to_text();
-    const std::string& account = books.busy_account;
-    const std::string query = "EXEC SYS_685 @P_year='" + period.previous().to_text() +
-                              "',@p_show='1',@KM_ID1='" + account + "',@KM_ID2='" + account +
-                              "',@P_month1='" + text + "',@P_month2='" + text + "'";
-    Row row = measure(in_books("ledger of a busy account, one month", books), 9,
-                      {[&] { read_all(by_hand.bind(1, account).bind(2, text).bind(3, after), 7); }},
-                      {[&] { ours.read(query); }});
-    row.budget_ratio = 2;
     return {row};
 }
 

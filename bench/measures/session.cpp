@@ -18,6 +18,25 @@ struct SummingReceiver : host::RowReceiver {
     }
 };
 
+constexpr std::int64_t ten_thousandths_a_cent = 100;
+
+struct LedgerReceiver : host::RowReceiver {
+    LedgerRead read;
+    std::array<std::size_t, 3> places{};
+    void columns(const std::vector<host::ColumnDescription>& columns) override {
+        for (std::size_t i = 0; i < columns.size(); ++i) {
+            if (columns[i].name == "J") places[0] = i;
+            if (columns[i].name == "D") places[1] = i;
+            if (columns[i].name == "E") places[2] = i;
+        }
+    }
+    void row(const std::vector<host::CellView>& cells) override {
+        ++read.rows;
+        for (std::size_t i = 0; i < places.size(); ++i)
+            read.sums[i] += cells[places[i]].integer / ten_thousandths_a_cent;
+    }
+};
+
 } // namespace
 
 OurSession::OurSession(const std::string& file)
@@ -31,6 +50,12 @@ std::int64_t OurSession::read(const std::string& query) {
     SummingReceiver receiver;
     data_->query(query, receiver);
     return receiver.sum;
+}
+
+LedgerRead OurSession::read_ledger(const std::string& call) {
+    LedgerReceiver receiver;
+    data_->query(call, receiver);
+    return receiver.read;
 }
 
 } // namespace bench

@@ -1,6 +1,7 @@
 // Our side: the data port that forms write through, over an open set of books.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <string>
 
@@ -10,6 +11,12 @@
 
 namespace bench {
 
+// A ledger's rows, and the sums of its columns J, D and E in cents.
+struct LedgerRead {
+    int rows = 0;
+    std::array<std::int64_t, 3> sums{};
+};
+
 // Opens the books as the program does. Statements go through the same adapter as a form's.
 class OurSession {
 public:
@@ -18,6 +25,7 @@ public:
     engines::Session& session() { return *session_; }
     // Runs a query and reads every cell; the sum keeps the compiler from leaving the work out.
     std::int64_t read(const std::string& query);
+    LedgerRead read_ledger(const std::string& call);
 
 private:
     app::SystemClock clock_;

@@ -4,7 +4,9 @@
 -- The opening is the closing balance of the period before @P_month1, whatever @P_year says.
 -- inx is -1 on rows that are no line. @p_show '1' leaves unposted vouchers out; @p_xj 1 names the
 -- accounts on the other side of each line.
--- Accounts and months are numbered before the lines are sorted: whole numbers sort fast. The outer
+-- Accounts and months are numbered before the lines are sorted: whole numbers sort fast. PLACE puts
+-- the rows of an account in order: the opening, then by month its lines, its sum, the year's sum.
+-- The rows are shown in the order in which the balance runs, so that they are sorted once. The outer
 -- joins fix the way of looking things up, from the few accounts to their lines.
 CREATE PROCEDURE SYS_685 @P_year nvarchar(7), @p_show nvarchar(5) = '0', @KM_ID1 nvarchar(50),
     @KM_ID2 nvarchar(50) = NULL, @P_month1 nvarchar(7), @P_month2 nvarchar(7), @p_xj int = 0 AS
@@ -36,12 +38,15 @@ BEGIN
       AND (@KM_ID1 = @last OR NOT EXISTS (SELECT * FROM D6801 C WHERE C.OID = A.KM_ID));
 
     WITH MEMBER AS (
-        SELECT T.N, T.KM_ID FROM @TOP T
+        SELECT T.N, T.SIGN, T.FX, T.KM_ID AS TOP_ID, T.KM_NAME, T.KM_ID FROM @TOP T
         UNION ALL
-        SELECT M.N, C.KM_ID FROM D6801 C INNER JOIN MEMBER M ON C.OID = M.KM_ID),
+        SELECT M.N, M.SIGN, M.FX, M.TOP_ID, M.KM_NAME, C.KM_ID
+        FROM D6801 C INNER JOIN MEMBER M ON C.OID = M.KM_ID),
     LINE AS (
-        SELECT M.N, CAST(SUBSTRING(H.PZQJ, 6, 2) AS int) AS MONTH, H.BDATE, H.PZZ, H.PZZ_H,
-               L.INX, L.NOID, L.ZY, L.J, L.D
+        SELECT M.N, CAST(RIGHT(H.PZQJ, 2) AS int) AS MONTH, H.BDATE, H.PZZ, H.PZZ_H,
+               L.INX, L.NOID, L.ZY, L.J, L.D,
+               CASE M.SIGN WHEN 1 THEN L.J - L.D ELSE L.D - L.J END AS CHANGE,
+               M.FX, M.TOP_ID, M.KM_NAME
         FROM MEMBER M
         LEFT JOIN D6601A L ON L.KM_ID = M.KM_ID AND L.NOID >= @P_month1 AND L.NOID < @after
         LEFT JOIN D6601 H ON H.NOID = L.NOID
@@ -53,44 +58,46 @@ BEGIN
     MOVED AS (
         SELECT N, MONTH, SUM(J) AS J, SUM(D) AS D FROM LINE GROUP BY N, MONTH),
     SHOWN AS (
-        SELECT T.N, @month1 AS MONTH, 0 AS STEP, NULL AS BDATE, NULL AS PZZ, NULL AS PZZ_H,
+        SELECT T.N, @month1 * 4 AS PLACE, NULL AS BDATE, NULL AS PZZ, NULL AS PZZ_H,
                -1 AS INX, NULL AS NOID,
                CASE @month1 WHEN 1 THEN '上年结转' ELSE '期初余额' END AS ZY,
-               0.00 AS J, 0.00 AS D, T.OPENING AS CHANGE
+               0.00 AS J, 0.00 AS D,
+               CASE T.SIGN WHEN 1 THEN T.OPENING ELSE 0.00 - T.OPENING END AS CHANGE,
+               T.FX, T.KM_ID, T.KM_NAME
         FROM @TOP T
         UNION ALL
-        SELECT N, MONTH, 1, BDATE, PZZ, PZZ_H, INX, NOID, ZY, J, D, CAST(J - D AS decimal(18,2))
+        SELECT N, MONTH * 4 + 1, BDATE, PZZ, PZZ_H, INX, NOID, ZY, J, D, CHANGE, FX, TOP_ID, KM_NAME
         FROM LINE
         UNION ALL
-        SELECT T.N, Q.M, 2, NULL, NULL, NULL, -1, NULL, '本期合计',
+        SELECT T.N, Q.M * 4 + 2, NULL, NULL, NULL, -1, NULL, '本期合计',
                CAST(ISNULL(M.J, 0.00) AS decimal(18,2)), CAST(ISNULL(M.D, 0.00) AS decimal(18,2)),
-               0.00
+               0.00, T.FX, T.KM_ID, T.KM_NAME
         FROM @TOP T CROSS JOIN MONTHS Q LEFT JOIN MOVED M ON M.N = T.N AND M.MONTH = Q.M
         UNION ALL
-        SELECT T.N, Q.M, 3, NULL, NULL, NULL, -1, NULL, '本年累计',
+        SELECT T.N, Q.M * 4 + 3, NULL, NULL, NULL, -1, NULL, '本年累计',
                CAST(T.J + ISNULL((SELECT SUM(M.J) FROM MOVED M
                                   WHERE M.N = T.N AND M.MONTH <= Q.M), 0.00) AS decimal(18,2)),
                CAST(T.D + ISNULL((SELECT SUM(M.D) FROM MOVED M
                                   WHERE M.N = T.N AND M.MONTH <= Q.M), 0.00) AS decimal(18,2)),
-               0.00
-        FROM @TOP T CROSS JOIN MONTHS Q),
-    BALANCED AS (
-        SELECT R.N, R.MONTH, R.STEP, R.BDATE, R.PZZ, R.PZZ_H, R.INX, R.NOID, R.ZY, R.J, R.D,
-               SUM(R.CHANGE) OVER (PARTITION BY R.N
-                                   ORDER BY R.MONTH, R.STEP, R.BDATE, R.PZZ, R.PZZ_H, R.INX
-                                   ROWS UNBOUNDED PRECEDING) AS E
-        FROM SHOWN R)
+               0.00, T.FX, T.KM_ID, T.KM_NAME
+        FROM @TOP T CROSS JOIN MONTHS Q)
     SELECT X.BDATE, X.PZZ + '-' + CONVERT(nvarchar(10), X.PZZ_H) AS PZZ, X.ZY,
-           CASE WHEN @p_xj = 1 AND X.STEP = 1
+           CASE WHEN @p_xj = 1 AND X.NOID IS NOT NULL
                 THEN (SELECT STRING_AGG(O.KM_NAME2, ',') WITHIN GROUP (ORDER BY O.KM_ID)
                       FROM (SELECT DISTINCT A.KM_ID, A.KM_NAME2
                             FROM D6601A L INNER JOIN D6801 A ON A.KM_ID = L.KM_ID
                             WHERE L.NOID = X.NOID AND (X.J <> 0 AND L.D <> 0
                                                        OR X.D <> 0 AND L.J <> 0)) O)
                 ELSE NULL END AS KM_ID_DF,
-           X.J, X.D, CASE X.E WHEN 0 THEN '平' ELSE T.FX END AS FX,
-           CAST(T.SIGN * X.E AS decimal(18,2)) AS E,
-           T.KM_ID, T.KM_NAME, X.INX AS inx, X.NOID
-    FROM BALANCED X INNER JOIN @TOP T ON T.N = X.N
-    ORDER BY X.N, X.MONTH, X.STEP, X.BDATE, X.PZZ, X.PZZ_H, X.INX;
+           X.J, X.D,
+           CASE SUM(X.CHANGE) OVER (PARTITION BY X.N
+                                    ORDER BY X.PLACE, X.BDATE, X.PZZ, X.PZZ_H, X.INX
+                                    ROWS UNBOUNDED PRECEDING)
+                WHEN 0 THEN '平' ELSE X.FX END AS FX,
+           CAST(SUM(X.CHANGE) OVER (PARTITION BY X.N
+                                    ORDER BY X.PLACE, X.BDATE, X.PZZ, X.PZZ_H, X.INX
+                                    ROWS UNBOUNDED PRECEDING) AS decimal(18,2)) AS E,
+           X.KM_ID, X.KM_NAME, X.INX AS inx, X.NOID
+    FROM SHOWN X
+    ORDER BY X.N, X.PLACE, X.BDATE, X.PZZ, X.PZZ_H, X.INX;
 END

@@ -1,7 +1,11 @@
 -- General ledger of the accounts from @KM_ID1 to @KM_ID2 up to level @p_kmjb, by period from
 -- @P_month1 to @P_month2 of a year, from the posted balances: opening, sum of the period, sum of
 -- the year to there. @p_show '1' leaves out accounts without turnover in the range.
--- The opening of a period is the closing balance of the one before, whatever @P_year says.
+-- The opening of a period is the closing balance of the one before, whatever @P_year says. A period
+-- that was not posted has its opening row only.
+-- Each period's figures of an account are read once and make its three rows. Accounts and months
+-- are numbered before: whole numbers sort fast. The outer joins fix the way of looking things up,
+-- from the few accounts to their balances.
 CREATE PROCEDURE SYS_686 @P_year nvarchar(7), @p_show nvarchar(5) = '0', @KM_ID1 nvarchar(50),
     @KM_ID2 nvarchar(50) = NULL, @P_month1 nvarchar(7), @P_month2 nvarchar(7),
     @p_kmjb int = 5 AS
@@ -11,44 +15,53 @@ BEGIN
     SET @last = ISNULL(@KM_ID2, @KM_ID1);
     SET @year = LEFT(@P_month1, 5);
 
-    WITH MONTHS AS (
-        SELECT @year + V.M AS QJ,
-               CONVERT(nvarchar(7), DATEADD(month, -1, CAST(@year + V.M + '-01' AS datetime)), 120)
-               AS BEFORE
-        FROM (VALUES ('01'), ('02'), ('03'), ('04'), ('05'), ('06'),
-                     ('07'), ('08'), ('09'), ('10'), ('11'), ('12')) V (M)
-        WHERE @year + V.M >= @P_month1 AND @year + V.M <= @P_month2),
-    ACCOUNT AS (
-        SELECT A.KM_ID, A.KM_NAME, A.FX
-        FROM D6801 A
-        WHERE A.KM_ID >= @KM_ID1 AND A.KM_ID <= @last AND A.KM_J <= @p_kmjb
-          AND (@p_show <> '1'
-               OR EXISTS (SELECT * FROM D6602 B
-                          WHERE B.KM_ID = A.KM_ID AND B.INX = 0 AND (B.J <> 0 OR B.D <> 0)
-                            AND B.QJ >= @P_month1 AND B.QJ <= @P_month2))),
-    SHOWN AS (
-        SELECT A.KM_ID, A.KM_NAME, A.FX, Q.QJ, 0 AS STEP,
-               CASE RIGHT(Q.QJ, 2) WHEN '01' THEN '上年结转' ELSE '期初余额' END AS ZY,
-               0.00 AS J, 0.00 AS D, ISNULL(B.J - B.D, 0.00) AS E
-        FROM ACCOUNT A CROSS JOIN MONTHS Q
-        LEFT JOIN D6602 B ON B.KM_ID = A.KM_ID AND B.QJ = Q.BEFORE AND B.INX = 1
-        UNION ALL
-        SELECT A.KM_ID, A.KM_NAME, A.FX, Q.QJ, 1, '本期合计', M.J, M.D, ISNULL(B.J - B.D, 0.00)
-        FROM ACCOUNT A CROSS JOIN MONTHS Q
-        INNER JOIN D6602 M ON M.KM_ID = A.KM_ID AND M.QJ = Q.QJ AND M.INX = 0
-        LEFT JOIN D6602 B ON B.KM_ID = A.KM_ID AND B.QJ = Q.QJ AND B.INX = 1
-        UNION ALL
-        SELECT A.KM_ID, A.KM_NAME, A.FX, Q.QJ, 2, '本年累计',
-               (SELECT SUM(Y.J) FROM D6602 Y WHERE Y.KM_ID = A.KM_ID AND Y.INX = 0
-                                               AND Y.QJ >= @year + '00' AND Y.QJ <= Q.QJ),
-               (SELECT SUM(Y.D) FROM D6602 Y WHERE Y.KM_ID = A.KM_ID AND Y.INX = 0
-                                               AND Y.QJ >= @year + '00' AND Y.QJ <= Q.QJ),
-               ISNULL(B.J - B.D, 0.00)
-        FROM ACCOUNT A CROSS JOIN MONTHS Q
-        INNER JOIN D6602 M ON M.KM_ID = A.KM_ID AND M.QJ = Q.QJ AND M.INX = 0
+    DECLARE @MONTHS TABLE (M int NOT NULL PRIMARY KEY, QJ nvarchar(7), BEFORE nvarchar(7));
+    INSERT INTO @MONTHS (M, QJ, BEFORE)
+    SELECT CAST(V.M AS int), @year + V.M,
+           CONVERT(nvarchar(7), DATEADD(month, -1, CAST(@year + V.M + '-01' AS datetime)), 120)
+    FROM (VALUES ('01'), ('02'), ('03'), ('04'), ('05'), ('06'),
+                 ('07'), ('08'), ('09'), ('10'), ('11'), ('12')) V (M)
+    WHERE @year + V.M >= @P_month1 AND @year + V.M <= @P_month2;
+
+    DECLARE @ACCOUNTS TABLE (N int NOT NULL PRIMARY KEY, KM_ID nvarchar(50), KM_NAME nvarchar(100),
+                             FX nvarchar(2), SIGN int, J decimal(18,2), D decimal(18,2));
+    INSERT INTO @ACCOUNTS (N, KM_ID, KM_NAME, FX, SIGN, J, D)
+    SELECT ROW_NUMBER() OVER (ORDER BY A.KM_ID), A.KM_ID, A.KM_NAME, A.FX,
+           CASE A.FX WHEN '借' THEN 1 ELSE -1 END,
+           ISNULL((SELECT SUM(Y.J) FROM D6602 Y WHERE Y.KM_ID = A.KM_ID AND Y.INX = 0
+                   AND Y.QJ >= @year + '00' AND Y.QJ < @P_month1), 0.00),
+           ISNULL((SELECT SUM(Y.D) FROM D6602 Y WHERE Y.KM_ID = A.KM_ID AND Y.INX = 0
+                   AND Y.QJ >= @year + '00' AND Y.QJ < @P_month1), 0.00)
+    FROM D6801 A
+    WHERE A.KM_ID >= @KM_ID1 AND A.KM_ID <= @last AND A.KM_J <= @p_kmjb
+      AND (@p_show <> '1'
+           OR EXISTS (SELECT * FROM D6602 B
+                      WHERE B.KM_ID = A.KM_ID AND B.INX = 0 AND (B.J <> 0 OR B.D <> 0)
+                        AND B.QJ >= @P_month1 AND B.QJ <= @P_month2));
+
+    WITH PERIOD AS (
+        SELECT A.N, Q.M, A.KM_ID, A.KM_NAME, A.FX, Q.QJ, P.J, P.D,
+               CASE A.SIGN WHEN 1 THEN ISNULL(O.J - O.D, 0.00)
+                           ELSE ISNULL(O.D - O.J, 0.00) END AS OPENING,
+               CASE A.SIGN WHEN 1 THEN ISNULL(B.J - B.D, 0.00)
+                           ELSE ISNULL(B.D - B.J, 0.00) END AS CLOSING,
+               A.J + SUM(P.J) OVER (PARTITION BY A.N ORDER BY Q.M
+                                    ROWS UNBOUNDED PRECEDING) AS YEAR_J,
+               A.D + SUM(P.D) OVER (PARTITION BY A.N ORDER BY Q.M
+                                    ROWS UNBOUNDED PRECEDING) AS YEAR_D
+        FROM @ACCOUNTS A CROSS JOIN @MONTHS Q
+        LEFT JOIN D6602 O ON O.KM_ID = A.KM_ID AND O.QJ = Q.BEFORE AND O.INX = 1
+        LEFT JOIN D6602 P ON P.KM_ID = A.KM_ID AND P.QJ = Q.QJ AND P.INX = 0
         LEFT JOIN D6602 B ON B.KM_ID = A.KM_ID AND B.QJ = Q.QJ AND B.INX = 1)
-    SELECT KM_ID, KM_NAME, QJ, ZY, J, D, CASE E WHEN 0 THEN '平' ELSE FX END AS FX,
-           CASE FX WHEN '借' THEN E ELSE 0.00 - E END AS E, QJ AS QJ_MONTH
-    FROM SHOWN
-    ORDER BY KM_ID, QJ, STEP;
+    SELECT P.KM_ID, P.KM_NAME, P.QJ,
+           CASE S.STEP WHEN 1 THEN '本期合计' WHEN 2 THEN '本年累计'
+                       ELSE CASE P.M WHEN 1 THEN '上年结转' ELSE '期初余额' END END AS ZY,
+           CASE S.STEP WHEN 1 THEN P.J WHEN 2 THEN P.YEAR_J ELSE 0.00 END AS J,
+           CASE S.STEP WHEN 1 THEN P.D WHEN 2 THEN P.YEAR_D ELSE 0.00 END AS D,
+           CASE CASE S.STEP WHEN 0 THEN P.OPENING ELSE P.CLOSING END
+                WHEN 0 THEN '平' ELSE P.FX END AS FX,
+           CASE S.STEP WHEN 0 THEN P.OPENING ELSE P.CLOSING END AS E, P.QJ AS QJ_MONTH
+    FROM PERIOD P CROSS JOIN (VALUES (0), (1), (2)) S (STEP)
+    WHERE S.STEP = 0 OR P.J IS NOT NULL
+    ORDER BY P.N, P.M, S.STEP;
 END

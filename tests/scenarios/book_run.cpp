@@ -6,6 +6,7 @@
 #include "app/books/open.h"
 #include "automation/check/check.h"
 #include "tests/scenarios/book_comparison.h"
+#include "tests/scenarios/ledger_comparison.h"
 #include "tests/support/bookkeeper.h"
 
 namespace tests {
@@ -76,6 +77,7 @@ public:
             verdict.vouchers = typed_;
             verdict.figures += compare_books(books_, ledger_);
         }
+        verdict.ledger_figures = compare_ledgers(books_, ledger_);
         if (!ledger_.balances_run_on()) return;
         const auto session = app::open_books(books_.file().string(), app::Access::ReadOnly);
         for (const automation::Finding& finding : automation::check_books(*session)) {

@@ -15,6 +15,7 @@ struct BookVerdict {
     std::size_t steps = 0;    // carried out until then
     std::size_t vouchers = 0; // typed
     std::size_t figures = 0;  // amounts of balances compared
+    std::size_t ledger_figures = 0; // amounts of ledgers and functions, at the end
     bool audited = false;     // every month was posted in turn, and the audit found nothing
 };
 
@@ -23,8 +24,8 @@ struct BookVerdict {
 BooksOptions small_books(int words);
 
 // Makes fresh books, carries the plan out through the driver, and compares periods, vouchers, lines
-// and every row of the balances after each step; at the end the audit looks at books whose months
-// were posted in turn.
+// and every row of the balances after each step; at the end all ledgers of all periods, and the
+// audit looks at books whose months were posted in turn.
 BookVerdict keep_books(const BookPlan& plan);
 
 // The shortest plan found that still fails, by leaving out openings and steps; `fails` is asked at

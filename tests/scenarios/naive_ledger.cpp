@@ -63,10 +63,10 @@ int NaiveLedger::level(const std::string& code) const {
     return parent == "Z" ? 1 : level(parent) + 1;
 }
 
-bool NaiveLedger::below(const std::string& code, const std::string& above) const {
+bool NaiveLedger::stands_below(const std::string& code, const std::string& above) const {
     if (code == above) return true;
     const std::string& parent = account(code).parent;
-    return parent != "Z" && below(parent, above);
+    return parent != "Z" && stands_below(parent, above);
 }
 
 bool NaiveLedger::in_use(const std::string& code) const {
@@ -130,7 +130,7 @@ void NaiveLedger::write_opening(const std::string& year_row, const std::string& 
         NaiveFigures& year = balances_[{year_row, one.code, 0}];
         Cents on_debit = 0;
         for (const auto& [code, opening] : openings_) {
-            if (!below(code, one.code)) continue;
+            if (!stands_below(code, one.code)) continue;
             year.debit += opening.debit;
             year.credit += opening.credit;
             on_debit += account(code).debit ? opening.balance : -opening.balance;
@@ -195,7 +195,7 @@ Cents NaiveLedger::moved(const std::string& account, const std::string& period, 
         if (voucher.period != period || !voucher.audited) continue;
         if (only_carried && !voucher.carried) continue;
         for (const NaiveLine& line : voucher.lines) {
-            if (below(line.account, account)) sum += debit ? line.debit : line.credit;
+            if (stands_below(line.account, account)) sum += debit ? line.debit : line.credit;
         }
     }
     return sum;
@@ -217,7 +217,7 @@ Cents NaiveLedger::before(const std::string& account, const std::string& period)
     }
     if (month != opened_at_ || !balances_.contains({month, account, 1})) return sum;
     for (const auto& [code, opening] : openings_) {
-        if (!below(code, account)) continue;
+        if (!stands_below(code, account)) continue;
         sum += this->account(code).debit ? opening.balance : -opening.balance;
     }
     return sum;

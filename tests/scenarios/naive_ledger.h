@@ -62,6 +62,7 @@ public:
     bool has_balance(const std::string& code) const; // closed some period with one
     void add_account(const NaiveAccount& account) { chart_[account.code] = account; }
     void turn(const std::string& code) { chart_.at(code).debit = !chart_.at(code).debit; }
+    bool stands_below(const std::string& code, const std::string& above) const; // or the same
     std::vector<std::string> leaves() const;
     std::vector<std::string> profit_leaves() const; // those carried forward, in order
 
@@ -71,6 +72,11 @@ public:
     // Periods: "" before the set-up.
     const std::string& first() const { return first_; }
     const std::string& current() const { return current_; }
+    bool opened_inside_a_month() const { return opened_at_ == first_; }
+    // The period was posted, and no period before it was posted or taken back since.
+    bool stands(const std::string& period) const {
+        return posted_.contains(period) && !overtaken_.contains(period);
+    }
     std::string close_period();  // the text shown
     std::string reopen_period(); // the same
 
@@ -93,7 +99,6 @@ public:
     bool balances_run_on() const;
 
 private:
-    bool below(const std::string& code, const std::string& above) const; // or the same
     Cents moved(const std::string& account, const std::string& period, bool debit,
                 bool only_carried) const;
     Cents before(const std::string& account, const std::string& period) const;

@@ -6,6 +6,7 @@
 
 #include "tests/scenarios/book_comparison.h"
 #include "tests/scenarios/book_run.h"
+#include "tests/scenarios/ledger_comparison.h"
 
 namespace tests {
 
@@ -18,6 +19,29 @@ int number_from(const char* name, int otherwise) {
 
 constexpr int usual_books = 25;
 constexpr int times_to_shrink = 300;
+
+// What the plain ledger holds, as the tables of the books hold it.
+std::string written(const NaiveLedger& ledger) {
+    std::string batch = "UPDATE D6600 SET PARAM='" + ledger.first() + "' WHERE ID IN (1, 2);";
+    for (const NaiveVoucher& voucher : ledger.vouchers()) {
+        batch += "INSERT INTO D6601 (NOID,PZQJ,PZZ,PZZ_H,BDATE,USER_ID,T,D) VALUES ('" +
+                 voucher.key + "','" + voucher.period + "','" + voucher.word + "'," +
+                 std::to_string(voucher.number) + ",'" + voucher.period + "-05','admin',1,1);";
+        int place = 0;
+        for (const NaiveLine& line : voucher.lines) {
+            batch += "INSERT INTO D6601A (NOID,ZY,KM_ID,J,D,INX) VALUES ('" + voucher.key +
+                     "','往来','" + line.account + "'," + money(line.debit) + "," +
+                     money(line.credit) + "," + std::to_string(place++) + ");";
+        }
+    }
+    for (const auto& [key, figures] : ledger.balances()) {
+        batch += "INSERT INTO D6602 (QJ,KM_ID,INX,J,D,SY_J,SY_D) VALUES ('" + key.period + "','" +
+                 key.account + "'," + std::to_string(key.kind) + "," + money(figures.debit) + "," +
+                 money(figures.credit) + "," + money(figures.carried_debit) + "," +
+                 money(figures.carried_credit) + ");";
+    }
+    return batch;
+}
 
 } // namespace
 
@@ -34,6 +58,7 @@ TEST(RandomBooks, hold_in_every_period_and_account_what_plain_addition_gives) {
         sum.vouchers += verdict.vouchers;
         sum.figures += verdict.figures;
         if (verdict.audited) ++audited;
+        sum.ledger_figures += verdict.ledger_figures;
         if (verdict.difference.empty()) continue;
         const BookPlan shortest = shrink(plan, times_to_shrink, [](const BookPlan& shorter) {
             return !keep_books(shorter).difference.empty();
@@ -44,8 +69,10 @@ TEST(RandomBooks, hold_in_every_period_and_account_what_plain_addition_gives) {
     }
     std::cout << "seeds " << first << " to " << first + count - 1 << ": " << sum.steps
               << " steps, " << sum.vouchers << " vouchers typed, " << sum.figures
-              << " amounts compared, " << audited << " books audited\n";
+              << " amounts of balances and " << sum.ledger_figures << " of ledgers compared, "
+              << audited << " books audited\n";
     EXPECT_GT(sum.figures, 0U);
+    EXPECT_GT(sum.ledger_figures, 0U);
 }
 
 // ---- the test itself
@@ -64,6 +91,35 @@ TEST(RandomBooks, a_balance_that_is_a_cent_off_is_found) {
     NaiveLedger ledger(starting_chart());
     ledger.set_up("2024-03-02", {{"1001", {.balance = 1233}}});
     EXPECT_THROW(compare_books(books, ledger), Difference);
+}
+
+TEST(RandomBooks, a_cent_that_a_ledger_shows_wrong_is_found) {
+    Books books(small_books(1));
+    NaiveLedger ledger(starting_chart());
+    ledger.set_up("2024-03-01", {{"1001", {.balance = 5000}}, {"2121", {.balance = 5000}}});
+    NaiveVoucher voucher{.key = "2024-03记001", .period = "2024-03", .word = "记", .number = 1};
+    voucher.lines = {{"100202", 700, 0}, {"510101", 0, 700}};
+    voucher.audited = true;
+    ledger.vouchers().push_back(voucher);
+    ledger.post();
+    books.execute(written(ledger));
+    EXPECT_NO_THROW(compare_ledgers(books, ledger));
+    for (const char* table : {"D6601A SET J=J+%c WHERE KM_ID='100202'",
+                              "D6601A SET D=D+%c WHERE KM_ID='510101'",
+                              "D6602 SET J=J+%c WHERE KM_ID='1002' AND INX=0 AND QJ='2024-03'",
+                              "D6602 SET D=D+%c WHERE KM_ID='5101' AND INX=1 AND QJ='2024-03'",
+                              "D6602 SET J=J+%c WHERE KM_ID='1001' AND INX=1 AND QJ='2024-02'",
+                              "D6602 SET SY_D=SY_D+%c WHERE KM_ID='510101' AND INX=0 AND "
+                              "QJ='2024-03'"}) {
+        const auto add = [&](const std::string& cent) {
+            std::string batch = std::string("UPDATE ") + table;
+            books.execute(batch.replace(batch.find("%c"), 2, cent));
+        };
+        add("0.01");
+        EXPECT_THROW(compare_ledgers(books, ledger), Difference) << table;
+        add("(-0.01)");
+    }
+    EXPECT_NO_THROW(compare_ledgers(books, ledger));
 }
 
 TEST(RandomBooks, a_plan_that_fails_is_shortened_to_the_steps_that_matter) {
