@@ -11,23 +11,26 @@ CREATE PROCEDURE SYS_686 @P_year nvarchar(7), @p_show nvarchar(5) = '0', @KM_ID1
     @p_kmjb int = 5 AS
 BEGIN
     SET NOCOUNT ON;
-    DECLARE @last nvarchar(50), @year nvarchar(5);
+    DECLARE @last nvarchar(50), @before nvarchar(7), @year nvarchar(5);
     SET @last = ISNULL(@KM_ID2, @KM_ID1);
+    SET @before = CONVERT(nvarchar(7), DATEADD(month, -1, CAST(@P_month1 + '-01' AS datetime)), 120);
     SET @year = LEFT(@P_month1, 5);
 
-    DECLARE @MONTHS TABLE (M int NOT NULL PRIMARY KEY, QJ nvarchar(7), BEFORE nvarchar(7));
-    INSERT INTO @MONTHS (M, QJ, BEFORE)
-    SELECT CAST(V.M AS int), @year + V.M,
-           CONVERT(nvarchar(7), DATEADD(month, -1, CAST(@year + V.M + '-01' AS datetime)), 120)
+    DECLARE @MONTHS TABLE (M int NOT NULL PRIMARY KEY, QJ nvarchar(7));
+    INSERT INTO @MONTHS (M, QJ)
+    SELECT CAST(V.M AS int), @year + V.M
     FROM (VALUES ('01'), ('02'), ('03'), ('04'), ('05'), ('06'),
                  ('07'), ('08'), ('09'), ('10'), ('11'), ('12')) V (M)
     WHERE @year + V.M >= @P_month1 AND @year + V.M <= @P_month2;
 
     DECLARE @ACCOUNTS TABLE (N int NOT NULL PRIMARY KEY, KM_ID nvarchar(50), KM_NAME nvarchar(100),
-                             FX nvarchar(2), SIGN int, J decimal(18,2), D decimal(18,2));
-    INSERT INTO @ACCOUNTS (N, KM_ID, KM_NAME, FX, SIGN, J, D)
+                             FX nvarchar(2), SIGN int, OPENING decimal(18,2),
+                             J decimal(18,2), D decimal(18,2));
+    INSERT INTO @ACCOUNTS (N, KM_ID, KM_NAME, FX, SIGN, OPENING, J, D)
     SELECT ROW_NUMBER() OVER (ORDER BY A.KM_ID), A.KM_ID, A.KM_NAME, A.FX,
            CASE A.FX WHEN '借' THEN 1 ELSE -1 END,
+           ISNULL((SELECT CASE A.FX WHEN '借' THEN B.J - B.D ELSE B.D - B.J END FROM D6602 B
+                   WHERE B.KM_ID = A.KM_ID AND B.QJ = @before AND B.INX = 1), 0.00),
            ISNULL((SELECT SUM(Y.J) FROM D6602 Y WHERE Y.KM_ID = A.KM_ID AND Y.INX = 0
                    AND Y.QJ >= @year + '00' AND Y.QJ < @P_month1), 0.00),
            ISNULL((SELECT SUM(Y.D) FROM D6602 Y WHERE Y.KM_ID = A.KM_ID AND Y.INX = 0
@@ -41,8 +44,9 @@ BEGIN
 
     WITH PERIOD AS (
         SELECT A.N, Q.M, A.KM_ID, A.KM_NAME, A.FX, Q.QJ, P.J, P.D,
-               CASE A.SIGN WHEN 1 THEN ISNULL(O.J - O.D, 0.00)
-                           ELSE ISNULL(O.D - O.J, 0.00) END AS OPENING,
+               LAG(CASE A.SIGN WHEN 1 THEN ISNULL(B.J - B.D, 0.00)
+                               ELSE ISNULL(B.D - B.J, 0.00) END, 1, A.OPENING)
+                   OVER (PARTITION BY A.N ORDER BY Q.M) AS OPENING,
                CASE A.SIGN WHEN 1 THEN ISNULL(B.J - B.D, 0.00)
                            ELSE ISNULL(B.D - B.J, 0.00) END AS CLOSING,
                A.J + SUM(P.J) OVER (PARTITION BY A.N ORDER BY Q.M
@@ -50,7 +54,6 @@ BEGIN
                A.D + SUM(P.D) OVER (PARTITION BY A.N ORDER BY Q.M
                                     ROWS UNBOUNDED PRECEDING) AS YEAR_D
         FROM @ACCOUNTS A CROSS JOIN @MONTHS Q
-        LEFT JOIN D6602 O ON O.KM_ID = A.KM_ID AND O.QJ = Q.BEFORE AND O.INX = 1
         LEFT JOIN D6602 P ON P.KM_ID = A.KM_ID AND P.QJ = Q.QJ AND P.INX = 0
         LEFT JOIN D6602 B ON B.KM_ID = A.KM_ID AND B.QJ = Q.QJ AND B.INX = 1)
     SELECT P.KM_ID, P.KM_NAME, P.QJ,
