@@ -23,7 +23,8 @@ LedgerSums DetailedLedger::read(const std::string& account, const host::Period& 
     shown.text += account_.text(0).size();
     const std::int64_t sign = account_.text(1) == "借" ? 1 : -1;
     account_.reset();
-    std::int64_t balance = opening_.bind(1, account).bind(2, before).step() ? opening_.integer(0) : 0;
+    opening_.bind(1, account).bind(2, before);
+    std::int64_t balance = opening_.step() ? opening_.integer(0) : 0;
     opening_.reset();
     year_.bind(1, account).bind(2, year).bind(3, from).step();
     std::int64_t year_debit = year_.integer(0), year_credit = year_.integer(1);

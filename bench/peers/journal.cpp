@@ -47,8 +47,8 @@ void write_openings(const hand::Connection& books, const Names& names, std::FILE
     first.step();
     const host::Period before = host::Period::parse(first.text(0))->previous();
     std::fprintf(out, "%s opening\n", before.last_day().to_text().c_str());
-    hand::Statement read(books, "SELECT B.KM_ID, B.J-B.D FROM D6602 B WHERE B.QJ=?1 AND B.INX=1 AND "
-                                "NOT EXISTS (SELECT 1 FROM D6801 C WHERE C.OID=B.KM_ID)");
+    hand::Statement read(books, "SELECT B.KM_ID, B.J-B.D FROM D6602 B WHERE B.QJ=?1 AND B.INX=1 "
+                                "AND NOT EXISTS (SELECT 1 FROM D6801 C WHERE C.OID=B.KM_ID)");
     const std::string period = before.to_text();
     read.bind(1, period);
     while (read.step()) {
@@ -74,7 +74,8 @@ void write_journal(const hand::Connection& books, const std::string& file) {
         if (read.text(5) != key) {
             if (!key.empty()) std::fputs("\n", out.get());
             key = read.text(5);
-            const host::Date day = origin.plus_days(static_cast<int>(read.integer(0) / ticks_a_day));
+            const auto days = static_cast<int>(read.integer(0) / ticks_a_day);
+            const host::Date day = origin.plus_days(days);
             std::fprintf(out.get(), "%s %s%s\n", day.to_text().c_str(),
                          std::string(read.text(1)).c_str(), std::string(read.text(2)).c_str());
         }

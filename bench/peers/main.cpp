@@ -29,7 +29,8 @@ BigBooks posted_copy(const BigBooks& books) {
 }
 
 template <class Answer>
-void require_same(const Reader& reader, const char* what, const Answer& theirs, const Answer& ours) {
+void require_same(const Reader& reader, const char* what, const Answer& theirs,
+                  const Answer& ours) {
     if (theirs == ours) return;
     throw std::runtime_error(reader.name + " gives another " + what + " than we do: " +
                              std::to_string(theirs.size()) + " figures against " +

@@ -66,7 +66,8 @@ BEGIN
                T.FX, T.KM_ID, T.KM_NAME
         FROM @TOP T
         UNION ALL
-        SELECT N, MONTH * 4 + 1, BDATE, PZZ, PZZ_H, INX, NOID, ZY, J, D, CHANGE, FX, TOP_ID, KM_NAME
+        SELECT N, MONTH * 4 + 1, BDATE, PZZ, PZZ_H, INX, NOID, ZY, J, D, CHANGE,
+               FX, TOP_ID, KM_NAME
         FROM LINE
         UNION ALL
         SELECT T.N, Q.M * 4 + 2, NULL, NULL, NULL, -1, NULL, '本期合计',

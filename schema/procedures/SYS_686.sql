@@ -13,7 +13,7 @@ BEGIN
     SET NOCOUNT ON;
     DECLARE @last nvarchar(50), @before nvarchar(7), @year nvarchar(5);
     SET @last = ISNULL(@KM_ID2, @KM_ID1);
-    SET @before = CONVERT(nvarchar(7), DATEADD(month, -1, CAST(@P_month1 + '-01' AS datetime)), 120);
+    SET @before = CONVERT(nvarchar(7), DATEADD(month, -1, @P_month1 + '-01'), 120);
     SET @year = LEFT(@P_month1, 5);
 
     DECLARE @MONTHS TABLE (M int NOT NULL PRIMARY KEY, QJ nvarchar(7));
