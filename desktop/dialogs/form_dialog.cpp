@@ -1,6 +1,7 @@
 // Runs a modal form until it has its result.
 #include "desktop/dialogs/form_dialog.h"
 
+#include <QTableView>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -9,6 +10,7 @@
 #include "desktop/renderers/form_view.h"
 #include "desktop/renderers/layout_builder.h"
 #include "desktop/theme/text.h"
+#include "desktop/theme/tokens.h"
 #include "host/forms/form.h"
 
 namespace desktop {
@@ -34,6 +36,10 @@ FormDialog::FormDialog(host::TForm& form, QWidget* over)
     // A grid wants a dozen rows, so that a person sees what there is to choose from.
     const int height = wide ? 600 : holds_a_grid(form.layout) ? 540 : 0;
     setMinimumSize(wide ? std::max(least, 960) : least, height);
+    // Beside many fields the grid still shows eight rows.
+    if (!wide)
+        for (auto* grid : view_->findChildren<QTableView*>("grid"))
+            grid->setMinimumHeight(token::header + 8 * token::grid_row);
     view_->listen(form, [this] { follow(); });
 }
 

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <algorithm>
 
 #include "desktop/dialogs/veil.h"
 #include "desktop/theme/fonts.h"
@@ -44,7 +45,11 @@ QRect PanelDialog::cross() const { return {width() - 34, 1, 32, caption_height -
 
 void PanelDialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
-    adjustSize();
+    // As large as its parts ask for: what does not fit is cut off, and nobody enlarges a dialog.
+    QSize natural = sizeHint().expandedTo(minimumSize());
+    if (hasHeightForWidth())
+        natural.setHeight(std::max(heightForWidth(natural.width()), minimumHeight()));
+    resize(natural);
     if (QWidget* over = parentWidget()) {
         const QRect below = over->window()->geometry();
         move(below.center() - QPoint(width() / 2, height() / 2 + below.height() / 24));

@@ -18,6 +18,7 @@ public:
     QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override;
 
 private:
+    bool is_summary(int row) const;
     void paint_ground(QPainter& painter, const QRect& cell, int row,
                       const host::CellParams& params) const;
     void paint_content(QPainter& painter, const QRect& cell, int row, int column,

@@ -80,12 +80,20 @@ QRect GridHeader::group_rect(int logical) const {
                  token::header_level);
 }
 
+// A sheet with lettered columns ("A|资产") has halves: after amounts the next items begin.
+bool GridHeader::closes_half(int logical, int after) const {
+    return upper(logical).size() == 1 && upper(after).size() == 1 &&
+           is_amount_column(*grid_, *column_at(logical)) &&
+           !is_amount_column(*grid_, *column_at(after));
+}
+
 bool GridHeader::closes_group(int logical) const {
     const auto* column = column_at(logical);
     if (!column || levels() == 1 || is_ruled(*grid_)) return false;
     const int next = visualIndex(logical) + 1;
     if (next >= count()) return false;
     const int after = logicalIndex(next);
+    if (closes_half(logical, after)) return true;
     // A title of two lines over one column makes no group of it.
     const auto spans = [this](int column) {
         return group_rect(column).width() > sectionSize(column);

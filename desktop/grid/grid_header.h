@@ -16,6 +16,7 @@ public:
     void detach() { grid_ = nullptr; } // the grid goes before its header
     // The column is the last of a group of columns with one upper title.
     bool closes_group(int column) const;
+    bool closes_half(int column, int after) const;
 
 protected:
     void paintSection(QPainter* painter, const QRect& rect, int column) const override;

@@ -1,10 +1,21 @@
 // A push button of a form.
+#include <QRegularExpression>
+
 #include "desktop/renderers/form_view.h"
 #include "desktop/renderers/hinted_button.h"
 #include "desktop/renderers/renderers.h"
 #include "desktop/theme/text.h"
 
 namespace desktop {
+namespace {
+
+// "F2" of "确定 F2": a caption that names its key has it drawn as every other button has.
+QString key_at_end(const QString& caption) {
+    static const QRegularExpression key(QStringLiteral(" (F\\d{1,2}|ESC)$"));
+    return key.match(caption).captured(1);
+}
+
+} // namespace
 
 QWidget* draw_button(host::TButton& button, FormView& view) {
     auto* widget = new HintedButton(&view, ButtonLook::Plain);
@@ -14,6 +25,7 @@ QWidget* draw_button(host::TButton& button, FormView& view) {
     view.listen(button, [widget, &button] {
         QString caption = qt(button.Caption.get());
         QString hint = qt(button.KeyHint);
+        if (hint.isEmpty()) hint = key_at_end(caption);
         // A caption that already ends with its key ("登帐 F2") shows it once.
         if (!hint.isEmpty() && caption.endsWith(" " + hint)) caption.chop(hint.size() + 1);
         // The button that does what the dialog is for stands out, also where Enter goes on instead.

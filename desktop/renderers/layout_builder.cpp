@@ -2,12 +2,15 @@
 #include "desktop/renderers/layout_builder.h"
 
 #include <QFrame>
+#include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
 
 #include "desktop/renderers/form_view.h"
 #include "desktop/renderers/layout_parts.h"
+#include "desktop/theme/icons.h"
 #include "desktop/theme/tokens.h"
+#include "host/controls/buttons.h"
 
 namespace desktop {
 namespace {
@@ -56,6 +59,53 @@ void add_block(const std::vector<LayoutNode>& rows, QVBoxLayout& bands, FormView
     bands.addLayout(column);
 }
 
+// A row of texts of which one takes the rest tells about the selected cell, such as its formula.
+bool tells_about_a_cell(const LayoutNode& node) {
+    const auto is_text = [](const LayoutNode& part) {
+        return dynamic_cast<host::TLabel*>(part.control) != nullptr;
+    };
+    const auto takes_rest = [](const LayoutNode& part) { return part.width < 0; };
+    const auto& parts = node.children;
+    return node.kind == Kind::Columns && std::all_of(parts.begin(), parts.end(), is_text) &&
+           std::any_of(parts.begin(), parts.end(), takes_rest);
+}
+
+// White as the grid below it; the cell's name stands over the row numbers.
+class CellBand : public QWidget {
+public:
+    explicit CellBand(QWidget* parent) : QWidget(parent) { setFixedHeight(token::header + 4); }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(rect(), token::paper_0);
+        painter.fillRect(0, 0, token::row_numbers, height(), token::indigo_4);
+        painter.fillRect(0, 0, width(), 1, token::rule_2);
+        painter.fillRect(0, height() - 1, width(), 1, token::rule_2);
+        painter.fillRect(token::row_numbers - 1, 0, 1, height(), token::rule_2);
+        icons::paint(painter, "square-function",
+                     QRect(token::row_numbers + 12, 0, 14, height()), 14, token::ink_3);
+    }
+};
+
+void add_cell_band(const LayoutNode& node, QVBoxLayout& bands, FormView& view) {
+    auto* band = new CellBand(&view);
+    auto* row = new QHBoxLayout(band);
+    row->setContentsMargins(0, 0, 12, 0);
+    row->setSpacing(token::gap);
+    const LayoutPlace place{view};
+    for (const LayoutNode& part : node.children) {
+        add_node(part, *row, place);
+        if (&part != &node.children.front()) continue;
+        if (auto* name = qobject_cast<QLabel*>(row->itemAt(0)->widget())) {
+            name->setFixedWidth(token::row_numbers - 1);
+            name->setAlignment(Qt::AlignCenter);
+        }
+        row->addSpacing(26);
+    }
+    bands.addWidget(band);
+}
+
 void add_ruled(const LayoutNode& node, QVBoxLayout& bands, FormView& view) {
     auto* band = new RuledBand(&view);
     const bool status = node.kind == Kind::StatusLine;
@@ -70,7 +120,7 @@ void add_ruled(const LayoutNode& node, QVBoxLayout& bands, FormView& view) {
 
 QVBoxLayout* add_rest_band(QVBoxLayout& bands, FormKind kind) {
     auto* box = new QVBoxLayout;
-    if (kind != FormKind::List) box->setContentsMargins(16, 0, 16, 4);
+    if (kind != FormKind::List) box->setContentsMargins(16, bands.isEmpty() ? 16 : 0, 16, 4);
     box->setSpacing(0);
     bands.addLayout(box, 1);
     return box;
@@ -113,7 +163,13 @@ void add_bands(const LayoutNode& root, QVBoxLayout& bands, FormView& view, FormK
             if (rest_band == nullptr) rest_band = add_rest_band(bands, kind);
             add_node(node, *rest_band, LayoutPlace{view});
             continue;
-        default: block.push_back(node);
+        default:
+            if (kind == FormKind::List && tells_about_a_cell(node)) {
+                close_block();
+                add_cell_band(node, bands, view);
+                break;
+            }
+            block.push_back(node);
         }
         rest_band = nullptr;
     }

@@ -31,6 +31,7 @@ QWidget* draw_link_edit(host::TLinkEdit& edit, FormView& view) {
     across->addWidget(widget, 0);
     across->addWidget(name, 1);
     widget->setMinimumWidth(width_of_characters(10));
+    name->setMinimumWidth(width_of_characters(12)); // the line for the name, also while it is empty
     view.listen(edit, [name, row, &edit] {
         name->setText(qt(edit.DisplayName.get()));
         row->setVisible(edit.Visible);

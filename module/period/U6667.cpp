@@ -41,7 +41,6 @@ TF6667::TF6667(TForm* parent) : TFrm_Base_Dialog(parent) {
     Caption = "结转损溢";
     PreferredWidth = 110;
     btn_ok.Caption = "结转 F2";
-    btn_ok.KeyHint = ""; // its caption names the key
     btn_Cancel.Caption = "关闭";
     Edit1.Text = "结转本期损益";
     Edit1.MaxLength = 100;

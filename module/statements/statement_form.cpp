@@ -11,6 +11,7 @@ namespace {
 constexpr Color blue = 0xFF0000;
 constexpr int amount_tag = 9;
 constexpr int layouts = 3;
+constexpr std::string_view grand_total = "总计";
 const char* const select_period = "SELECT id,param  FROM d6600 where id=2";
 
 GridColumn column_of(StatementContent content, const char* field, const char* title) {
@@ -200,11 +201,14 @@ std::string StatementForm::item_of(const StatementColumn& column) const {
     return trimmed(AdoQry_Main.FieldByName(item->field).AsText());
 }
 
-// Items that stand at the margin head a group or sum one up; indented ones belong to them.
+// Items that stand at the margin head a group or sum one up; indented ones belong to them. The
+// amounts of a grand total are what the eye looks for.
 void StatementForm::DBGridEhGetCellParams(TField& field, CellParams& params) {
     const int column = DBGridEh.column_index(field.FieldName);
     if (column < 0) return;
     const StatementColumn& shown = kind_.columns[static_cast<std::size_t>(column)];
+    if (shown.content == StatementContent::Amount)
+        params.Bold = item_of(shown).ends_with(grand_total);
     if (shown.content != StatementContent::Item) return;
     const std::string item = field.AsText();
     if (!item.empty() && item.front() != ' ') params.Font = blue;

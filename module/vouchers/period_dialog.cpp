@@ -20,7 +20,6 @@ const char* const select_counts =
 PeriodDialog::PeriodDialog(TForm* parent, const std::string& forward, const std::string& back)
     : TFrm_Base_Dialog(parent), btn_re(this, "btn_re", back) {
     btn_ok.Caption = forward;
-    btn_ok.KeyHint = ""; // its caption names the key
     btn_Cancel.Caption = "关闭";
     btn_re.OnClick = [this] { btn_okClick(btn_re); };
 }

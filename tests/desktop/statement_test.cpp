@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include "desktop/theme/text.h"
+#include "desktop/theme/tokens.h"
 #include "host/contract/U_glo.h"
 #include "host/controls/grid.h"
 #include "host/forms/form.h"
@@ -37,7 +38,9 @@ struct StatementDesk : Desk {
                      {"2", " 货币资金", "1", "605712.62", "644591.29", "1", cash, " 短期借款", "68",
                       "300000.00", "-300.00", "1", "2"},
                      {"3", " 短期投资", "2", "0.00", "0.00", "1", "2", " 应付票据", "69", "0.00",
-                      "0.00", "1", "2"}});
+                      "0.00", "1", "2"},
+                     {"4", "  资产总计", "67", "1.00", "1.00", "", "",
+                      "  负债和所有者权益（或股东权益）总计", "135", "1.00", "1.00", "", ""}});
         data.answer("SELECT id,param", {"id int", "param text"}, {{"2", "2024-03"}});
         data.answer("select ", {"a money"}, {{"12.5"}});
         keys({"Ctrl+G", "6", "7", "1", "Enter"});
@@ -143,6 +146,39 @@ TEST(Statement, rows_are_made_higher_with_the_mouse) {
     QTest::mouseMove(numbers.viewport(), QPoint(10, edge + 30));
     QTest::mouseRelease(numbers.viewport(), Qt::LeftButton, {}, QPoint(10, edge + 30));
     EXPECT_EQ(table.rowHeight(1), before + 30);
+}
+
+TEST(Statement, a_darker_line_parts_the_two_halves_and_a_heading_keeps_a_white_ground) {
+    StatementDesk desk;
+    QTableView& table = *desk.grid_in_front();
+    const QImage grid = table.viewport()->grab().toImage();
+    const auto edge_of = [&](int row, int column) {
+        const QRect cell = table.visualRect(table.model()->index(row, column));
+        return grid.pixelColor(cell.right(), cell.center().y());
+    };
+    EXPECT_EQ(edge_of(1, 3), desktop::token::rule_3); // 资产 ends
+    EXPECT_EQ(edge_of(1, 2), desktop::token::rule_1);
+    desk.click_cell(1, 0);
+    const QRect heading = table.visualRect(table.model()->index(0, 4));
+    EXPECT_EQ(table.viewport()->grab().toImage().pixelColor(heading.right() - 3, heading.top() + 3),
+              desktop::token::paper_0);
+}
+
+TEST(Statement, the_amounts_of_a_grand_total_stand_out) {
+    StatementDesk desk;
+    auto& grid = *dynamic_cast<host::TDBGridEh*>(desk.form->FindComponent("DBGridEh"));
+    EXPECT_TRUE(grid.cell_params(3, 2).Bold);
+    EXPECT_TRUE(grid.cell_params(3, 7).Bold);
+    EXPECT_FALSE(grid.cell_params(3, 0).Bold);
+    EXPECT_FALSE(grid.cell_params(2, 2).Bold);
+}
+
+TEST(Statement, the_formula_stands_on_a_band_of_its_own_above_the_lines) {
+    StatementDesk desk;
+    desk.click_cell(1, 3);
+    QTableView& table = *desk.grid_in_front();
+    const QPoint above = table.mapTo(&desk.window(), QPoint(300, -6));
+    EXPECT_EQ(desk.picture().pixelColor(above), desktop::token::paper_0);
 }
 
 } // namespace
