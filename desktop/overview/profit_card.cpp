@@ -68,12 +68,12 @@ void ProfitCard::paint_body(QPainter& painter, const QRect& body) {
     if (high > 0) high = nice_above(high);
     if (low < 0) low = -nice_above(-low);
     if (high == low) high = 1;
-    const QRect plot = body.adjusted(32, 30, -32, -34);
+    // Below a loss stands its figure, above the names of the months.
+    const QRect plot = body.adjusted(32, 30, -32, low < 0 ? -50 : -34);
     auto y_of = [&](std::int64_t yuan) {
         return plot.bottom() - static_cast<int>((yuan - low) * plot.height() / (high - low));
     };
     painter.fillRect(plot.x(), y_of(high), plot.width(), 1, token::rule_1);
-    if (low < 0) painter.fillRect(plot.x(), y_of(low), plot.width(), 1, token::rule_1);
     const int step = plot.width() / months_shown;
     int place = 0;
     for (const auto& month : figures().months) {

@@ -126,6 +126,14 @@ QVBoxLayout* add_rest_band(QVBoxLayout& bands, FormKind kind) {
     return box;
 }
 
+// Below the last grid of a dialog stands the rule of its buttons, not a row of fields.
+void part_from_buttons(QVBoxLayout* rest_band) {
+    if (rest_band == nullptr) return;
+    QMargins margins = rest_band->contentsMargins();
+    margins.setBottom(token::margin);
+    rest_band->setContentsMargins(margins);
+}
+
 } // namespace
 
 FormKind kind_of(const LayoutNode& root) {
@@ -150,6 +158,8 @@ void add_bands(const LayoutNode& root, QVBoxLayout& bands, FormView& view, FormK
             add_node(node, bands, LayoutPlace{view});
             break;
         case Kind::Buttons:
+            part_from_buttons(rest_band);
+            [[fallthrough]];
         case Kind::StatusLine:
             close_block();
             if (!rest) bands.addStretch(1);

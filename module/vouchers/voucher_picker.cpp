@@ -12,7 +12,7 @@ bool move_among_rows(TClientDataSet& rows, const Key& key) {
 }
 
 VoucherPicker::VoucherPicker(TForm* parent) : TFrm_Base_Dialog(parent) {
-    PreferredWidth = 64;
+    PreferredWidth = 80; // full names of accounts with two parents
     DBGridEh.ReadOnly = true;
     DBGridEh.EmptyText = "没有相符的内容";
     DBGridEh.OnDblClick = [this] { btn_ok.Click(); };

@@ -1,6 +1,10 @@
 // The module's own forms under a person's hands, on books known by heart.
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QCheckBox>
+
+#include "desktop/theme/text.h"
 #include "host/contract/U_glo.h"
 #include "host/controls/grid.h"
 #include "host/forms/form.h"
@@ -175,6 +179,22 @@ TEST(ModuleForms, every_function_of_the_first_books_is_drawn) {
         desk.keep(text);
     }
     EXPECT_EQ(host::the_host().forms.size(), 6u);
+}
+
+TEST(ModuleForms, a_dialog_is_as_wide_as_its_longest_text) {
+    BooksDesk desk;
+    desk.keys({"Ctrl+G", "6", "8", "2", "Enter"});
+    int checked = 0;
+    desk.when_modal([&] {
+        desk.settle();
+        for (auto* box : QApplication::activeModalWidget()->findChildren<QCheckBox*>()) {
+            EXPECT_GE(box->width(), box->sizeHint().width()) << desktop::utf8(box->text());
+            ++checked;
+        }
+        desk.keys({"Esc"});
+    });
+    desk.keys({"Insert"});
+    EXPECT_EQ(checked, 1);
 }
 
 TEST(ModuleForms, posting_stands_over_the_frame_until_it_is_left) {
