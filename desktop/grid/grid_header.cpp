@@ -80,11 +80,16 @@ QRect GridHeader::group_rect(int logical) const {
                  token::header_level);
 }
 
-// A sheet with lettered columns ("A|资产") has halves: after amounts the next items begin.
+// A sheet with lettered columns ("A|资产") has halves: the second begins with new items, followed
+// by the titles of the first half once more.
 bool GridHeader::closes_half(int logical, int after) const {
-    return upper(logical).size() == 1 && upper(after).size() == 1 &&
-           is_amount_column(*grid_, *column_at(logical)) &&
-           !is_amount_column(*grid_, *column_at(after));
+    if (!grid_->FixedOrder || upper(logical).size() != 1) return false;
+    const auto repeats = [&](int column) {
+        for (int i = 0; i <= logical; ++i)
+            if (lower(i) == lower(column)) return true;
+        return false;
+    };
+    return after + 1 < count() && !repeats(after) && repeats(after + 1);
 }
 
 bool GridHeader::closes_group(int logical) const {

@@ -164,6 +164,15 @@ TEST(Statement, a_darker_line_parts_the_two_halves_and_a_heading_keeps_a_white_g
               desktop::token::paper_0);
 }
 
+TEST(Statement, the_formulas_too_are_parted_into_halves) {
+    StatementDesk desk;
+    desk.choose(QStringLiteral("显示公式"));
+    QTableView& table = *desk.grid_in_front();
+    const QImage grid = table.viewport()->grab().toImage();
+    const QRect cell = table.visualRect(table.model()->index(1, 3));
+    EXPECT_EQ(grid.pixelColor(cell.right(), cell.center().y()), desktop::token::rule_3);
+}
+
 TEST(Statement, the_amounts_of_a_grand_total_stand_out) {
     StatementDesk desk;
     auto& grid = *dynamic_cast<host::TDBGridEh*>(desk.form->FindComponent("DBGridEh"));
