@@ -1,6 +1,7 @@
 // An ordinary line edit without a frame of its own, and the button beside its text.
 #include "desktop/grid/cell_editor.h"
 
+#include <QInputMethodEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -46,6 +47,11 @@ void CellEditor::mousePressEvent(QMouseEvent* event) {
         return;
     }
     QLineEdit::mousePressEvent(event);
+}
+
+void CellEditor::inputMethodEvent(QInputMethodEvent* event) {
+    if (!event->preeditString().isEmpty() && on_composing) on_composing();
+    QLineEdit::inputMethodEvent(event);
 }
 
 void CellEditor::focusInEvent(QFocusEvent* event) {

@@ -17,9 +17,11 @@ public:
 
     std::function<void(const QString&)> on_edited; // the person changed the text
     std::function<void()> on_lookup;
+    std::function<void()> on_composing; // an input method shows its own list
     std::function<void()> on_focus;
 
 protected:
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;

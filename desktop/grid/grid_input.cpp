@@ -11,9 +11,9 @@
 #include "desktop/grid/grid_model.h"
 #include "desktop/grid/grid_view.h"
 #include "desktop/grid/row_numbers.h"
-#include "desktop/grid/suggestion_popup.h"
 #include "desktop/renderers/edit_sync.h"
 #include "desktop/renderers/form_view.h"
+#include "desktop/renderers/suggestion_popup.h"
 #include "desktop/theme/amount_text.h"
 #include "desktop/theme/text.h"
 #include "desktop/theme/tokens.h"
@@ -81,7 +81,7 @@ void GridView::offer() {
     const auto* column = grid_->current_column();
     if (column && !column->PickList.empty()) {
         for (const auto& item : column->PickList) offered_.push_back({item, {item}, item});
-    } else if (!grid_->edit_text().empty()) {
+    } else if (!editor_->text().trimmed().isEmpty()) {
         form_.run([this] { offered_ = grid_->suggestions(); });
     }
     if (!grid_ || offered_.empty() || !editor_->isVisible()) {
@@ -91,22 +91,21 @@ void GridView::offer() {
     popup_->offer(offered_, qt(grid_->edit_text()), *editor_);
 }
 
-void GridView::take_suggestion(int index) {
-    if (!grid_ || index < 0 || index >= static_cast<int>(offered_.size())) return;
+bool GridView::take_suggestion(int index) {
+    if (!grid_ || index < 0 || index >= static_cast<int>(offered_.size())) return false;
     const host::Suggestion chosen = offered_[static_cast<std::size_t>(index)];
     popup_->hide();
-    if (!form_.run([&] { grid_->choose(chosen); }) || !grid_) return;
-    host::Key enter;
-    enter.code = KeyCode::Enter;
-    form_.send_key(enter);
+    return form_.run([&] { grid_->choose(chosen); }) && grid_;
 }
 
 // The keys that stay with the editor or the list below it instead of going to the form.
 OwnKey GridView::own_key(const host::Key& key) {
     if (!grid_) return OwnKey::No;
-    if (popup_->isVisible() && popup_->takes(key)) {
-        popup_->key(key);
-        return OwnKey::Used;
+    if (popup_->isVisible()) {
+        // What was chosen stands in the cell; then the key goes on from there as it always does.
+        if (popup_->chosen_by(key))
+            return take_suggestion(popup_->current()) ? OwnKey::No : OwnKey::Used;
+        if (popup_->key(key)) return OwnKey::Used;
     }
     const bool up_or_down = key.code == KeyCode::Up || key.code == KeyCode::Down;
     // Marking rows is the grid's own affair.

@@ -13,8 +13,8 @@
 #include "desktop/grid/grid_header.h"
 #include "desktop/grid/grid_model.h"
 #include "desktop/grid/row_numbers.h"
-#include "desktop/grid/suggestion_popup.h"
 #include "desktop/renderers/form_view.h"
+#include "desktop/renderers/suggestion_popup.h"
 #include "desktop/theme/amount_text.h"
 #include "desktop/theme/fonts.h"
 #include "desktop/theme/text.h"
@@ -66,7 +66,12 @@ GridView::GridView(host::TDBGridEh& grid, FormView& form, QWidget* parent)
     editor_->on_edited = [this](const QString& text) { edited(text); };
     editor_->on_lookup = [this] { form_.run([this] { grid_->press_button(); }); };
     editor_->on_focus = [this] { cursor_due(); }; // it goes when the focus leaves the grid
-    popup_->on_chosen = [this](int index) { take_suggestion(index); };
+    editor_->on_composing = [this] { popup_->hide(); };
+    popup_->on_chosen = [this](int index) {
+        host::Key enter;
+        enter.code = host::KeyCode::Enter;
+        if (take_suggestion(index)) form_.send_key(enter);
+    };
     form.after_event([this] {
         if (cursor_due_) sync_cursor();
     });

@@ -57,7 +57,7 @@ private:
     void place_editor();
     void edited(const QString& text);
     void offer();         // suggestions for what is typed
-    void take_suggestion(int index);
+    bool take_suggestion(int index); // false: refused
     OwnKey own_key(const host::Key& key);
     void mark_to(int row);
     void paint_empty_rows(QPainter& painter);

@@ -5,6 +5,7 @@
 #include "desktop/renderers/edit_sync.h"
 #include "desktop/renderers/field_edit.h"
 #include "desktop/renderers/form_view.h"
+#include "desktop/renderers/link_suggestions.h"
 #include "desktop/renderers/renderers.h"
 #include "desktop/theme/text.h"
 
@@ -25,6 +26,7 @@ QWidget* draw_link_edit(host::TLinkEdit& edit, FormView& view) {
         view.run([&] { edit.key_down(key); });
     };
     sync_edit(widget, edit, view, Handover::Checked);
+    new LinkSuggestions(*widget, edit, view); // goes with the widget
     auto* name = new QLabel(row);
     name->setTextFormat(Qt::PlainText);
     name->setProperty("part", "looked-up");

@@ -218,6 +218,44 @@ TEST_F(Contract, a_lookup_offers_the_rows_and_takes_the_chosen_one) {
     EXPECT_EQ(rows.RecordCount(), 3);
 }
 
+TEST_F(Contract, a_code_field_offers_codes_that_begin_with_the_text_then_names_and_initials) {
+    TSheet form;
+    const std::string chart = "SELECT KM_ID,KM_NAME2,PYM FROM V6801 ORDER BY KM_ID";
+    const std::vector<std::string> columns = {"KM_ID text", "KM_NAME2 text", "PYM text"};
+    desk.data.answer(chart, columns, {{"1001", "现金", "XJ"}, {"2101", "短期借款", "DQJK"},
+                                      {"2110", "应付短期债券", "ZQ"}});
+    OfferCodes(form.Account, chart);
+    const auto offered = [&](const std::string& typed) {
+        std::string codes;
+        for (const Suggestion& one : form.Account.OnSuggest(typed)) codes += one.value + " ";
+        return codes;
+    };
+    EXPECT_TRUE(the_host().statements.empty()); // nothing is read before something is typed
+    EXPECT_EQ(offered(" "), "");
+    EXPECT_TRUE(the_host().statements.empty());
+    EXPECT_EQ(offered("1"), "1001 2101 2110 ");
+    EXPECT_EQ(offered("10"), "1001 2101 2110 ");
+    EXPECT_EQ(the_host().statements.size(), 1u);
+    EXPECT_EQ(offered("短期"), "2101 2110 ");
+    EXPECT_EQ(offered("zq"), "2110 ");
+    // An account opened meanwhile is known to the next text that is begun.
+    desk.data.answer(chart, columns, {{"1009", "其他货币资金", "QTHBZJ"}});
+    EXPECT_EQ(offered("z"), "1009 ");
+}
+
+TEST_F(Contract, initials_that_the_rows_lack_are_made_of_the_names) {
+    TSheet form;
+    desk.data.answer("select km_id,km_name from d6801 where (km_id>'3141') order by km_id",
+                     {"km_id text", "km_name text"},
+                     {{"314101", "提取盈余公积"}, {"314102", "未分配利润"}});
+    OfferHint(form.Account, "d6801", "km_id", "km_name", "(km_id>'3141')");
+    const auto offered = form.Account.OnSuggest("wfp");
+    ASSERT_EQ(offered.size(), 1u);
+    form.Account.OnChange = [&] { form.Account.DisplayName = ""; };
+    TakeSuggestion(form.Account, offered[0]);
+    EXPECT_EQ(form.Account.Text.get() + form.Account.DisplayName.get(), "314102未分配利润");
+}
+
 TEST_F(Contract, whoever_may_only_look_at_a_function_writes_nothing_in_it) {
     // function  what the person may   sent
     const struct {

@@ -1,9 +1,15 @@
 // What the dialogs of the two ledgers share: from which account to which.
 #include "module/filters/account_range_filter.h"
 
+#include "host/contract/U_linkedit.h"
 #include "module/masterdata/ULINK_6801.h"
 
 namespace module {
+namespace {
+
+const char* const select_accounts = "SELECT KM_ID,KM_NAME2,PYM FROM V6801 ORDER BY KM_ID";
+
+} // namespace
 
 AccountRangeFilter::AccountRangeFilter(TForm* parent, const LedgerDialog& dialog,
                                        const std::string& beyond_all)
@@ -11,6 +17,7 @@ AccountRangeFilter::AccountRangeFilter(TForm* parent, const LedgerDialog& dialog
     KM2.Text = beyond_all;
     for (TLinkEdit* edit : {&KM1, &KM2}) {
         edit->OnButtonClick = [this, edit] { choose_account(*edit); };
+        OfferCodes(*edit, select_accounts);
         edit->OnChange = [edit] { edit->DisplayName = ""; }; // the name belongs to the code before
     }
 }

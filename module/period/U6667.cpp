@@ -28,9 +28,11 @@ std::string select_balance(const std::string& period, const std::string& account
            ") AS A";
 }
 
+const char* const distribution_accounts = "  (km_id>'3141') and  (km_id like '3141%')";
+
 std::string select_distribution_account(const std::string& code) {
     return "select km_name from d6801 where (km_id=" + quoted(code) +
-           ") and  (km_id>'3141') and  (km_id like '3141%')";
+           ") and" + distribution_accounts;
 }
 
 } // namespace
@@ -51,6 +53,7 @@ TF6667::TF6667(TForm* parent) : TFrm_Base_Dialog(parent) {
     KM_ID.OnExit = [this] { KM_IDExit(KM_ID); };
     KM_ID.OnChange = [this] { show_account_name(""); };
     KM_ID.OnButtonClick = [this] { KM_IDButtonClick(); };
+    OfferHint(KM_ID, "d6801", "km_id", "km_name", distribution_accounts);
     cds1.DefineField("E", FieldType::Amount).DisplayFormat = "0.00";
     DBGridEh.ReadOnly = true;
     DBGridEh.Columns = {
@@ -165,7 +168,7 @@ void TF6667::show_account_name(const std::string& name) {
 void TF6667::KM_IDButtonClick() {
     TClientDataSet offered;
     CommonHint(KM_ID, offered, "d6801", "km_id", "科目编号", "km_name", "科目",
-               "  (km_id>'3141') and  (km_id like '3141%')");
+               distribution_accounts);
     KM_NAME.Caption = KM_ID.DisplayName;
 }
 

@@ -1,7 +1,7 @@
 // Pick an account that takes entries, by code, name or pinyin.
 #include "module/vouchers/U6661_3.h"
 
-#include "module/vouchers/account_search.h"
+#include "host/values/code_match.h"
 
 namespace module {
 
@@ -51,9 +51,9 @@ void TF6661_3::WL_IDChange() {
     if (!loaded_) load_leaf_accounts();
     const std::string text = wl_id.Text;
     AdoQry_Main.SetFilter([text](const TClientDataSet& account) {
-        return account_matches(account.FieldByName("km_id").AsText(),
-                               account.FieldByName("km_name_new").AsText(),
-                               account.FieldByName("pym").AsText(), text);
+        return code_fits(account.FieldByName("km_id").AsText(),
+                         account.FieldByName("km_name_new").AsText(),
+                         account.FieldByName("pym").AsText(), text);
     });
 }
 

@@ -3,6 +3,7 @@
 
 #include "host/contract/U_dataop.h"
 #include "host/dataset/client_dataset.h"
+#include "host/values/code_match.h"
 #include "host/values/period.h"
 #include "host/values/sql_text.h"
 #include "host/values/text.h"
@@ -23,12 +24,6 @@ std::string select_leaf_accounts(const std::string& period) {
 }
 
 } // namespace
-
-bool account_matches(const std::string& code, const std::string& name, const std::string& pinyin,
-                     const std::string& text) {
-    const std::string part = trimmed(text);
-    return contains_text(code, part) || contains_text(name, part) || contains_text(pinyin, part);
-}
 
 void LeafAccounts::load(const std::string& function, const std::string& period) {
     TClientDataSet rows;
@@ -54,17 +49,7 @@ const LeafAccount* LeafAccounts::find(const std::string& code) const {
 }
 
 std::vector<const LeafAccount*> LeafAccounts::matching(const std::string& text) const {
-    std::vector<const LeafAccount*> found;
-    const std::string part = trimmed(text);
-    for (const LeafAccount& account : accounts_) {
-        if (account_matches(account.code, account.name, account.pinyin, part)) {
-            found.push_back(&account);
-        }
-    }
-    std::stable_partition(found.begin(), found.end(), [&](const LeafAccount* account) {
-        return starts_with_text(account->code, part);
-    });
-    return found;
+    return rows_fitting(accounts_, text);
 }
 
 } // namespace module

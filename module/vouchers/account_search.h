@@ -20,10 +20,6 @@ struct LeafAccount {
     bool cash_flow = false;
 };
 
-// Does code, name or pinyin contain the text? Case is ignored; a blank text fits every account.
-bool account_matches(const std::string& code, const std::string& name, const std::string& pinyin,
-                     const std::string& text);
-
 // The leaf accounts of the chart as they were when loaded.
 class LeafAccounts {
 public:

@@ -71,7 +71,7 @@ std::vector<TDBGridEh::Suggestion> suggest_summaries(const std::string& function
         const std::string pinyin = summaries.FieldByName("PYM").AsText();
         if (!contains_text(text, trimmed(typed)) && !contains_text(pinyin, trimmed(typed)))
             continue;
-        suggestions.push_back({text, {text, pinyin}, text});
+        suggestions.push_back({text, {text, pinyin}, ""}); // any text may stand as a summary
     }
     return suggestions;
 }

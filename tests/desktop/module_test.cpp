@@ -118,6 +118,27 @@ TEST(ModuleForms, a_voucher_is_typed_from_the_menu_to_the_books_without_the_mous
     EXPECT_NE(batch.find("'收货款','1133'"), std::string::npos) << batch;
 }
 
+TEST(ModuleForms, a_summary_stays_as_typed_and_an_account_is_chosen_from_the_list) {
+    BooksDesk desk;
+    desk.keys({"Ctrl+G", "6", "6", "1", "Enter", "Insert"});
+    host::TForm& form = *host::the_host().active;
+    auto& grid = *dynamic_cast<host::TDBGridEh*>(form.FindComponent("DBGridEh"));
+    for (int i = 0; i < 5 && form.ActiveControl() != &grid; ++i) desk.keys({"Tab"});
+    desk.type("收"); // 收货款 is offered
+    desk.keys({"Enter"});
+    EXPECT_EQ(grid.DataSet->FieldByName("ZY").AsText(), "收");
+    desk.type("ys"); // 应收帐款, then 其他应收款
+    desk.keys({"Down", "Enter"});
+    EXPECT_EQ(grid.DataSet->FieldByName("KM_ID").AsText(), "1133");
+    desk.type("585");
+    desk.keys({"Enter", "Enter"});
+    EXPECT_EQ(grid.DataSet->Sum("J"), host::Amount::from_whole(585));
+    desk.type("收");
+    desk.keys({"Down", "Enter"});
+    EXPECT_EQ(grid.DataSet->FieldByName("ZY").AsText(), "收货款");
+    EXPECT_EQ(desk.messages, std::vector<std::string>());
+}
+
 TEST(ModuleForms, a_template_is_applied_and_its_cash_allocated_without_the_mouse) {
     BooksDesk desk;
     desk.keys({"Ctrl+G", "6", "6", "1", "Enter", "Insert"});
@@ -266,6 +287,8 @@ TEST(ModuleForms, opening_figures_are_typed_along_the_row_and_posted_by_key) {
 
 TEST(ModuleForms, profit_is_carried_forward_without_the_mouse) {
     BooksDesk desk;
+    desk.data.answer("select km_id,km_name from d6801 where   (km_id>'3141')",
+                     {"km_id text", "km_name text"}, {{"314115", "未分配利润"}});
     desk.data.answer("SELECT KM_ID AS A1",
                      {"A1 text", "A2 text", "A3 text", "A4 text", "FX text", "E money"},
                      {{"5101", "主营业务收入", "3131", "本年利润", "贷", "0.00"}});
@@ -305,6 +328,34 @@ TEST(ModuleForms, the_trial_balance_asks_for_its_period_and_shows_it) {
     auto& grid = *dynamic_cast<host::TDBGridEh*>(form.FindComponent("DBGridEh"));
     EXPECT_EQ(grid.DataSet->RecordCount(), 3);
     EXPECT_EQ(grid.footer_text(grid.column_index("C1")), "585.00");
+}
+
+TEST(ModuleForms, accounts_of_a_ledger_are_chosen_while_typing_or_stay_as_typed) {
+    BooksDesk desk;
+    answer_detailed_ledger(desk.data);
+    desk.data.answer("SELECT KM_ID,KM_NAME2,PYM FROM V6801 ORDER BY KM_ID",
+                     {"KM_ID text", "KM_NAME2 text", "PYM text"},
+                     {{"1001", "现金", "XJ"}, {"1131", "应收帐款", "YSZK"}});
+    std::string first, last;
+    desk.when_modal([&] {
+        desk.settle();
+        host::TForm& form = *host::the_host().active;
+        auto& from = *dynamic_cast<host::TLinkEdit*>(form.FindComponent("KM1"));
+        auto& to = *dynamic_cast<host::TLinkEdit*>(form.FindComponent("KM2"));
+        for (int i = 0; i < 5 && form.ActiveControl() != &from; ++i) desk.keys({"Tab"});
+        desk.type("ysz");
+        desk.keep("685F_suggestions");
+        desk.keys({"Down", "Enter", "Tab"});
+        first = from.Text.get() + from.DisplayName.get();
+        EXPECT_EQ(form.ActiveControl(), &to);
+        desk.type("11");
+        desk.keys({"F2"});
+        last = to.Text;
+    });
+    desk.keys({"Ctrl+G", "6", "8", "5", "Enter"});
+    EXPECT_EQ(first, "1131应收帐款");
+    EXPECT_EQ(last, "11");
+    EXPECT_EQ(desk.active(), "TF6685");
 }
 
 TEST(ModuleForms, a_balance_is_followed_to_its_voucher_and_back_without_the_mouse) {

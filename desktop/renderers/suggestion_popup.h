@@ -1,4 +1,4 @@
-// The list below a cell while a code is typed: what matches, and how to take it.
+// The list below a cell or an edit while a code is typed: what matches, and how to take it.
 #pragma once
 
 #include <QFrame>
@@ -15,11 +15,15 @@ namespace desktop {
 class SuggestionPopup : public QFrame {
 public:
     SuggestionPopup();
-    // Shows the list below `edit` (above where there is no room), or renews it.
+    // Shows the list below `edit` (above where there is no room), or renews it. Where a code is
+    // wanted (rows with a key) the row that says what was typed, else the first, is chosen at once;
+    // a free text stays until the person moves into the list.
     void offer(const std::vector<host::Suggestion>& rows, const QString& typed, QWidget& edit);
-    bool takes(const host::Key& key) const;
-    void key(const host::Key& key);
-    std::function<void(int index)> on_chosen;
+    int current() const { return current_; } // the chosen row; -1 while none is
+    // Enter and Tab take the chosen row; taking it is the owner's.
+    bool chosen_by(const host::Key& key) const;
+    bool key(const host::Key& key); // moves or closes the list; false: not the list's key
+    std::function<void(int index)> on_chosen; // by the mouse
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -28,6 +32,7 @@ protected:
 
 private:
     int shown() const;
+    void stand_beside(QWidget& edit, QSize size);
     int width_of(std::size_t column) const;
     void paint_row(QPainter& painter, int index, const QRect& row) const;
     void paint_match(QPainter& painter, const QRect& box, const QString& text, bool current) const;
@@ -36,6 +41,7 @@ private:
     std::vector<int> widths_;
     QString typed_;
     int current_ = -1, top_ = 0;
+    int lowest_ = -1; // -1: the person may leave the list for what was typed
 };
 
 } // namespace desktop

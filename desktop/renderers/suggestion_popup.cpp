@@ -1,8 +1,11 @@
 // Paints the matching codes, the current one filled, with the keys that work on them below.
-#include "desktop/grid/suggestion_popup.h"
+#include "desktop/renderers/suggestion_popup.h"
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
+
+#include <algorithm>
 
 #include "desktop/theme/amount_text.h"
 #include "desktop/theme/fonts.h"
@@ -30,13 +33,13 @@ int SuggestionPopup::shown() const {
     return std::min<int>(static_cast<int>(rows_.size()), most_rows);
 }
 
+// The text of most bytes is about the widest; measuring each would cost more than finding them.
 int SuggestionPopup::width_of(std::size_t column) const {
-    const QFontMetrics metrics(fonts::body());
-    int width = 0;
+    std::string longest;
     for (const auto& entry : rows_)
-        if (column < entry.cells.size())
-            width = std::max(width, metrics.horizontalAdvance(qt(entry.cells[column])) + 8);
-    return width;
+        if (column < entry.cells.size() && entry.cells[column].size() > longest.size())
+            longest = entry.cells[column];
+    return QFontMetrics(fonts::body(true)).horizontalAdvance(qt(longest)) + 8;
 }
 
 void SuggestionPopup::offer(const std::vector<host::Suggestion>& rows, const QString& typed,
@@ -44,7 +47,6 @@ void SuggestionPopup::offer(const std::vector<host::Suggestion>& rows, const QSt
     rows_ = rows;
     typed_ = typed;
     top_ = 0;
-    current_ = -1;
     widths_.clear();
     std::size_t columns = 0;
     for (const auto& entry : rows_) columns = std::max(columns, entry.cells.size());
@@ -53,56 +55,56 @@ void SuggestionPopup::offer(const std::vector<host::Suggestion>& rows, const QSt
         widths_.push_back(std::clamp(width_of(i), 56, 320));
         width += widths_.back() + 16;
     }
-    // A code is taken by Enter at once; a free text only after it was chosen.
-    if (columns > 1) {
-        current_ = 0;
-        for (std::size_t i = 0; i < rows_.size(); ++i)
-            if (qt(rows_[i].value) == typed) current_ = static_cast<int>(i);
-    }
-    QWidget* window = edit.window();
-    if (parentWidget() != window) setParent(window);
-    const int height = shown() * row + hint + 2;
-    QPoint at = edit.mapTo(window, QPoint(0, edit.height()));
-    if (at.y() + height > window->height()) at = edit.mapTo(window, QPoint(0, -height));
-    width = std::max({width, edit.width(), 320});
-    at.setX(std::max(0, std::min(at.x(), window->width() - width - 4)));
-    setGeometry(QRect(at, QSize(width, height)));
+    const bool code_wanted = !rows_.empty() && !rows_.front().key.empty();
+    current_ = lowest_ = code_wanted ? 0 : -1;
+    for (std::size_t i = 0; code_wanted && i < rows_.size(); ++i)
+        if (qt(rows_[i].value) == typed) current_ = static_cast<int>(i);
     keep_in_sight();
+    stand_beside(edit, QSize(std::max({width, edit.width(), 320}), shown() * row + hint + 2));
     show();
     raise();
     update();
 }
 
-bool SuggestionPopup::takes(const host::Key& key) const {
-    using host::KeyCode;
-    if (key.ctrl || key.alt) return false;
-    switch (key.code) {
-    case KeyCode::Up:
-    case KeyCode::Down:
-    case KeyCode::PageUp:
-    case KeyCode::PageDown:
-    case KeyCode::Esc: return true;
-    case KeyCode::Enter: return current_ >= 0;
-    default: return false;
-    }
+// Inside the window of the edit; as a window of its own where that one is too small for it.
+void SuggestionPopup::stand_beside(QWidget& edit, QSize size) {
+    QWidget* window = edit.window();
+    const QPoint corner = edit.mapTo(window, QPoint(0, 0));
+    const int below = window->height() - corner.y() - edit.height();
+    const bool own = size.height() > std::max(corner.y(), below) ||
+                     corner.x() + size.width() > window->width();
+    if (parentWidget() != window || isWindow() != own)
+        setParent(window, own ? Qt::ToolTip | Qt::WindowDoesNotAcceptFocus : Qt::Widget);
+    const QRect room = own ? edit.screen()->availableGeometry() : window->rect();
+    const auto place = [&](int y) {
+        return own ? edit.mapToGlobal(QPoint(0, y)) : edit.mapTo(window, QPoint(0, y));
+    };
+    QPoint at = place(edit.height());
+    if (at.y() + size.height() > room.bottom()) at = place(-size.height());
+    at.setX(std::max(room.left(), std::min(at.x(), room.right() - size.width() - 4)));
+    setGeometry(QRect(at, size));
 }
 
-void SuggestionPopup::key(const host::Key& key) {
+bool SuggestionPopup::chosen_by(const host::Key& key) const {
+    if (key.ctrl || key.alt || key.shift || current_ < 0) return false;
+    return key.code == host::KeyCode::Enter || key.code == host::KeyCode::Tab;
+}
+
+bool SuggestionPopup::key(const host::Key& key) {
     using host::KeyCode;
+    if (key.ctrl || key.alt) return false;
     const int last = static_cast<int>(rows_.size()) - 1;
     switch (key.code) {
-    case KeyCode::Up: current_ = std::max(current_ - 1, 0); break;
+    case KeyCode::Up: current_ = std::max(current_ - 1, lowest_); break;
     case KeyCode::Down: current_ = std::min(current_ + 1, last); break;
-    case KeyCode::PageUp: current_ = std::max(current_ - most_rows, 0); break;
+    case KeyCode::PageUp: current_ = std::max(current_ - most_rows, lowest_); break;
     case KeyCode::PageDown: current_ = std::min(current_ + most_rows, last); break;
-    case KeyCode::Esc: return hide();
-    case KeyCode::Enter:
-        if (on_chosen) on_chosen(current_);
-        return;
-    default: return;
+    case KeyCode::Esc: return hide(), true;
+    default: return false;
     }
     keep_in_sight();
     update();
+    return true;
 }
 
 void SuggestionPopup::keep_in_sight() {
