@@ -20,6 +20,9 @@ constexpr Measure measures[] = {
     {"voucher_list", bench::voucher_list},      {"detailed_ledger", bench::detailed_ledger},
     {"general_ledger", bench::general_ledger},  {"statement", bench::statement},
     {"loading", bench::loading, false},
+#ifdef ZF_WITH_DESKTOP
+    {"printing", bench::printing, false},
+#endif
 };
 
 // Without a name every measure is wanted.

@@ -33,7 +33,8 @@ std::string suggested() {
 
 void back_up_books(TForm* frame) {
     const BackupFunction function(frame);
-    const auto file = the_host().ui->choose_file_to_save("备份帐套", suggested());
+    const auto file = the_host().ui->choose_file_to_save("备份帐套", suggested(),
+                                                         {{"帐套", "zf"}});
     if (!file || file->empty()) return;
     try {
         backup_session(*open_books_again(), G_CoName, *file,

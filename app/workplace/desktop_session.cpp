@@ -12,8 +12,10 @@
 #include "app/login/password_source.h"
 #include "app/refusal.h"
 #include "app/workplace/module.h"
+#include "app/workplace/pdf_writer.h"
 #include "app/workplace/workplace.h"
 #include "desktop/desktop.h"
+#include "desktop/printing/pdf_file.h"
 #include "host/contract/function_table.h"
 #include "host/forms/form.h"
 #include "host/ports/host.h"
@@ -141,6 +143,8 @@ int run_on(const DesktopWanted& wanted, const std::string& books, int argc, char
 }
 
 } // namespace
+
+PdfWriter pdf_writer() { return desktop::write_pdf; }
 
 int run_desktop(const DesktopWanted& wanted) {
     if (!has_display())

@@ -4,6 +4,7 @@
 #include "app/administration/audit_service.h"
 #include "app/books/open.h"
 #include "app/books/upgrade.h"
+#include "app/workplace/pdf_writer.h"
 #include "automation/sql/collected_result.h"
 #include "host/contract/U_glo.h"
 #include "host/forms/form.h"
@@ -47,13 +48,14 @@ void fix_clock(engines::Session& session, const std::optional<host::Date>& today
 Workplace::Workplace(const std::string& books, const std::optional<host::Date>& today,
                      Access access)
     : settings_(settings_path()), session_(open_books(books, access)),
-      today_(day_in(*session_, today)), clock_(today_),
+      today_(day_in(*session_, today)), clock_(today_), files_(pdf_writer()),
       company_(setting_of(*session_, "company")) {
     fix_clock(*session_, today_);
     host::Host& host = host::the_host();
     host.clock = &clock_;
     host.settings = &settings_;
     host.random = &random_;
+    host.files = &files_;
     open_for_audit() = [books] { return open_books(books); };
 }
 
@@ -65,6 +67,7 @@ Workplace::~Workplace() {
     host.clock = nullptr;
     host.settings = nullptr;
     host.random = nullptr;
+    host.files = nullptr;
 }
 
 std::string Workplace::setting(const std::string& name) { return setting_of(*session_, name); }

@@ -7,6 +7,7 @@
 
 #include "app/books/open.h"
 #include "app/data/engine_data.h"
+#include "app/documents/files.h"
 #include "app/login/login.h"
 #include "app/login/rights.h"
 #include "app/settings/settings_file.h"
@@ -53,6 +54,7 @@ private:
     std::optional<host::Date> today_;
     SystemClock clock_;
     SystemRandom random_;
+    Files files_;
     std::string company_;
     User user_;
     Rights rights_;

@@ -4,7 +4,9 @@
 #include "automation/drive/request.h"
 #include "automation/drive/requests/table.h"
 #include "host/forms/form.h"
+#include "host/ports/document_files.h"
 #include "host/ports/host.h"
+#include "host/printing/paper.h"
 
 namespace automation {
 
@@ -108,15 +110,41 @@ bool Driver::ask(const std::string& text) {
     return yes;
 }
 
-std::optional<std::string> Driver::choose_file_to_save(const std::string&, const std::string&) {
+std::optional<std::string> Driver::choose_file_to_save(const std::string&, const std::string&,
+                                                       const std::vector<host::FileKind>&) {
+    if (file_now_) return std::exchange(file_now_, std::nullopt);
     if (files_.empty()) return std::nullopt;
     std::string file = std::move(files_.front());
     files_.pop_front();
     return file;
 }
 
+void Driver::with_file(const std::string& name, const std::function<void()>& deed) {
+    file_now_ = name;
+    try {
+        deed();
+    } catch (...) {
+        file_now_.reset();
+        throw;
+    }
+    file_now_.reset();
+}
+
 bool Driver::progress(const std::string&, std::int64_t, std::int64_t) {
     return true;
+}
+
+bool Driver::offers_printing() const {
+    const host::DocumentFiles* files = host::the_host().files;
+    return files != nullptr && files->offers_pdf();
+}
+
+void Driver::print(const host::PaperDocument& document, bool) {
+    const auto file = choose_file_to_save("", "", {});
+    if (!file) return inform("没有打印：请先用 answer 给出文件名!");
+    const std::string trouble = host::the_host().files->write_pdf(document, *file);
+    const std::string pages = std::to_string(document.page_count());
+    inform(trouble.empty() ? "已打印 " + pages + " 页到 " + *file : trouble);
 }
 
 std::string Driver::last_message() const {

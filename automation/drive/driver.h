@@ -33,8 +33,12 @@ public:
     bool ask(const std::string& text) override;
     void popup(host::TPopupMenu& menu, host::TControl& at) override;
     std::optional<std::string> choose_file_to_save(const std::string& title,
-                                                   const std::string& suggested) override;
+                                                   const std::string& suggested,
+                                                   const std::vector<host::FileKind>&) override;
     bool progress(const std::string& what, std::int64_t done, std::int64_t total) override;
+    // A document is printed into the file queued for it, as PDF.
+    bool offers_printing() const override;
+    void print(const host::PaperDocument& document, bool preview) override;
     void repaint_frame() override;
 
     // For the requests.
@@ -42,6 +46,8 @@ public:
     OpenForms& forms() { return forms_; }
     void queue_answer(bool yes) { answers_.push_back(yes); }
     void queue_file(std::string name) { files_.push_back(std::move(name)); }
+    // While `deed` runs, the next choice of a file is `name`.
+    void with_file(const std::string& name, const std::function<void()>& deed);
     void stop() { stopped_ = true; }
     // The last message shown and not yet told, "" when there is none.
     std::string last_message() const;
@@ -58,6 +64,7 @@ private:
     nlohmann::json messages_ = nlohmann::json::array();
     std::deque<bool> answers_;
     std::deque<std::string> files_;
+    std::optional<std::string> file_now_; // chosen before the queued ones
     std::int64_t requests_taken_ = 0;
     bool stopped_ = false;
 };

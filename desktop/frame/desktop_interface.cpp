@@ -3,12 +3,14 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QFileDialog>
 #include <QMenu>
 #include <QTableView>
 
+#include "desktop/dialogs/file_dialog.h"
 #include "desktop/dialogs/form_dialog.h"
 #include "desktop/dialogs/message_dialog.h"
+#include "desktop/printing/preview_dialog.h"
+#include "desktop/printing/print_job.h"
 #include "desktop/renderers/form_view.h"
 #include "desktop/theme/icons.h"
 #include "desktop/theme/text.h"
@@ -93,15 +95,21 @@ void DesktopInterface::popup(host::TPopupMenu& menu, host::TControl& at) {
         reinterpret_cast<host::TAction*>(chosen->data().value<quintptr>())->Execute();
 }
 
-std::optional<std::string> DesktopInterface::choose_file_to_save(const std::string& title,
-                                                                 const std::string& suggested) {
-    const QString file = QFileDialog::getSaveFileName(window_in_front(), qt(title), qt(suggested));
-    if (file.isEmpty()) return std::nullopt;
-    return utf8(file);
+std::optional<std::string>
+DesktopInterface::choose_file_to_save(const std::string& title, const std::string& suggested,
+                                      const std::vector<host::FileKind>& kinds) {
+    return choose_file(title, suggested, kinds, window_in_front());
 }
 
 bool DesktopInterface::progress(const std::string& what, std::int64_t done, std::int64_t total) {
     return progress_.report(what, done, total);
+}
+
+// Without a printer the preview stands in: from there a PDF file can be made.
+void DesktopInterface::print(const host::PaperDocument& document, bool preview) {
+    progress_.end();
+    if (!preview) print_document(document, window_in_front());
+    if (preview || !printer_at_hand()) PreviewDialog(document, window_in_front()).run();
 }
 
 void DesktopInterface::set_clipboard(const std::string& text) {

@@ -24,8 +24,11 @@ public:
     bool ask(const std::string& text) override;
     void popup(host::TPopupMenu& menu, host::TControl& at) override;
     std::optional<std::string> choose_file_to_save(const std::string& title,
-                                                   const std::string& suggested) override;
+                                                   const std::string& suggested,
+                                                   const std::vector<host::FileKind>&) override;
     bool progress(const std::string& what, std::int64_t done, std::int64_t total) override;
+    bool offers_printing() const override { return true; }
+    void print(const host::PaperDocument& document, bool preview) override;
     void set_clipboard(const std::string& text) override;
     void repaint_frame() override;
 

@@ -185,6 +185,7 @@ void GridView::lay_columns_out() {
     }
     laid_out_ = true;
     laying_out_ = false;
+    tell_columns();
 }
 
 int GridView::content_width(int column) const {
@@ -206,6 +207,21 @@ void GridView::restore_columns() {
 
 void GridView::remember_columns() {
     if (grid_) column_memory::remember(*grid_, *header_);
+    tell_columns();
+}
+
+void GridView::tell_columns() {
+    if (!grid_ || header_->count() != static_cast<int>(grid_->Columns.size())) return;
+    const int digit = QFontMetrics(fonts::body()).horizontalAdvance('0');
+    std::vector<host::ShownColumn> shown;
+    for (int visual = 0; visual < header_->count(); ++visual) {
+        const int column = header_->logicalIndex(visual);
+        if (isColumnHidden(column)) continue;
+        const bool filler = grid_->Columns[static_cast<std::size_t>(column)].Width < 0;
+        const int inside = columnWidth(column) - 2 * token::cell_padding;
+        shown.push_back({column, filler ? -1 : std::max(1, inside / digit)});
+    }
+    grid_->set_shown_columns(std::move(shown));
 }
 
 void GridView::resizeEvent(QResizeEvent* event) {

@@ -62,6 +62,7 @@ private:
     void mark_to(int row);
     void paint_empty_rows(QPainter& painter);
     void remember_columns();
+    void tell_columns(); // to the grid control: paper and files follow the screen
     QString plain_cell_text() const;
 
     host::TDBGridEh* grid_;

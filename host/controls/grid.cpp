@@ -68,21 +68,48 @@ CellParams TDBGridEh::cell_params(int row, int column) {
     return params;
 }
 
-std::string TDBGridEh::footer_text(int column) const {
+std::vector<ShownColumn> TDBGridEh::shown_columns() const {
+    std::vector<ShownColumn> shown;
+    const auto visible = [this](int column) {
+        return column >= 0 && column < static_cast<int>(Columns.size()) &&
+               Columns[static_cast<std::size_t>(column)].Visible;
+    };
+    for (const ShownColumn& column : shown_)
+        if (visible(column.column)) shown.push_back(column);
+    if (!shown_.empty()) return shown;
+    for (int i = 0; i < static_cast<int>(Columns.size()); ++i)
+        if (visible(i)) shown.push_back({i, Columns[static_cast<std::size_t>(i)].Width});
+    return shown;
+}
+
+Value TDBGridEh::footer_value(int column) const {
     const GridColumn& shown = Columns.at(static_cast<std::size_t>(column));
     switch (shown.Footer) {
     case FooterKind::None: return {};
-    case FooterKind::Text: return shown.FooterText;
-    case FooterKind::Count: return std::to_string(DataSet == nullptr ? 0 : DataSet->RecordCount());
+    case FooterKind::Text: return Value{shown.FooterText};
+    case FooterKind::Count:
+        return Value{std::int64_t{DataSet == nullptr ? 0 : DataSet->RecordCount()}};
     case FooterKind::Sum: break;
     }
     const std::string& name = shown.FooterField.empty() ? shown.FieldName : shown.FooterField;
-    const TField* summed = DataSet == nullptr ? nullptr : DataSet->FindField(name);
+    if (DataSet == nullptr || DataSet->FindField(name) == nullptr) return {};
+    return Value{DataSet->Sum(name)};
+}
+
+// A sum is shown as the column's cells are, also where it adds up another field.
+std::string TDBGridEh::footer_format(const GridColumn& shown) const {
+    if (shown.Footer != FooterKind::Sum || DataSet == nullptr) return {};
+    const std::string& name = shown.FooterField.empty() ? shown.FieldName : shown.FooterField;
+    const TField* summed = DataSet->FindField(name);
     if (summed == nullptr) return {};
     const TField* own = DataSet->FindField(shown.FieldName);
-    std::string format = own != nullptr ? own->DisplayFormat : summed->DisplayFormat;
-    if (format.empty() && summed->Type == FieldType::Amount) format = "0.00";
-    return formatted(Value{DataSet->Sum(name)}, format);
+    const std::string format = own != nullptr ? own->DisplayFormat : summed->DisplayFormat;
+    return format.empty() && summed->Type == FieldType::Amount ? "0.00" : format;
+}
+
+std::string TDBGridEh::footer_text(int column) const {
+    const GridColumn& shown = Columns.at(static_cast<std::size_t>(column));
+    return formatted(footer_value(column), footer_format(shown));
 }
 
 std::vector<int> TDBGridEh::selected_rows() const {

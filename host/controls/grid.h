@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 
+#include "host/controls/alignment.h"
 #include "host/controls/buttons.h"
 #include "host/controls/control.h"
 #include "host/controls/suggestion.h"
@@ -12,7 +13,6 @@
 namespace host {
 
 enum class FooterKind { None, Sum, Text, Count };
-enum class Alignment { Left, Center, Right };
 
 // One column. The title may hold "upper|lower": neighbours with the same upper part are grouped.
 struct GridColumn {
@@ -31,6 +31,13 @@ struct GridColumn {
     std::string FooterText;  // of a Text footer
     std::string FooterField; // field summed in a Sum footer; empty: the column's own
     Alignment FooterAlign = Alignment::Right;
+};
+
+// A column as the person has it: where it stands in Columns, and how wide it is in characters (0 by
+// content, -1 what is left).
+struct ShownColumn {
+    int column = 0;
+    int width = 0;
 };
 
 // How a cell is painted; the form's event may change it.
@@ -79,7 +86,14 @@ public:
     void type(char32_t character) override; // OnKeyPress first
     void enter_text(const std::string& text) override { enter_cell(text); }
 
+    // The columns the person sees, in his order: what paper and files follow. A renderer in which
+    // columns can be moved, sized and hidden tells how they stand; else as the form gave them.
+    std::vector<ShownColumn> shown_columns() const;
+    void set_shown_columns(std::vector<ShownColumn> columns) { shown_ = std::move(columns); }
+
     std::string footer_text(int column) const;
+    // The same as a value: the sum as an amount, a text, a count; NULL where there is none.
+    Value footer_value(int column) const;
     std::string cell_text(int row, int column) const; // display text
     CellParams cell_params(int row, int column);
 
@@ -129,7 +143,10 @@ private:
     bool may_append() const;
     void empty_cell();
 
+    std::string footer_format(const GridColumn& shown) const;
+
     int column_ = 0;
+    std::vector<ShownColumn> shown_;
     std::optional<std::string> edit_text_;
     std::string find_text_;
     mutable std::vector<int> marked_; // in order; forgotten when the rows change places

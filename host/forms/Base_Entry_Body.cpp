@@ -2,6 +2,7 @@
 #include "host/forms/Base_Entry_Body.h"
 
 #include "host/values/errors.h"
+#include "host/values/text.h"
 
 namespace host {
 
@@ -156,6 +157,48 @@ void Tfrm_Base_Entry_Body::WL_IDSetText(TField& field, const std::string& typed)
 void Tfrm_Base_Entry_Body::FormKeyDown(host::Key& key) {
     TFrm_Base_Panel::FormKeyDown(key);
     if (key.code == KeyCode::F2 && DBGridEh.editing() && !DBGridEh.commit_edit()) key = {};
+}
+
+// ---- printing ----
+
+namespace {
+
+constexpr std::size_t fields_a_line = 4;
+
+std::string shown_in(const TWinControl& field) {
+    const auto* link = dynamic_cast<const TLinkEdit*>(&field);
+    const std::string text = field.value_text();
+    return link == nullptr || link->DisplayName->empty() ? text
+                                                         : text + " " + link->DisplayName.get();
+}
+
+} // namespace
+
+Sheet Tfrm_Base_Entry_Body::MakeSheet() {
+    Sheet sheet = TFrm_Base_Panel::MakeSheet();
+    std::size_t fields = 0;
+    for (const TWinControl* field : FieldSnapshot::fields(*this)) {
+        const bool text =
+            dynamic_cast<const TEdit*>(field) || dynamic_cast<const TComboBox*>(field);
+        if (!text || !field->Visible || trimmed(field->Caption.get()).empty()) continue;
+        if (fields++ % fields_a_line == 0) sheet.conditions.emplace_back();
+        std::string& line = sheet.conditions.back();
+        line += (line.empty() ? "" : "    ") + trimmed(field->Caption.get()) + "：" +
+                shown_in(*field);
+    }
+    return sheet;
+}
+
+void Tfrm_Base_Entry_Body::RequireSaved() {
+    CommitActive();
+    if (!has_unsaved_work() && !Key.empty()) return;
+    DISPINFO("单据还没有保存，请先按 F2 保存再打印!", 5);
+    Abort();
+}
+
+std::unique_ptr<PaperDocument> Tfrm_Base_Entry_Body::MakeDocument() {
+    RequireSaved();
+    return TFrm_Base_Panel::MakeDocument();
 }
 
 // ---- saving ----

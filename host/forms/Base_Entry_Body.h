@@ -33,6 +33,10 @@ public:
     virtual void DBGridEhColorLine(TField&, CellParams&) {}
     virtual void DblClickEXIT() {}
 
+    // The lines, the head's fields above them.
+    Sheet MakeSheet() override;
+    std::unique_ptr<PaperDocument> MakeDocument() override;
+
     std::string Mode; // "Add", "CopyAdd", "Edit", "ReadOnly"
     std::string Key;  // of the document being edited
     TClientDataSet AdoQry_Head;
@@ -54,6 +58,8 @@ protected:
     void FormShow() override;
     void FormKeyDown(host::Key& key) override;
     bool has_unsaved_work() const override;
+    // What is printed is what the books hold: refuses while something is not saved.
+    void RequireSaved();
     void Touch(); // something changed: saving is possible
     void Saved(const std::string& key);
     bool read_only() const { return Mode == "ReadOnly"; }

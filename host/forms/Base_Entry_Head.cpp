@@ -235,4 +235,10 @@ void TFrm_Base_Entry_Head::Act_LocateExecute() {
 
 void TFrm_Base_Entry_Head::Act_RefreshExecute() { GetData(); }
 
+Sheet TFrm_Base_Entry_Head::MakeSheet() {
+    Sheet sheet = TFrm_Base_Panel::MakeSheet();
+    if (!ConditionLabel.Caption->empty()) sheet.conditions = {ConditionLabel.Caption};
+    return sheet;
+}
+
 } // namespace host

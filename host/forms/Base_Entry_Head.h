@@ -34,6 +34,8 @@ public:
     virtual void InitForm(const Trecord& record);
     virtual void GetData(); // heads by Condition, then the lines of the selected one
 
+    Sheet MakeSheet() override; // with the conditions
+
     TClientDataSet AdoQry_Line;
     TDBGridEh DBGridEhLine{this, "DBGridEhLine", &AdoQry_Line};
     TLabel ConditionLabel{this, "ConditionLabel"};

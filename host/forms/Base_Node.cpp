@@ -6,7 +6,10 @@
 
 #include "host/forms/Base_Node_d.h"
 #include "host/forms/parts/list_search.h"
-#include "host/forms/parts/text_file.h"
+#include "host/forms/parts/paper_job.h"
+#include "host/forms/parts/sheet_export.h"
+#include "host/ports/host.h"
+#include "host/printing/grid_sheet.h"
 #include "host/values/errors.h"
 #include "host/values/text.h"
 
@@ -18,16 +21,20 @@ TFrm_Base_Node::TFrm_Base_Node(TForm* parent) : TFrm_Base_Common(parent) {
     Act_Modify.OnExecute = [this] { Act_ModifyExecute(); };
     Act_Delete.OnExecute = [this] { Act_DeleteExecute(); };
     Act_Refresh.OnExecute = [this] { Act_RefreshExecute(); };
+    Act_Print.OnExecute = [this] { Act_PrintExecute(); };
+    Act_Preview.OnExecute = [this] { Act_PreviewExecute(); };
     Act_Export.OnExecute = [this] { Act_ExportExecute(); };
     Act_Quit.OnExecute = [this] { Close(); };
     Act_Add.Right = Act_CopyAdd.Right = "add";
     Act_Modify.Right = "change";
     Act_Delete.Right = "delete";
+    Act_Print.Right = Act_Preview.Right = "print";
     Act_Export.Right = "export";
+    Act_Print.Visible = Act_Preview.Visible = can_print();
     TreeView1.OnDblClick = [this] { Act_Modify.Execute(); };
     SearchBox.OnChange = [this] { search(false); };
     layout = Rows({ToolBar({&Act_Add, &Act_CopyAdd, &Act_Modify, &Act_Delete, nullptr, &Act_Refresh,
-                            nullptr, &Act_Export, nullptr, &Act_Quit}),
+                            nullptr, &Act_Print, &Act_Preview, &Act_Export, nullptr, &Act_Quit}),
                    Columns({Field("", SearchBox, 24), Spring()}), Rest(TreeView1)});
 }
 
@@ -117,17 +124,15 @@ void TFrm_Base_Node::Act_DeleteExecute() {
         TreeView1.Remove(node);
 }
 
-void TFrm_Base_Node::Act_ExportExecute() {
-    std::string lines = "\xEF\xBB\xBF代号,名称,级别\r\n";
-    const std::vector<TTreeNode*> nodes = TreeView1.in_display_order();
-    for (const TTreeNode* node : nodes) {
-        const std::string code = GETCODE(node->Text);
-        const std::string name = trimmed(node->Text.substr(code.size()));
-        lines += csv_field(code) + "," + csv_field(name) + "," +
-                 std::to_string(node->level() + 1) + "\r\n";
-    }
-    save_text_as(Caption, [&] { return lines; }, "已导出 " + std::to_string(nodes.size()) + " 行到 ");
+void TFrm_Base_Node::Act_PrintExecute() {
+    the_host().ui->print(*paper_of(sheet_of(TreeView1, Caption)), false);
 }
+
+void TFrm_Base_Node::Act_PreviewExecute() {
+    the_host().ui->print(*paper_of(sheet_of(TreeView1, Caption)), true);
+}
+
+void TFrm_Base_Node::Act_ExportExecute() { export_sheet(sheet_of(TreeView1, Caption)); }
 
 void TFrm_Base_Node::search(bool next) {
     const std::string typed = trimmed(SearchBox.Text.get());

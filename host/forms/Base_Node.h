@@ -28,6 +28,8 @@ public:
     TAction Act_Modify{this, "Act_Modify", "修改", "Enter", "pencil"};
     TAction Act_Delete{this, "Act_Delete", "删除", "Delete", "trash-2"};
     TAction Act_Refresh{this, "Act_Refresh", "刷新", "F5", "refresh-cw"};
+    TAction Act_Print{this, "Act_Print", "打印", "Ctrl+P", "printer"};
+    TAction Act_Preview{this, "Act_Preview", "预览", "Ctrl+Shift+P", "eye"};
     TAction Act_Export{this, "Act_Export", "导出", "Ctrl+E", "file-down"};
     TAction Act_Quit{this, "Act_Quit", "退出", "Esc", "log-out"};
     TEdit SearchBox{this, "SearchBox", "查找"};
@@ -39,6 +41,8 @@ protected:
     virtual void Act_CopyAddExecute();
     virtual void Act_ModifyExecute();
     virtual void Act_DeleteExecute(); // asks first; children or uses refuse with the reason
+    virtual void Act_PrintExecute(); // the tree as a list of codes and names
+    virtual void Act_PreviewExecute();
     virtual void Act_ExportExecute();
     void open_dialog(const char* mode);
     void select_code(const std::string& code);

@@ -1,8 +1,10 @@
 // Forms with a main grid: actions, columns, colours.
 #include "host/forms/Base_Panel.h"
 
-#include "host/forms/parts/grid_export.h"
+#include "host/forms/parts/paper_job.h"
+#include "host/forms/parts/sheet_export.h"
 #include "host/ports/host.h"
+#include "host/printing/grid_sheet.h"
 
 namespace host {
 
@@ -35,8 +37,7 @@ TFrm_Base_Panel::TFrm_Base_Panel(TForm* parent) : TFrm_Base_Common(parent) {
     Act_Print.Right = Act_Preview.Right = "print";
     Act_Export.Right = "export";
     hide({&Act_Audit, &Act_UnAudit});
-    const UserInterface* ui = the_host().ui;
-    if (ui == nullptr || !ui->offers_printing()) hide({&Act_Print, &Act_Preview});
+    if (!can_print()) hide({&Act_Print, &Act_Preview});
     DBGridEh.OnKeyPress = [this](char32_t& character) { DBGridEhKeyPress(character); };
     DBGridEh.OnDblClick = [this] { DBGridEhDblClick(); };
     DBGridEh.OnGetCellParams = [this](TField& field, CellParams& params) {
@@ -73,9 +74,13 @@ GridColumn& TFrm_Base_Panel::AddAmountColumn(const std::string& field, const std
 }
 
 void TFrm_Base_Panel::Act_QuitExecute() { Close(); }
-void TFrm_Base_Panel::Act_PrintExecute() { the_host().ui->print(*this, false); }
-void TFrm_Base_Panel::Act_PreviewExecute() { the_host().ui->print(*this, true); }
-void TFrm_Base_Panel::Act_ExportExecute() { export_grid(DBGridEh, Caption); }
+void TFrm_Base_Panel::Act_PrintExecute() { the_host().ui->print(*MakeDocument(), false); }
+void TFrm_Base_Panel::Act_PreviewExecute() { the_host().ui->print(*MakeDocument(), true); }
+void TFrm_Base_Panel::Act_ExportExecute() { export_sheet(MakeSheet()); }
+
+Sheet TFrm_Base_Panel::MakeSheet() { return sheet_of(DBGridEh, Caption); }
+
+std::unique_ptr<PaperDocument> TFrm_Base_Panel::MakeDocument() { return paper_of(MakeSheet()); }
 
 void TFrm_Base_Panel::DBGridEhKeyPress(char32_t&) {}
 void TFrm_Base_Panel::DBGridEhDblClick() {}

@@ -3,6 +3,8 @@
 
 #include "host/controls/grid.h"
 #include "host/forms/Base_Common.h"
+#include "host/printing/paper.h"
+#include "host/printing/sheet.h"
 
 namespace host {
 
@@ -36,6 +38,13 @@ public:
     // Adds a column over `field` of the main dataset.
     GridColumn& AddColumn(const std::string& field, const std::string& title, int width = 0);
     GridColumn& AddAmountColumn(const std::string& field, const std::string& title, int width = 14);
+
+    // The rows of the main grid as they go to paper and into files, with the conditions they were
+    // asked for; forms add what they know.
+    virtual Sheet MakeSheet();
+    // What 打印 and 预览 show: the sheet, unless the form has a document of its own. Says why and
+    // aborts where nothing can be printed.
+    virtual std::unique_ptr<PaperDocument> MakeDocument();
 
 protected:
     virtual void Act_AddExecute() {}

@@ -62,6 +62,12 @@ void TFrm_Base_Qry::Act_LocateExecute() {
     ConditionLabel.Caption = filter->Description;
 }
 
+Sheet TFrm_Base_Qry::MakeSheet() {
+    Sheet sheet = TFrm_Base_Panel::MakeSheet();
+    if (!ConditionLabel.Caption->empty()) sheet.conditions = {ConditionLabel.Caption};
+    return sheet;
+}
+
 void TFrm_Base_Qry::FormKeyDown(Key& key) {
     TFrm_Base_Panel::FormKeyDown(key);
     const bool plain = !key.ctrl && !key.alt && !key.shift;

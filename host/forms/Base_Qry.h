@@ -18,6 +18,8 @@ public:
     virtual void InitForm(const Trecord& record);
     virtual void GetData();                       // runs SqlText + OrderText into AdoQry_Main
 
+    Sheet MakeSheet() override; // with the conditions
+
     std::string SqlText;   // the chosen statement; empty until a condition was given
     std::string OrderText; // appended to SqlText
     std::string SumFields; // "B1,B2": fields with a sum in the footer

@@ -12,6 +12,7 @@
 
 namespace host {
 
+class DocumentFiles;
 class TForm;
 
 // One statement text handed to the data operations, as it was handed over.
@@ -33,6 +34,7 @@ struct Host {
     Clock* clock = nullptr;
     SettingsStore* settings = nullptr;
     RandomSource* random = nullptr;
+    DocumentFiles* files = nullptr; // absent: no spreadsheets and no PDF
     std::function<bool(const Right&)> may = [](const Right&) { return true; };
 
     // Open forms in order of opening; the last of `modal` stands over the others.

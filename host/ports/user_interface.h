@@ -7,11 +7,18 @@
 
 namespace host {
 
+class PaperDocument;
 class TForm;
 class TControl;
 class TPopupMenu;
 
 enum class MessageKind { Question = 2, Information = 5 };
+
+// One of the kinds of file a person may choose from.
+struct FileKind {
+    std::string caption; // "Excel 工作簿"
+    std::string ending;  // "xlsx"
+};
 
 // All calls come from, and return on, the one thread of the user interface.
 class UserInterface {
@@ -29,14 +36,18 @@ public:
     virtual void inform(const std::string& text) = 0; // waits until it was read
     virtual bool ask(const std::string& text) = 0;    // true for yes
     virtual void popup(TPopupMenu& menu, TControl& at) = 0;
+    // The path of a file that may be written over, ending as one of `kinds` when the person typed
+    // no ending; `suggested` is a name without a folder. Nothing when he changed his mind.
     virtual std::optional<std::string> choose_file_to_save(const std::string& title,
-                                                           const std::string& suggested) = 0;
+                                                           const std::string& suggested,
+                                                           const std::vector<FileKind>& kinds) = 0;
     // Long work: called with what is done and of how much; answers false when the person asked to
     // stop. `total` 0 hides the bar.
     virtual bool progress(const std::string& what, std::int64_t done, std::int64_t total) = 0;
-    // Can forms be printed and previewed? Their actions are hidden otherwise.
+    // Can documents be printed and previewed? The forms' actions are hidden otherwise.
     virtual bool offers_printing() const { return false; }
-    virtual void print(TForm&, bool /*preview*/) {}
+    // Returns when the document is no longer needed: printed, given up, or the preview closed.
+    virtual void print(const PaperDocument&, bool /*preview*/) {}
     // For Ctrl+C; an interface without a clipboard forgets it.
     virtual void set_clipboard(const std::string&) {}
     // The frame repaints before a modal dialog covers it.

@@ -50,6 +50,12 @@ LedgerFilter* TF6686::Conditions() {
 
 // ---- lines ----
 
+BookRow TF6686::book_row(int row) const {
+    const TField* words = AdoQry_Main.FindField("ZY");
+    const bool month = words != nullptr && AdoQry_Main.text_at(row, words->index()) == "本期合计";
+    return month ? BookRow::Added : BookRow::Neutral;
+}
+
 void TF6686::DBGridEhDblClick() {
     if (AdoQry_Main.IsEmpty()) return;
     const auto text = [this](const char* field) { return AdoQry_Main.FieldByName(field).AsText(); };

@@ -16,6 +16,7 @@ public:
 protected:
     std::unique_ptr<TFrm_Sys_Filter> CreateFilter() override;
     LedgerFilter* Conditions() override;
+    BookRow book_row(int row) const override; // the months' sums are added up
     void DBGridEhDblClick() override; // the row's account and period in the detailed ledger
 
 private:

@@ -49,6 +49,12 @@ std::string DetailedLedger::voucher_of_row() {
     return AdoQry_Main.FieldByName("PZZ").AsText();
 }
 
+BookRow DetailedLedger::book_row(int row) const {
+    const TField* kind = AdoQry_Main.FindField("inx");
+    const bool total = kind != nullptr && AdoQry_Main.text_at(row, kind->index()) == "-1";
+    return total ? BookRow::Opening : BookRow::Added;
+}
+
 void DetailedLedger::DBGridEhDblClick() {
     if (AdoQry_Main.IsEmpty()) return;
     const std::string key = AdoQry_Main.FieldByName("NOID").AsText();

@@ -26,6 +26,7 @@ protected:
     // Rows that are no voucher line are blue; in the others negative amounts are red.
     void DBGridEhGetCellParams(TField& field, CellParams& params) override;
     std::string voucher_of_row() override;
+    BookRow book_row(int row) const override; // lines are added up from one total to the next
 
 private:
     void add_own_column(const LedgerColumn& column);

@@ -94,6 +94,27 @@ void LedgerForm::Act_LocateExecute() {
     SetTabTitle(""); // no longer the one account it was opened for
 }
 
+// ---- printing ----
+
+Sheet LedgerForm::MakeSheet() {
+    Sheet sheet = TFrm_Base_Qry::MakeSheet();
+    if (!ScopeLabel.Caption->empty()) sheet.conditions.push_back(ScopeLabel.Caption);
+    CarriedSums carried{
+        .label = "ZY", .added = {"J", "D"}, .copied = {"KM_ID", "KM_NAME", "FX", "E"}};
+    carried.row = [this](int row) { return book_row(row); };
+    carried.begins_account = [this](int row) { return begins_group(DBGridEh, row); };
+    // An account whose code stands in no column of its own is named above its pages.
+    const int code = sheet.column_of("KM_ID");
+    carried.a_page_each =
+        code < 0 || sheet.columns[static_cast<std::size_t>(code)].in_files_only;
+    if (carried.a_page_each)
+        carried.account = [this](int row) {
+            return text_of(AdoQry_Main, "KM_ID", row) + "  " + text_of(AdoQry_Main, "KM_NAME", row);
+        };
+    sheet.carried = std::move(carried);
+    return sheet;
+}
+
 // ---- groups ----
 
 // Read anew, the ledger shows the same line of the same account.

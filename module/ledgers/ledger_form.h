@@ -32,6 +32,8 @@ public:
 
     // Steps of every query that differ here.
     void GetData() override;
+    // On paper: pages carry their sums over, and what the list leaves out is told.
+    Sheet MakeSheet() override;
 
 protected:
     LedgerForm(TForm* parent, const LedgerKind& kind);
@@ -41,6 +43,8 @@ protected:
     virtual void DBGridEhKeyDown(Key& key); // Tab: the next account, Shift+Tab the one before
     // The form's dialog as the ledgers know it.
     virtual LedgerFilter* Conditions() = 0;
+    // What the row is to the sums carried from page to page.
+    virtual BookRow book_row(int row) const = 0;
     virtual std::string voucher_of_row() { return ""; } // "记-13"
 
 private:

@@ -37,7 +37,7 @@ TF6681::TF6681(TForm* parent) : TFrm_Base_Node(parent) {
         button->OnClick = [this, button = button] { SpeedButton2Click(*button); };
     }
     layout = Rows({ToolBar({&Act_Add, &Act_CopyAdd, &Act_Modify, &Act_Delete, nullptr, &Act_Refresh,
-                            nullptr, &Act_Export, nullptr, &Act_Quit}),
+                            nullptr, &Act_Print, &Act_Preview, &Act_Export, nullptr, &Act_Quit}),
                    Columns({Control(SpeedButton1), Control(SpeedButton2), Control(SpeedButton3),
                             Control(SpeedButton4), Control(SpeedButton5), Spring(),
                             Field("", SearchBox, 24)}),

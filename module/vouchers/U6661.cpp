@@ -7,6 +7,7 @@
 #include "module/refuse.h"
 #include "module/vouchers/U6661_1.h"
 #include "module/vouchers/voucher_number.h"
+#include "module/vouchers/voucher_paper.h"
 #include "module/vouchers/voucher_statements.h"
 #include "module/vouchers/voucher_template.h"
 
@@ -28,6 +29,9 @@ TF6661::TF6661(TForm* parent) : TFrm_Base_Entry_Head(parent) {
     Action1.Right = "add"; // a template is something new
     Act_Red.OnExecute = [this] { Act_RedExecute(); };
     Act_Red.Right = "add";
+    Act_PrintVouchers.OnExecute = [this] { Act_PrintVouchersExecute(); };
+    Act_PrintVouchers.Right = Act_Print.Right;
+    Act_PrintVouchers.Visible = Act_Print.Visible.get();
     const auto scrolled = AdoQry_Main.AfterScroll;
     AdoQry_Main.AfterScroll = [this, scrolled] {
         if (scrolled) scrolled();
@@ -94,7 +98,8 @@ void TF6661::build_layout(bool audit) {
         own.push_back(action);
     }
     if (!audit) own.insert(own.end(), {nullptr, &Action1, &Act_Red});
-    own.insert(own.end(), {nullptr, &Act_Print, &Act_Preview, &Act_Export, nullptr, &Act_Quit});
+    own.insert(own.end(), {nullptr, &Act_PrintVouchers, &Act_Print, &Act_Preview, &Act_Export,
+                           nullptr, &Act_Quit});
     layout =
         Rows({ToolBar(own), Columns({Control(ConditionLabel), Spring(), Control(CountLabel)}),
               Splitter(Rest(DBGridEh), Rows({Control(SelectedLabel), Rest(DBGridEhLine)}), 65)});
@@ -197,6 +202,17 @@ void TF6661::show_selected() {
 void TF6661::DBGridEhGetCellParams(TField& field, CellParams& params) {
     TFrm_Base_Entry_Head::DBGridEhGetCellParams(field, params);
     if (AdoQry_Main.FieldByName("T").AsInteger() == 0) params.Background = not_audited_background;
+}
+
+// ---- printing ----
+
+void TF6661::Act_PrintVouchersExecute() {
+    std::vector<std::string> keys;
+    const int key = AdoQry_Main.IsEmpty() ? -1 : AdoQry_Main.FieldByName("NOID").index();
+    for (const int row : DBGridEh.selected_rows()) keys.push_back(AdoQry_Main.text_at(row, key));
+    const auto paper = paper_of_vouchers(FunctionCode, keys);
+    if (paper->page_count() == 0) refuse("没有可打印的凭证，请先选择凭证!");
+    the_host().ui->print(*paper, true);
 }
 
 // ---- saving ----

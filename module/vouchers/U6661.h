@@ -17,6 +17,7 @@ public:
     // What the user sees, from top to bottom.
     TAction Action1{this, "Action1", "存为模板", "", "copy-plus"};
     TAction Act_Red{this, "Act_Red", "红字凭证", "", "undo-2"};
+    TAction Act_PrintVouchers{this, "Act_PrintVouchers", "打印凭证", "F6", "printer"};
     TLabel CountLabel{this, "CountLabel"};       // not audited, audited but not posted, all
     TLabel SelectedLabel{this, "SelectedLabel"}; // the voucher whose lines are shown
 
@@ -25,6 +26,7 @@ public:
     ~TF6661() override;
     const char* ClassName() const override { return "TF6661"; }
     void Action1Execute(); // the selected voucher's lines become a template
+    void Act_PrintVouchersExecute(); // the marked vouchers, each on the customary form
     void Act_RedExecute(); // the selected posted voucher is reversed by a red one
 
     // Steps of every document list that differ here. A key as the record's first text opens that

@@ -13,6 +13,7 @@
 #include "module/vouchers/cash_allocation.h"
 #include "module/vouchers/voucher_layout.h"
 #include "module/vouchers/voucher_number.h"
+#include "module/vouchers/voucher_paper.h"
 #include "module/vouchers/voucher_template.h"
 #include "module/vouchers/voucher_words.h"
 
@@ -407,6 +408,13 @@ std::string TF6661_1::save_allocation(const std::string& key) const {
     if (!grid_.cash_change()) return Mode == "Edit" ? delete_allocation(key) : "";
     const bool stays = Mode == "Edit" && key == Key && !F6661_5->changed_since_loaded();
     return stays ? "" : rows;
+}
+
+// ---- printing ----
+
+std::unique_ptr<PaperDocument> TF6661_1::MakeDocument() {
+    RequireSaved();
+    return paper_of_vouchers(FunctionCode, {Key});
 }
 
 // ---- saving ----

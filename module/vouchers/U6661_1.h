@@ -51,6 +51,7 @@ public:
     void RefreshData() override;
     bool AllCheck() override;
     void SaveData() override;
+    std::unique_ptr<PaperDocument> MakeDocument() override; // the customary form
     void ColumnClick(GridColumn& column) override;
     void WL_IDSetText(TField& field, const std::string& typed) override; // account on a line
     void SetFloatText(TField& field, const std::string& typed) override; // amount on a line

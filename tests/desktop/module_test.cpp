@@ -382,5 +382,31 @@ TEST(ModuleForms, a_balance_is_followed_to_its_voucher_and_back_without_the_mous
     EXPECT_EQ(desk.messages, std::vector<std::string>());
 }
 
+TEST(ModuleForms, a_ledger_and_a_voucher_are_previewed_by_key) {
+    BooksDesk desk;
+    answer_detailed_ledger(desk.data);
+    desk.data.answer("SELECT PZZ_PRINT FROM D6802", {"PZZ_PRINT text"}, {{"记帐凭证"}});
+    const auto preview_as = [&](const std::string& picture) {
+        desk.when_modal([&desk, picture] {
+            EXPECT_EQ(QApplication::activeModalWidget()->objectName(), "preview");
+            desk.keep(picture);
+            desk.keys({"Esc"});
+        });
+        desk.keys({"Ctrl+Shift+P"});
+        desk.settle();
+    };
+    desk.when_modal([&] { desk.keys({"F2"}); });
+    desk.keys({"Ctrl+G", "6", "8", "5", "Enter"});
+    ASSERT_EQ(desk.active(), "TF6685");
+    preview_as("preview_685");
+    desk.keys({"Ctrl+G", "6", "6", "1", "Enter"});
+    ASSERT_EQ(desk.active(), "TF6661");
+    preview_as("preview_661");
+    desk.keys({"Down", "Enter"});
+    ASSERT_EQ(desk.active(), "TF6661_1");
+    preview_as("preview_661_1");
+    EXPECT_TRUE(host::the_host().modal.empty());
+}
+
 } // namespace
 } // namespace tests

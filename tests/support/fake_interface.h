@@ -8,6 +8,7 @@
 
 #include "host/forms/form.h"
 #include "host/ports/host.h"
+#include "host/printing/paper.h"
 #include "tests/support/fake_data.h"
 #include "tests/support/surroundings.h"
 
@@ -22,6 +23,9 @@ public:
     std::deque<bool> answers;
     std::deque<std::function<void(host::TForm&)>> inside;
     std::optional<std::string> file; // chosen for an export
+    std::string suggested_file;
+    std::vector<host::FileKind> file_kinds;
+    std::vector<std::string> printed; // titles of the documents, "预览 " before those previewed
     std::string clipboard;
     std::vector<host::TForm*> forgotten;
     bool prints = false;
@@ -34,8 +38,11 @@ public:
     void inform(const std::string& text) override { messages.push_back(text); }
     bool ask(const std::string& text) override;
     void popup(host::TPopupMenu& menu, host::TControl&) override;
-    std::optional<std::string> choose_file_to_save(const std::string&,
-                                                   const std::string&) override {
+    std::optional<std::string>
+    choose_file_to_save(const std::string&, const std::string& suggested,
+                        const std::vector<host::FileKind>& kinds) override {
+        suggested_file = suggested;
+        file_kinds = kinds;
         return file;
     }
     // What long work reported; it is asked to stop at the report of that number, counted from 1.
@@ -44,6 +51,9 @@ public:
     bool progress(const std::string& what, std::int64_t done, std::int64_t total) override;
     void repaint_frame() override {}
     bool offers_printing() const override { return prints; }
+    void print(const host::PaperDocument& document, bool preview) override {
+        printed.push_back((preview ? "预览 " : "") + document.title());
+    }
     void set_clipboard(const std::string& text) override { clipboard = text; }
     std::string popup_item; // executed when a menu pops up
 };

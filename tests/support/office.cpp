@@ -35,6 +35,7 @@ void Office::furnish(automation::Driver& driver) {
     host.clock = &clock_;
     host.settings = &settings_;
     host.random = &random_;
+    host.files = &tray_;
     host.may = options_.may;
     host::G_UserId = options_.user_id;
     host::G_UserName = options_.user_name;

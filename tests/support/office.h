@@ -7,6 +7,7 @@
 
 #include "automation/drive/driver.h"
 #include "tests/support/hand_off.h"
+#include "tests/support/paper_tray.h"
 #include "tests/support/person.h"
 #include "tests/support/surroundings.h"
 
@@ -19,6 +20,7 @@ public:
     Office(host::DataPort& data, PersonOptions options);
     ~Office();
     HandOff& hand_off() { return hand_off_; }
+    const PaperTray& tray() const { return tray_; } // between two requests
 
 private:
     void work();
@@ -29,6 +31,7 @@ private:
     FixedClock clock_;
     MemorySettings settings_;
     CountedBytes random_;
+    PaperTray tray_;
     HandOff hand_off_;
     std::thread thread_;
 };

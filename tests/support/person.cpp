@@ -334,6 +334,26 @@ std::vector<std::string> Person::sent_texts() {
     return texts;
 }
 
+PrintedPaper Person::print(Here here) {
+    step({{"op", "print"}, {"file", "paper.pdf"}}, true, here);
+    const auto& printed = desk_->office.tray().printed;
+    if (printed.empty()) {
+        ADD_FAILURE_AT(here.file_name(), static_cast<int>(here.line())) << "nothing was printed";
+        return {};
+    }
+    expect_message("已打印 " + std::to_string(printed.back().pages.size()) + " 页到 paper.pdf",
+                   here);
+    return printed.back();
+}
+
+std::string Person::export_spreadsheet(Here here) {
+    step({{"op", "answer"}, {"file", "sheet.xlsx"}}, true, here);
+    step({{"op", "click"}, {"control", "Act_Export"}}, true, here);
+    next_message(here);
+    const auto& exported = desk_->office.tray().exported;
+    return exported.empty() ? "" : exported.back();
+}
+
 void Person::inside(const std::function<void()>& work) {
     desk_->office.hand_off().inside(work);
 }

@@ -13,6 +13,7 @@
 #include "automation/drive/ports.h"
 #include "host/contract/U_glo.h"
 #include "host/ports/host.h"
+#include "tests/support/paper_tray.h"
 
 namespace tests {
 
@@ -80,6 +81,10 @@ public:
               Here here = Here::current());
     void answer_next(bool yes); // to the next question
     void close(Here here = Here::current());
+    // Prints the active form; the document as it lay in the tray.
+    PrintedPaper print(Here here = Here::current());
+    // Exports the active form as a spreadsheet; its cells as comma-separated values.
+    std::string export_spreadsheet(Here here = Here::current());
 
     // What cannot be done: the step is refused; answers the reason told.
     std::string refused(const nlohmann::json& request, Here here = Here::current());

@@ -29,6 +29,7 @@ json dblclick(Driver& driver, const Request& request);
 json tree(Driver& driver, const Request& request);
 json node(Driver& driver, const Request& request);
 json answer(Driver& driver, const Request& request);
+json print(Driver& driver, const Request& request);
 json sql(Driver& driver, const Request& request);
 json query(Driver& driver, const Request& request);
 json close(Driver& driver, const Request& request);

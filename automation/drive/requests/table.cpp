@@ -30,6 +30,7 @@ constexpr RequestKind kinds[] = {
     {"tree", requests::tree},         // what a tree shows
     {"node", requests::node},         // selects in a tree
     {"answer", requests::answer},     // to the next question
+    {"print", requests::print},       // into a PDF file
     {"sql", requests::sql},           // statements sent so far
     {"query", requests::query},       // an administrator's look at the tables
     {"close", requests::close},       // the close button

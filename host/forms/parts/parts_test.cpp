@@ -9,9 +9,11 @@
 #include "host/forms/parts/delete_guard.h"
 #include "host/forms/parts/document_audit.h"
 #include "host/forms/parts/document_lock.h"
-#include "host/forms/parts/grid_export.h"
 #include "host/forms/parts/list_search.h"
+#include "host/forms/parts/sheet_export.h"
 #include "host/forms/parts/sum_footers.h"
+#include "host/ports/document_files.h"
+#include "host/printing/grid_sheet.h"
 #include "host/values/errors.h"
 #include "tests/support/fake_interface.h"
 
@@ -199,7 +201,7 @@ TEST_F(Parts, a_grid_is_exported_with_titles_plain_numbers_and_footers) {
     form.add("1002,\"基本户\"", "1234567.5");
     form.add("1001", "-0.5");
     add_sum_footers(form.Grid, "J, X");
-    EXPECT_EQ(grid_as_csv(form.Grid),
+    EXPECT_EQ(sheet_as_csv(sheet_of(form.Grid, "科目")),
               "\xEF\xBB\xBF期末 KM_ID,期末 J\r\n"
               "\"1002,\"\"基本户\"\"\",1234567.50\r\n"
               "1001,-0.50\r\n"
@@ -215,8 +217,8 @@ TEST_F(Parts, an_export_says_of_each_line_to_which_group_it_belongs) {
     form.Grid.Columns.back().Tag = group_tag;
     form.Grid.Columns.back().Visible = false;
     form.Grid.AutoFooter = false;
-    EXPECT_EQ(grid_as_csv(form.Grid), "\xEF\xBB\xBF科目,期末 KM_ID,期末 J\r\n"
-                                      "1002,1002,1.00\r\n");
+    EXPECT_EQ(sheet_as_csv(sheet_of(form.Grid, "表")),
+              "\xEF\xBB\xBF科目,期末 KM_ID,期末 J\r\n1002,1002,1.00\r\n");
 }
 
 TEST_F(Parts, a_long_export_tells_how_far_it_is_and_writes_nothing_when_stopped) {
@@ -227,23 +229,63 @@ TEST_F(Parts, a_long_export_tells_how_far_it_is_and_writes_nothing_when_stopped)
         return field.AsText();
     };
     for (int i = 0; i < 1000; ++i) form.add("1001", "1");
-    const std::string all = grid_as_csv(form.Grid);
+    const std::string all = sheet_as_csv(sheet_of(form.Grid, "表"));
     // Every 256 rows the clock is looked at; all of them lie more than a tenth of a second apart.
     EXPECT_EQ(desk.ui.reports, (std::vector<std::string>{"正在导出… 256/1000", "正在导出… 512/1000",
                                                          "正在导出… 768/1000", "正在导出… 1/1"}));
     desk.ui.stop_at_report = desk.ui.reports.size() + 1;
     desk.ui.file = "/no/such/folder/a.csv";
-    EXPECT_THROW(export_grid(form.Grid, "科目"), EAbort);
+    export_sheet(sheet_of(form.Grid, "科目"));
     EXPECT_EQ(desk.ui.last_message(), "导出已取消,没有写文件!");
 }
 
 TEST_F(Parts, an_export_that_cannot_be_written_is_said) {
     TSheet form;
-    export_grid(form.Grid, "科目"); // no file chosen
+    export_sheet(sheet_of(form.Grid, "科目")); // no file chosen
     EXPECT_TRUE(desk.ui.messages.empty());
     desk.ui.file = "/no/such/folder/a.csv";
-    export_grid(form.Grid, "科目");
+    export_sheet(sheet_of(form.Grid, "科目"));
     EXPECT_NE(desk.ui.last_message().find("不能写入"), std::string::npos);
+}
+
+namespace {
+
+// Remembers what it was told to write.
+class RememberedFiles final : public DocumentFiles {
+public:
+    std::string write_spreadsheet(const Sheet& sheet, const std::string& path) override {
+        written = sheet.title + " " + path;
+        return trouble;
+    }
+    bool offers_pdf() const override { return false; }
+    std::string write_pdf(const PaperDocument&, const std::string&) override { return {}; }
+    std::string written, trouble;
+};
+
+} // namespace
+
+TEST_F(Parts, without_spreadsheets_an_export_is_text) {
+    TSheet form;
+    export_sheet(sheet_of(form.Grid, "现金, 银行/日记帐"));
+    EXPECT_EQ(desk.ui.suggested_file, "现金,银行日记帐.csv");
+    ASSERT_EQ(desk.ui.file_kinds.size(), 1U);
+    EXPECT_EQ(desk.ui.file_kinds[0].ending, "csv");
+}
+
+TEST_F(Parts, the_ending_of_the_name_says_what_kind_of_file_an_export_is) {
+    TSheet form;
+    form.add("1001", "1");
+    RememberedFiles files;
+    the_host().files = &files;
+    desk.ui.file = "/tmp/a.XLSX";
+    export_sheet(sheet_of(form.Grid, "科目"));
+    EXPECT_EQ(desk.ui.suggested_file, "科目.xlsx");
+    EXPECT_EQ(files.written, "科目 /tmp/a.XLSX");
+    EXPECT_EQ(desk.ui.last_message(), "已导出 1 行到 /tmp/a.XLSX");
+    files.trouble = "太多";
+    export_sheet(sheet_of(form.Grid, "科目"));
+    EXPECT_EQ(desk.ui.last_message(), "太多");
+    the_host().files = nullptr;
 }
 
 } // namespace host

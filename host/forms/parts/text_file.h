@@ -1,17 +1,15 @@
-// Writing a text the person asked for into a file of his choice.
+// Names and contents of the files a person asked for.
 #pragma once
 
-#include <functional>
 #include <string>
 
 namespace host {
 
-// Asks where to, suggesting a file name made of `title`, writes what `text` answers, says `done`;
-// what kept the file from being written is shown. Nothing happens when the person changes his mind.
-void save_text_as(const std::string& title, const std::function<std::string()>& text,
-                  const std::string& done);
+// "现金,银行存款日记帐" → "现金,银行存款日记帐.csv": without blanks and what a file system does not
+// take.
+std::string file_name(const std::string& title, const std::string& ending);
 
-// One line of comma-separated values is made of fields like this.
-std::string csv_field(const std::string& text);
+// Writes over what is there; "", or the sentence that says what kept it from being written.
+std::string write_text_file(const std::string& path, const std::string& text);
 
 } // namespace host
