@@ -6,6 +6,7 @@
 #include "app/login/password_source.h"
 #include "app/workplace/module.h"
 #include "app/workplace/query_window.h"
+#include "app/workplace/pdf_writer.h"
 #include "app/workplace/run_driver.h"
 #include "app/workplace/workplace.h"
 #include "automation/drive/stream_lines.h"
@@ -23,6 +24,7 @@ struct Wanted {
 int drive(const Wanted& wanted) {
     Module::loaded();
     Workplace work(wanted.books, wanted.today);
+    work.files().offer_pdf(pdf_writer());
     work.log_in(wanted.user, [&] { return given_password("用户 " + wanted.user + " 的密码: "); });
     QueryWindow window(wanted.books, work.user().administrator, work.today());
     automation::StreamRequests requests(std::cin);

@@ -13,7 +13,8 @@ using PdfWriter = std::function<std::string(const host::PaperDocument&, const st
 
 class Files final : public host::DocumentFiles {
 public:
-    explicit Files(PdfWriter pdf) : pdf_(std::move(pdf)) {} // absent: no PDF is offered
+    // PDF is offered from then on; null: it is not.
+    void offer_pdf(PdfWriter pdf) { pdf_ = std::move(pdf); }
 
     std::string write_spreadsheet(const host::Sheet& sheet, const std::string& path) override;
     bool offers_pdf() const override { return pdf_ != nullptr; }

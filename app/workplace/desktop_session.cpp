@@ -135,6 +135,7 @@ bool let_in_without_asking(Workplace& work, const DesktopWanted& wanted, const s
 int run_on(const DesktopWanted& wanted, const std::string& books, int argc, char** argv) {
     Module::loaded();
     Workplace work(books, std::nullopt);
+    work.files().offer_pdf(pdf_writer());
     host::TForm frame(nullptr); // owns the forms: they go before the books are closed
     work.settings().write(settings_section, last_books, books);
     desktop::DesktopServices services = services_for(wanted, books, work, frame);

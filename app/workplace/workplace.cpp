@@ -4,7 +4,6 @@
 #include "app/administration/audit_service.h"
 #include "app/books/open.h"
 #include "app/books/upgrade.h"
-#include "app/workplace/pdf_writer.h"
 #include "automation/sql/collected_result.h"
 #include "host/contract/U_glo.h"
 #include "host/forms/form.h"
@@ -48,7 +47,7 @@ void fix_clock(engines::Session& session, const std::optional<host::Date>& today
 Workplace::Workplace(const std::string& books, const std::optional<host::Date>& today,
                      Access access)
     : settings_(settings_path()), session_(open_books(books, access)),
-      today_(day_in(*session_, today)), clock_(today_), files_(pdf_writer()),
+      today_(day_in(*session_, today)), clock_(today_),
       company_(setting_of(*session_, "company")) {
     fix_clock(*session_, today_);
     host::Host& host = host::the_host();

@@ -46,6 +46,7 @@ public:
     std::string setting(const std::string& name);
     const std::optional<host::Date>& today() const { return today_; }
     SettingsFile& settings() { return settings_; }
+    Files& files() { return files_; } // spreadsheets; PDF once a writer was offered
     engines::Session& session() { return *session_; }
 
 private:

@@ -1,6 +1,7 @@
 // A financial statement: its lines, its two grids, its layouts, saving.
 #include "module/statements/statement_form.h"
 
+#include "host/printing/grid_sheet.h"
 #include "host/values/errors.h"
 #include "host/values/text.h"
 
@@ -129,6 +130,15 @@ std::string StatementForm::read_current_period() {
     const std::string period = work_.IsEmpty() ? "" : work_.FieldByName("param").AsText();
     CurrentPeriod.Caption = period.empty() ? "" : "当前会计期间 " + period;
     return period;
+}
+
+// ---- printing ----
+
+// What is looked at: the statement, or its formulas.
+Sheet StatementForm::MakeSheet() {
+    Sheet sheet = sheet_of(rb1.Checked ? DBGridEh : DBGridEh1, Caption);
+    sheet.conditions = {"会计期间：" + trimmed(Edit1.Text.get())};
+    return sheet;
 }
 
 // ---- looking ----

@@ -32,6 +32,7 @@ public:
 
     // Steps of every grid edited in place that differ here.
     void SaveData() override;
+    Sheet MakeSheet() override; // of the grid in front, with its period
 
 protected:
     void Act_OtherExecute() override; // reckons every formula anew

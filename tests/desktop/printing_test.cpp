@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPageLayout>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QTableView>

@@ -13,6 +13,7 @@ protected:
         answer_detailed_ledger(data);
         answer_general_ledger(data);
         answer_cash_accounts(data);
+        data.answer("SELECT param  FROM d6600 where id=2", {"param text"}, {{"2024-03"}});
     }
     Person& at(int code) {
         anna_ = std::make_unique<Person>(data);
@@ -98,11 +99,12 @@ TEST_F(LedgerPrinting, a_print_needs_a_file_and_tells_so) {
     anna.expect_message("没有打印：请先用 answer 给出文件名!");
 }
 
-TEST_F(LedgerPrinting, an_export_takes_the_columns_seen_and_plain_numbers) {
+TEST_F(LedgerPrinting, an_export_takes_the_columns_seen_plain_numbers_and_the_account_of_each_line) {
     const std::string sheet = at(685).export_spreadsheet();
-    EXPECT_TRUE(sheet.starts_with("\xEF\xBB\xBF凭证日期,凭证字,摘要,借方金额,贷方金额,方向,余额\r\n"
-                                  ",,期初余额,0.00,0.00,借,100.00\r\n"
-                                  "2024-03-05,记-7,收货款,585.00,0.00,借,685.00\r\n"))
+    EXPECT_TRUE(
+        sheet.starts_with("\xEF\xBB\xBF科目,凭证日期,凭证字,摘要,借方金额,贷方金额,方向,余额\r\n"
+                          "1001,,,期初余额,0.00,0.00,借,100.00\r\n"
+                          "1001,2024-03-05,记-7,收货款,585.00,0.00,借,685.00\r\n"))
         << sheet;
 }
 

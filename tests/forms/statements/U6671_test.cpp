@@ -34,6 +34,20 @@ const std::string clear_blanks = "UPDATE D6830 SET A3 = NULL WHERE (RTRIM(LTRIM(
                                  "UPDATE D6830 SET B3 = NULL WHERE (RTRIM(LTRIM(B3)) = '');"
                                  "UPDATE D6830 SET B4 = NULL WHERE (RTRIM(LTRIM(B4)) = '');";
 
+// ---- printing ----
+
+TEST_F(BalanceSheet, is_printed_as_it_stands_under_its_period) {
+    two_halves();
+    const PrintedPaper paper = person().print();
+    EXPECT_EQ(paper.title, "资产负债表");
+    EXPECT_TRUE(paper.says("会计期间：2016-06"));
+    EXPECT_EQ(paper.line_of(" 货币资金"),
+              (std::vector<std::string>{" 货币资金", "1", "7.00", "8.00", " 短期借款", "68",
+                                        "9.00"}));
+    person().check("rb2");
+    EXPECT_TRUE(person().print().says("fasc(年初,'1001','1009')"));
+}
+
 // ---- opening ----
 
 TEST_F(BalanceSheet, opens_with_the_first_layout_at_the_current_period) {
