@@ -62,6 +62,7 @@ void PageCanvas::paintEvent(QPaintEvent*) {
         drawn_.setDevicePixelRatio(ratio);
     }
     QPainter painter(this);
+    painter.fillRect(rect(), token::paper_3);
     const QRect sheet(QPoint(ground, ground), paper);
     painter.fillRect(sheet.translated(2, 3), QColor(0, 0, 0, 28));
     painter.drawPixmap(sheet.topLeft(), drawn_);

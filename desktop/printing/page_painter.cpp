@@ -27,6 +27,9 @@ QFont font_of(int units, bool bold, bool serif) {
     QFont font;
     if (serif)
         font.setFamilies({"Noto Serif CJK SC", "Source Han Serif SC", "SimSun", "Songti SC"});
+    else if (bold) // a drawn bold face instead of a thickened regular one
+        font.setFamilies({"Noto Sans CJK SC", "Microsoft YaHei", "PingFang SC",
+                          "WenQuanYi Micro Hei"});
     else
         font.setFamilies({"WenQuanYi Micro Hei", "Microsoft YaHei", "PingFang SC",
                           "Noto Sans CJK SC"});

@@ -69,7 +69,8 @@ SheetCell grid_cell(TDBGridEh& grid, int row, int column, bool amount) {
     const Value value = grid.DataSet->value_at(row, field->index());
     cell.value = shown_value(*field, value, cell.text, amount);
     const CellParams params = grid.cell_params(row, column);
-    cell.red = params.Font == red;
+    const auto* money = std::get_if<Amount>(&cell.value);
+    cell.red = params.Font == red || (amount && money != nullptr && money->is_negative());
     cell.bold = params.Bold || params.Font == blue;
     return cell;
 }

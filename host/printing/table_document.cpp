@@ -2,6 +2,7 @@
 #include "host/printing/table_document.h"
 
 #include "host/printing/table_lines.h"
+#include "host/values/text.h"
 
 namespace host {
 
@@ -75,7 +76,7 @@ void TableDocument::draw_words(PaperPage& page, const TablePage& shown) const {
     if (money) line("金额单位：元", words_height, Alignment::Right, Ink::Black);
     y += words_height;
     for (const std::string& condition : sheet_.conditions) {
-        line(condition, condition_height, Alignment::Left, Ink::Grey);
+        line(trimmed(condition), condition_height, Alignment::Left, Ink::Grey);
         y += condition_height;
     }
     if (sheet_.carried && sheet_.carried->account && sheet_.rows > 0)

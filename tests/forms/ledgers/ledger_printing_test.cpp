@@ -99,10 +99,11 @@ TEST_F(LedgerPrinting, a_print_needs_a_file_and_tells_so) {
     anna.expect_message("没有打印：请先用 answer 给出文件名!");
 }
 
-TEST_F(LedgerPrinting, an_export_takes_the_columns_seen_plain_numbers_and_the_account_of_each_line) {
+TEST_F(LedgerPrinting, an_export_holds_plain_numbers_and_the_account_of_each_line) {
     const std::string sheet = at(685).export_spreadsheet();
     EXPECT_TRUE(
-        sheet.starts_with("\xEF\xBB\xBF科目,凭证日期,凭证字,摘要,借方金额,贷方金额,方向,余额\r\n"
+        sheet.starts_with("\xEF\xBB\xBF科目,凭证日期,凭证字,摘要,借方金额,贷方金额,方向,"
+                          "余额\r\n"
                           "1001,,,期初余额,0.00,0.00,借,100.00\r\n"
                           "1001,2024-03-05,记-7,收货款,585.00,0.00,借,685.00\r\n"))
         << sheet;

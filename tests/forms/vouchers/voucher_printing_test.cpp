@@ -1,4 +1,5 @@
 // Vouchers on paper: from the entry form, from the list, several at once.
+#include "host/values/text.h"
 #include "tests/forms/vouchers/voucher_desk.h"
 
 namespace tests {
@@ -46,7 +47,7 @@ TEST_F(VoucherPrinting, the_list_prints_as_a_list_with_its_conditions) {
     const PrintedPaper paper = anna->print();
     EXPECT_EQ(paper.title, "录凭证");
     EXPECT_FALSE(paper.says("金额单位：元")) << "heads hold no amounts";
-    EXPECT_TRUE(paper.says(anna->value("ConditionLabel")));
+    EXPECT_TRUE(paper.says(host::trimmed(anna->value("ConditionLabel"))));
     EXPECT_TRUE(paper.says("第 1 页  共 1 页"));
     const auto line = paper.line_of("2024-03-05");
     EXPECT_EQ(line[0], "2024-03");
