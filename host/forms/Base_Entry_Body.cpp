@@ -1,6 +1,8 @@
 // Document entry: preparing for a mode, noticing changes, saving.
 #include "host/forms/Base_Entry_Body.h"
 
+#include "host/printing/paper.h"
+#include "host/printing/sheet.h"
 #include "host/values/errors.h"
 #include "host/values/text.h"
 

@@ -7,6 +7,7 @@
 #include "host/forms/parts/document_lock.h"
 #include "host/forms/parts/list_search.h"
 #include "host/forms/parts/sum_footers.h"
+#include "host/printing/sheet.h"
 #include "host/values/errors.h"
 #include "host/values/sql_text.h"
 

@@ -4,6 +4,7 @@
 #include "host/forms/parts/paper_job.h"
 #include "host/forms/parts/sheet_export.h"
 #include "host/ports/host.h"
+#include "host/printing/paper.h"
 #include "host/printing/grid_sheet.h"
 
 namespace host {

@@ -3,10 +3,11 @@
 
 #include "host/controls/grid.h"
 #include "host/forms/Base_Common.h"
-#include "host/printing/paper.h"
-#include "host/printing/sheet.h"
 
 namespace host {
+
+class PaperDocument;
+struct Sheet;
 
 class TFrm_Base_Panel : public TFrm_Base_Common {
 public:

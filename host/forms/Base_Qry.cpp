@@ -4,6 +4,7 @@
 #include "host/forms/Sys_Filter.h"
 #include "host/forms/parts/list_search.h"
 #include "host/forms/parts/sum_footers.h"
+#include "host/printing/sheet.h"
 
 namespace host {
 

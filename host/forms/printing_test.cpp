@@ -5,6 +5,8 @@
 #include "host/forms/Base_Node.h"
 #include "host/forms/Base_Qry.h"
 #include "host/forms/Sys_Report.h"
+#include "host/printing/paper.h"
+#include "host/printing/sheet.h"
 #include "host/values/errors.h"
 #include "tests/support/fake_interface.h"
 

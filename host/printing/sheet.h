@@ -60,6 +60,8 @@ struct Sheet {
     std::function<SheetCell(int row, int column)> cell;
     std::vector<SheetCell> footers; // one a column; empty when there are none
     std::optional<CarriedSums> carried;
+    bool one_page = false;               // a statement: set smaller rather than parted
+    std::vector<std::string> signatures; // of those who answer for it, below the table
 
     int column_of(const std::string& field) const; // -1 when it is not there
     // The levels of titles: 2 when any of them is grouped.

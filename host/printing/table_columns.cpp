@@ -69,8 +69,10 @@ TableColumns columns_on_paper(const Sheet& sheet) {
         columns.widths.push_back(natural_width(sheet, i));
     const int natural = columns.width();
     const auto room_on = [](PaperSize paper) { return paper.width - 2 * paper_margin; };
-    // A list that is a little too wide is set a little smaller before the paper is turned.
-    columns.paper = natural * 10 <= room_on(upright) * 11 ? upright : across;
+    // A list that is a little too wide is set a little smaller before the paper is turned; a
+    // statement much smaller, for it has many lines.
+    const int tolerated = sheet.one_page ? 14 : 11;
+    columns.paper = natural * 10 <= room_on(upright) * tolerated ? upright : across;
     columns.left = paper_margin;
     const int room = room_on(columns.paper);
     if (natural > room)

@@ -13,12 +13,22 @@ constexpr int title_height = 1000, words_height = 560, condition_height = 480, t
 constexpr int foot_height = 500;
 constexpr int thick = 30, thin = 9, middle = 18;
 constexpr int words_size = 90, foot_size = 80;
+constexpr int signature_height = 900;
+constexpr int lowest_row = 370;    // of a statement on one page
+constexpr int largest_in_row = 18; // tenths of a point a millimetre of row
+
+int lines_of(const TablePage& page) {
+    return page.count + (page.carried_in ? 1 : 0) + (page.carried_out ? 1 : 0) +
+           (page.footers ? 1 : 0);
+}
 
 } // namespace
 
 TableDocument::TableDocument(Sheet sheet, PaperWords words)
-    : sheet_(std::move(sheet)), words_(std::move(words)), columns_(columns_on_paper(sheet_)),
-      pages_(break_into_pages(sheet_, lines_a_page())) {}
+    : sheet_(std::move(sheet)), words_(std::move(words)), columns_(columns_on_paper(sheet_)) {
+    if (sheet_.one_page) fit_one_page();
+    pages_ = break_into_pages(sheet_, lines_a_page());
+}
 
 // ---- places ----
 
@@ -30,9 +40,23 @@ int TableDocument::table_top() const {
 
 int TableDocument::head_height() const { return title_level * sheet_.title_levels(); }
 
+// Signatures stand between the table and the foot of the page.
+int TableDocument::foot_top() const {
+    return columns_.paper.height - bottom - (sheet_.signatures.empty() ? 0 : signature_height);
+}
+
 int TableDocument::lines_a_page() const {
-    const int room = columns_.paper.height - bottom - table_top() - head_height();
-    return std::max(4, room / columns_.row_height);
+    return std::max(4, (foot_top() - table_top() - head_height()) / columns_.row_height);
+}
+
+// Lower rows first, then smaller type, as long as it can be read.
+void TableDocument::fit_one_page() {
+    const int lines = sheet_.rows + (sheet_.footers.empty() ? 0 : 1);
+    if (lines <= lines_a_page()) return;
+    const int height = (foot_top() - table_top() - head_height()) / lines;
+    if (height < lowest_row) return;
+    columns_.row_height = height;
+    columns_.size = std::min(columns_.size, height * largest_in_row / 100);
 }
 
 int TableDocument::left_of(int column) const {
@@ -51,6 +75,7 @@ PaperPage TableDocument::page(int number) const {
     draw_rows(page, shown);
     draw_rules(page, shown);
     draw_foot(page, number);
+    if (number + 1 == page_count()) draw_signatures(page, lines_of(shown));
     return page;
 }
 
@@ -82,6 +107,17 @@ void TableDocument::draw_words(PaperPage& page, const TablePage& shown) const {
     if (sheet_.carried && sheet_.carried->account && sheet_.rows > 0)
         line("科目：" + sheet_.carried->account(shown.first), words_height, Alignment::Left,
              Ink::Black);
+}
+
+void TableDocument::draw_signatures(PaperPage& page, int lines) const {
+    const int count = static_cast<int>(sheet_.signatures.size());
+    const int y = table_top() + head_height() + lines * columns_.row_height + 250;
+    for (int i = 0; i < count; ++i) {
+        const int width = columns_.width() / count;
+        page.texts.push_back({.box = {columns_.left + i * width, y, width, words_height},
+                              .text = sheet_.signatures[static_cast<std::size_t>(i)] + "：",
+                              .size = words_size});
+    }
 }
 
 void TableDocument::draw_foot(PaperPage& page, int number) const {
@@ -175,8 +211,7 @@ void TableDocument::draw_rows(PaperPage& page, const TablePage& shown) const {
 }
 
 void TableDocument::draw_rules(PaperPage& page, const TablePage& shown) const {
-    const int lines = shown.count + (shown.carried_in ? 1 : 0) + (shown.carried_out ? 1 : 0) +
-                      (shown.footers ? 1 : 0);
+    const int lines = lines_of(shown);
     const int left = columns_.left, right = left + columns_.width();
     const int first = table_top(), rows = first + head_height();
     const int end = rows + lines * columns_.row_height;

@@ -27,9 +27,12 @@ private:
     int head_height() const;
     int lines_a_page() const;
     int left_of(int column) const;
+    int foot_top() const;
+    void fit_one_page();
 
     void draw_words(PaperPage& page, const TablePage& shown) const;
     void draw_foot(PaperPage& page, int number) const;
+    void draw_signatures(PaperPage& page, int lines) const;
     void draw_titles(PaperPage& page) const;
     void draw_rows(PaperPage& page, const TablePage& shown) const;
     void draw_rules(PaperPage& page, const TablePage& shown) const;

@@ -116,6 +116,26 @@ TEST(TableDocument, columns_keep_the_proportions_of_the_screen) {
     EXPECT_EQ(columns.width(), 21000 - 2 * paper_margin);
 }
 
+// 53 lines in eight columns, as a balance sheet has them.
+TEST(TableDocument, a_statement_stands_on_one_page_with_its_signatures) {
+    Sheet sheet = trial_balance(53);
+    for (int half = 0; half < 2; ++half)
+        sheet.columns.push_back({.title = "负债", .width = 16, .amount = true});
+    EXPECT_GT(TableDocument(sheet, words).page_count(), 1);
+    sheet.one_page = true;
+    sheet.signatures = {"单位负责人", "制表"};
+    const TableDocument document(sheet, words);
+    ASSERT_EQ(document.page_count(), 1);
+    const PaperPage page = document.page(0);
+    const PaperText* last = find(page, "甲52");
+    const PaperText* signature = find(page, "单位负责人：");
+    const PaperText* foot = find(page, "第 1 页  共 1 页");
+    ASSERT_TRUE(last && signature && foot);
+    EXPECT_GE(signature->box.top, last->box.bottom());
+    EXPECT_LE(signature->box.bottom(), foot->box.top);
+    EXPECT_GE(last->size, 55) << "it can still be read";
+}
+
 namespace {
 
 Sheet ledger(int rows) {

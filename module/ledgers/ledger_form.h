@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/forms/Base_Qry.h"
+#include "host/printing/sheet.h"
 #include "module/host_names.h"
 
 namespace module {

@@ -138,6 +138,10 @@ std::string StatementForm::read_current_period() {
 Sheet StatementForm::MakeSheet() {
     Sheet sheet = sheet_of(rb1.Checked ? DBGridEh : DBGridEh1, Caption);
     sheet.conditions = {"会计期间：" + trimmed(Edit1.Text.get())};
+    // The letters over the columns serve the formulas alone.
+    for (SheetColumn& column : sheet.columns) column.title = lower_title(column);
+    sheet.one_page = rb1.Checked;
+    if (sheet.one_page) sheet.signatures = {"单位负责人", "财务负责人", "制表"};
     return sheet;
 }
 

@@ -41,6 +41,8 @@ TEST_F(BalanceSheet, is_printed_as_it_stands_under_its_period) {
     const PrintedPaper paper = person().print();
     EXPECT_EQ(paper.title, "资产负债表");
     EXPECT_TRUE(paper.says("会计期间：2016-06"));
+    EXPECT_TRUE(paper.says("资产") && paper.says("年初数") && !paper.says("A"));
+    EXPECT_TRUE(paper.says("单位负责人："));
     EXPECT_EQ(paper.line_of(" 货币资金"),
               (std::vector<std::string>{" 货币资金", "1", "7.00", "8.00", " 短期借款", "68",
                                         "9.00"}));
