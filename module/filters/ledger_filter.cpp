@@ -3,13 +3,20 @@
 
 namespace module {
 
+namespace {
+
+constexpr PeriodRefusals within_the_books{
+    .too_late = "开始期间不能 大于 当前会计期间!当前会计期间:",
+    .too_early = "开始期间不能 小于 帐套启用日期!帐套启用日期为:"};
+
+} // namespace
+
 // Ticking means opposite things in the two kinds of dialog, and the procedures take it as such: the
 // detailed ledger leaves unposted vouchers out unless ticked, the general ledger leaves accounts
 // without turnover out when ticked.
 const LedgerDialog detailed_ledger_dialog = {
     .caption = "明细分类帐 · 查询条件",
-    .refusals = {.too_late = "开始期间不能 大于 当前会计期间!当前会计期间:",
-                 .too_early = "开始期间不能 小于 帐套启用日期!帐套启用日期为:"},
+    .refusals = within_the_books,
     .reversed = "会计期间开始大于结束!",
     .box = "包含未过帐凭证",
     .ticked_shows_all = true,
@@ -20,8 +27,7 @@ const LedgerDialog detailed_ledger_dialog = {
 
 const LedgerDialog general_ledger_dialog = {
     .caption = "总分类帐 · 查询条件",
-    .refusals = {.too_late = "开始期间不能 大于 当前会计期间!当前会计期间:",
-                 .too_early = "开始期间不能 小于 帐套启用日期!帐套启用日期为:"},
+    .refusals = within_the_books,
     .reversed = "会计期间开始 大于 结束!",
     .box = "无发生额不显示",
     .ticked_shows_all = false,
