@@ -65,7 +65,9 @@ std::vector<TWinControl*> TForm::TabOrder() const {
 void TForm::SetFocusTo(TWinControl& control) {
     if (active_ == &control || target_ == &control) return;
     TWinControl* const before = active_;
-    if (before != nullptr && before->usable()) {
+    // An exit handler that sends the focus elsewhere is not asked a second time on the way.
+    const bool being_left = target_ != nullptr;
+    if (before != nullptr && before->usable() && !being_left) {
         const Heading heading(target_, &control);
         before->leave();
         if (before->OnExit) before->OnExit();
@@ -81,6 +83,7 @@ void TForm::SetFocusTo(TWinControl& control) {
 void TForm::CommitActive() {
     if (active_ == nullptr || !active_->usable()) return;
     TWinControl& control = *active_;
+    const Heading heading(target_, &control);
     control.leave();
     if (control.OnExit) control.OnExit();
 }

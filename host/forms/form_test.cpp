@@ -98,6 +98,23 @@ TEST_F(Form, an_exit_handler_that_puts_the_focus_back_and_aborts_keeps_it) {
     EXPECT_EQ(desk.ui.last_message(), "编号不能为空，请录入!");
 }
 
+// The code is left, but it is another field that is wrong: that one has to be reachable.
+TEST_F(Form, an_exit_handler_that_sends_the_focus_elsewhere_and_aborts_is_asked_once) {
+    form.Second.OnExit = [&] { CheckBlank(form.First, "编号"); };
+    form.First.Text = "";
+    form.Show();
+    form.Second.SetFocus();
+    desk.ui.messages.clear();
+    EXPECT_FALSE(enter_event([&] { form.btn_ok.SetFocus(); }));
+    EXPECT_TRUE(form.First.focused());
+    EXPECT_EQ(desk.ui.messages.size(), 1u);
+    form.Second.SetFocus();
+    desk.ui.messages.clear();
+    EXPECT_FALSE(enter_event([&] { form.CommitActive(); }));
+    EXPECT_TRUE(form.First.focused());
+    EXPECT_EQ(desk.ui.messages.size(), 1u);
+}
+
 TEST_F(Form, a_key_goes_to_the_form_then_the_control_then_the_shortcuts) {
     std::string heard;
     form.Act_Save.OnExecute = [&] { heard += "save "; };

@@ -176,6 +176,19 @@ TEST_F(CarryingForward, the_summary_is_checked_under_the_name_of_the_account) {
     EXPECT_TRUE(data.executed().empty());
 }
 
+// The account's exit checks the summary: what is wrong there must be reachable from the account.
+TEST_F(CarryingForward, a_wrong_summary_gets_the_focus_when_the_account_is_left) {
+    Person& anna = with_account();
+    anna.set("Edit1", "");
+    anna.focus("KM_ID");
+    EXPECT_NE(anna.refused({{"op", "click"}, {"control", "btn_ok"}}), "");
+    anna.expect_message("会计科目不能为空，请录入!");
+    EXPECT_EQ(anna.focused(), "Edit1");
+    anna.set("Edit1", "结转");
+    anna.click("btn_ok");
+    EXPECT_EQ(data.executed().size(), 1u);
+}
+
 TEST_F(CarryingForward, the_account_is_chosen_from_those_below_the_distribution) {
     data.answer("select km_id,km_name from d6801 where   (km_id>'3141') and  (km_id like '3141%') "
                 "order by km_id",
