@@ -47,7 +47,7 @@ void TFrm_Base_Entry_Head::InitForm(const Trecord& record) {
     OpenFunction(record);
     add_sum_footers(DBGridEhLine, Settings.amount_fields);
     TFrm_Sys_Filter* filter = Filter();
-    if (filter != nullptr && filter->Preset()) {
+    if (filter != nullptr && Condition.empty() && filter->Preset()) {
         Condition = filter->ResultText;
         ConditionLabel.Caption = filter->Description;
     }

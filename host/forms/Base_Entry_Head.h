@@ -30,7 +30,7 @@ public:
     explicit TFrm_Base_Entry_Head(TForm* parent);
 
     // The form's own InitForm sets Settings and creates its filter and entry form first. Documents
-    // of the filter's default conditions are shown at once.
+    // are shown at once: those of the Condition it set, else of the filter's default conditions.
     virtual void InitForm(const Trecord& record);
     virtual void GetData(); // heads by Condition, then the lines of the selected one
 

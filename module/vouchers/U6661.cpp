@@ -123,7 +123,17 @@ void TF6661::InitForm(const Trecord& record) {
     const std::string& voucher = record.user[0];
     if (!voucher.empty()) return open_voucher(record, voucher);
     create_filter();
+    choose_current_period();
     TFrm_Base_Entry_Head::InitForm(record);
+}
+
+// A voucher belongs to its period whatever day it bears, so what waits to be audited is all there;
+// books that are not set up yet have no period to go by.
+void TF6661::choose_current_period() {
+    const std::string& period = F6661F->CurrentPeriod;
+    if (period.empty()) return;
+    Condition = "D6601.PZQJ=" + quoted(period);
+    ConditionLabel.Caption = " ●会计期间:" + period;
 }
 
 void TF6661::create_filter() {

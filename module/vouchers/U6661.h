@@ -43,6 +43,7 @@ protected:
 private:
     // This form's own rules.
     void create_filter();
+    void choose_current_period();
     void open_voucher(const Trecord& record, const std::string& key);
     void build_columns();
     void build_layout(bool audit);

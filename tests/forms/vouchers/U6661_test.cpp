@@ -14,11 +14,10 @@ TEST_F(VoucherList, shows_the_vouchers_of_the_current_period_at_once) {
     EXPECT_EQ(anna->row_count(), 2);
     const auto sent = anna->sent_texts();
     const bool listed = std::any_of(sent.begin(), sent.end(), [](const std::string& text) {
-        return text.starts_with(heads) &&
-               text.find("(D6601.BDATE>='2024-03-01') AND "
-                         "(D6601.BDATE<'2024-04-01')") != std::string::npos;
+        return text.starts_with(heads + " WHERE D6601.PZQJ='2024-03' ORDER BY ");
     });
     EXPECT_TRUE(listed);
+    EXPECT_EQ(anna->value("ConditionLabel"), " ●会计期间:2024-03");
 }
 
 TEST_F(VoucherList, shows_the_lines_of_the_selected_voucher) {
