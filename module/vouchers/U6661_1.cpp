@@ -316,7 +316,6 @@ void TF6661_1::Act_OtherExecute() {
     F6661_4->INIT(AdoQry_Main);
     if (F6661_4->ShowModal() != mrOk) return;
     mark_cash_lines();
-    grid_.fill_up();
     Touch();
 }
 
@@ -328,6 +327,7 @@ void TF6661_1::mark_cash_lines() {
         AdoQry_Main.FieldByName("KM_K").SetValue(account && account->cash_flow);
         AdoQry_Main.Post();
     }
+    AdoQry_Main.First();
 }
 
 void TF6661_1::Act_xjExecute() {
@@ -400,13 +400,13 @@ VoucherHead TF6661_1::head_to_save(const std::string& period) const {
     return {key, period, PZZ.Text, PZZ_H.Text, attachments, BDATE.Text, G_UserId};
 }
 
-// What was not touched stays with the number it has. Once the cash lines are gone the allocation
+// What nobody looked at stays with the number it has. Once the cash lines are gone the allocation
 // cannot be opened any more, so it goes with them.
 std::string TF6661_1::save_allocation(const std::string& key) const {
     const std::string rows = F6661_5->getsql(key);
     if (rows.empty()) return "";
     if (!grid_.cash_change()) return Mode == "Edit" ? delete_allocation(key) : "";
-    const bool stays = Mode == "Edit" && key == Key && !F6661_5->changed_since_loaded();
+    const bool stays = Mode == "Edit" && key == Key && !F6661_5->confirmed();
     return stays ? "" : rows;
 }
 

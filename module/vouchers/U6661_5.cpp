@@ -70,6 +70,7 @@ void TF6661_5::initnoid(const std::string& NOID, const std::string& mode) {
     AdoQry_Main.SortBy("ID", false);
     Mode = mode;
     noid_ = NOID;
+    confirmed_ = false;
     as_loaded_ = replace_allocation(NOID, AdoQry_Main);
     const bool adding = mode != "Edit" && mode != "ReadOnly";
     for (int row = 0; adding && row < AdoQry_Main.RecordCount(); ++row) {
@@ -88,6 +89,7 @@ void TF6661_5::initnoid(const std::string& NOID, const std::string& mode) {
 void TF6661_5::forget() {
     AdoQry_Main.Close();
     noid_.clear();
+    confirmed_ = false;
 }
 
 void TF6661_5::FormShow() {
@@ -104,7 +106,10 @@ bool TF6661_5::allocate(Amount cash_change) {
     before.CopyFrom(AdoQry_Main);
     AdoQry_Main.MarkSaved();
     const bool could_save = save_ && save_->Enabled;
-    if (ShowModal() == mrOk) return AdoQry_Main.Modified();
+    if (ShowModal() == mrOk) {
+        confirmed_ = true;
+        return AdoQry_Main.Modified();
+    }
     GRID2.cancel_edit();
     put_back(before);
     if (save_) save_->Enabled = could_save;
@@ -177,10 +182,6 @@ void TF6661_5::refresh_hint() {
 
 std::string TF6661_5::getsql(const std::string& NOID) const {
     return loaded() ? replace_allocation(NOID, AdoQry_Main) : "";
-}
-
-bool TF6661_5::changed_since_loaded() const {
-    return loaded() && replace_allocation(noid_, AdoQry_Main) != as_loaded_;
 }
 
 bool TF6661_5::stored_meanwhile() const {

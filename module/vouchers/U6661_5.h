@@ -31,7 +31,7 @@ public:
     // Shows the items to a person; `cash_change` is what the voucher's cash lines add to the cash.
     // True when amounts were changed and accepted.
     bool allocate(Amount cash_change);
-    bool changed_since_loaded() const;
+    bool confirmed() const { return confirmed_; } // a person accepted what it shows
     // Is the stored allocation of the voucher loaded another one than it was then?
     bool stored_meanwhile() const;
 
@@ -54,6 +54,7 @@ private:
     bool loading_ = false;
     std::string noid_;      // voucher whose allocation was loaded
     std::string as_loaded_; // what was stored of it then
+    bool confirmed_ = false;
     Amount cash_change_;
 };
 

@@ -59,7 +59,7 @@ TEST_F(Templates, applying_replaces_every_line_of_the_voucher) {
     anna->click("btn_ok");
     anna->expect_active("TF6661_1");
     const Rows lines = anna->rows();
-    ASSERT_EQ(lines.size(), 6u) << "filled up to the lines of a blank voucher";
+    ASSERT_EQ(lines.size(), 3u) << "the lines of the template and no others";
     EXPECT_EQ(lines[0].at("ZY"), "销售");
     EXPECT_EQ(lines[0].at("KM_ID"), "1131");
     EXPECT_EQ(lines[0].at("KM_NAME_NEW"), "应收帐款");
@@ -68,7 +68,6 @@ TEST_F(Templates, applying_replaces_every_line_of_the_voucher) {
     EXPECT_EQ(lines[1].at("D"), "100.00");
     EXPECT_EQ(lines[2].at("ZY"), "代垫运费");
     EXPECT_EQ(lines[2].at("D"), "17.00");
-    for (int row = 3; row < 6; ++row) EXPECT_EQ(lines[static_cast<std::size_t>(row)].at("ZY"), "");
     EXPECT_EQ(anna->footer("J"), "117.00");
 }
 

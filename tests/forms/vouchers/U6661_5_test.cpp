@@ -287,6 +287,20 @@ TEST_F(Allocation, an_untouched_one_stays_with_the_voucher_and_is_not_written_ag
     EXPECT_EQ(last_batch().find("D6601B"), std::string::npos) << last_batch();
 }
 
+TEST_F(Allocation, one_that_was_looked_at_and_accepted_is_written_as_it_stands) {
+    answer_allocation(data, {{"1101", "585.00", "<null>"}});
+    change_voucher_7();
+    allocate();
+    anna->click("btn_ok");
+    EXPECT_FALSE(anna->enabled("Act_Save")) << "nothing was changed";
+    anna->cell(0, "ZY", "收贷款");
+    anna->click("Act_Save");
+    anna->expect_active("TF6661");
+    const std::string key = "2024-03记007";
+    EXPECT_TRUE(last_batch().ends_with(old_gone(key) + row_of(key, "1101", "585", "0")))
+        << last_batch();
+}
+
 TEST_F(Allocation, all_amounts_cleared_leave_the_old_allocation_as_it_is) {
     answer_allocation(data, {{"1101", "585.00", "<null>"}});
     change_voucher_7();
