@@ -14,10 +14,10 @@ namespace module {
 
 CodeTreeDialog::CodeTreeDialog(TForm* parent, const CodeTreeKind& kind)
     : TFrm_Base_Node_d(parent), kind_(kind) {
-    t0.Caption = std::string(kind.code_label);
+    t0.Caption = std::string(kind.code_caption);
     t0.MaxLength = kind.code_length;
     t0.UpperCase = true;
-    t1.Caption = std::string(kind.name_label);
+    t1.Caption = std::string(kind.name_caption);
     t1.MaxLength = 100;
     RB1.Caption = std::string(kind.side);
     RB2.Caption = std::string(kind.other_side);

@@ -54,6 +54,8 @@ TEST_F(CashFlowItems, an_item_beside_a_top_level_one_belongs_to_the_top) {
     anna.click("Act_Add");
     anna.expect_active("TF6691_1");
     EXPECT_EQ(anna.focused(), "t0");
+    EXPECT_EQ(anna.control("t0").at("caption"), "代    号");
+    EXPECT_EQ(anna.control("t1").at("caption"), "名    称");
     EXPECT_TRUE(anna.checked("RB1"));
     save("5", " 其他活动 ", "RB2");
     EXPECT_EQ(last_batch(), "INSERT INTO D6820 (ID, XJLL, IO, OID, PYM) ValueS('5',"
