@@ -169,12 +169,31 @@ TEST_F(BooksCommands, a_foreign_a_missing_and_a_server_name_are_refused_by_every
     EXPECT_EQ(folder_.files(), 1u);
 }
 
-TEST_F(BooksCommands, books_without_the_right_to_write_can_be_read_and_say_why_they_stay) {
-    if (::geteuid() == 0) GTEST_SKIP() << "everything may be written by root";
+TEST_F(BooksCommands, books_without_the_right_to_write_say_so_and_stay_as_they_are) {
     ASSERT_EQ(make("a.zf").status, 0);
-    fs::permissions(books_, fs::perms::owner_read);
-    const ProgramRun run = run_program({"sql", books_}, "DELETE FROM D6803");
-    EXPECT_EQ(run.status, 1);
+    const auto content = [this] {
+        std::ifstream file(books_, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    };
+    const std::string before = content();
+    for (const std::string& path : {folder_.file(""), books_}) give_to_anybody(path);
+    struct Attempt {
+        fs::perms permissions;
+        const char* told;
+    };
+    const Attempt attempts[] = {{fs::perms::owner_read, "帐套只能读取,不能写入"},
+                                {fs::perms::none, "请检查路径和权限"}};
+    for (const Attempt& attempt : attempts) {
+        fs::permissions(books_, attempt.permissions);
+        for (const char* command : {"sql", "check", "drive"}) {
+            const ProgramRun run = run_program_as_anybody({command, books_}, "DELETE FROM D6803");
+            EXPECT_EQ(run.status, 1) << command;
+            EXPECT_EQ(run.out, "") << command;
+            EXPECT_NE(run.errors.find(attempt.told), std::string::npos) << run.errors;
+        }
+    }
+    fs::permissions(books_, fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(content(), before);
 }
 
 TEST_F(BooksCommands, the_desktop_without_a_display_is_refused_with_a_hint) {

@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <fstream>
+#include <functional>
+#include <grp.h>
 #include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -26,8 +28,21 @@ void redirect(const std::string& path, int flags, int stream) {
     ::close(file);
 }
 
-[[noreturn]] void become(const std::string& program, const std::vector<std::string>& arguments,
-                         const TemporaryFolder& folder,
+constexpr uid_t nobody = 65534;
+
+void drop_the_rights_of_root() {
+    if (::geteuid() != 0) return;
+    if (::setgroups(0, nullptr) != 0 || ::setgid(nobody) != 0 || ::setuid(nobody) != 0)
+        ::_exit(127);
+}
+
+struct Child {
+    const std::string& program;
+    const std::vector<std::string>& arguments;
+    std::function<void()> prepare; // the last thing before it becomes the program
+};
+
+[[noreturn]] void become(const Child& child, const TemporaryFolder& folder,
                          const std::map<std::string, std::string>& environment) {
     ::setsid(); // no terminal: a question for a password must not wait for one
     redirect(folder.file("in"), O_RDONLY, STDIN_FILENO);
@@ -36,39 +51,59 @@ void redirect(const std::string& path, int flags, int stream) {
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "ZHANGFANG_PASSWORD"})
         ::unsetenv(name);
     for (const auto& [name, value] : environment) ::setenv(name.c_str(), value.c_str(), 1);
-    std::vector<char*> words{const_cast<char*>(program.c_str())};
-    for (const std::string& argument : arguments)
+    std::vector<char*> words{const_cast<char*>(child.program.c_str())};
+    for (const std::string& argument : child.arguments)
         words.push_back(const_cast<char*>(argument.c_str()));
     words.push_back(nullptr);
-    ::execv(program.c_str(), words.data());
+    if (child.prepare) child.prepare();
+    ::execv(child.program.c_str(), words.data());
     ::_exit(127);
 }
 
-} // namespace
-
-ProgramRun run_file(const std::string& program, const std::vector<std::string>& arguments,
-             const std::string& input, std::map<std::string, std::string> environment) {
+ProgramRun run(const Child& what, const std::string& input,
+               std::map<std::string, std::string> environment) {
     TemporaryFolder folder;
     std::ofstream(folder.file("in"), std::ios::binary) << input;
     environment.try_emplace("XDG_CONFIG_HOME", folder.file("config"));
     environment.try_emplace("XDG_DATA_HOME", folder.file("data"));
     const pid_t child = ::fork();
     if (child < 0) throw std::runtime_error("no process for the program");
-    if (child == 0) become(program, arguments, folder, environment);
+    if (child == 0) become(what, folder, environment);
     int state = 0;
     while (::waitpid(child, &state, 0) < 0 && errno == EINTR) {
     }
-    ProgramRun run;
-    run.status = WIFEXITED(state) ? WEXITSTATUS(state) : -1;
-    run.out = content(folder.file("out"));
-    run.errors = content(folder.file("errors"));
-    return run;
+    ProgramRun seen;
+    seen.status = WIFEXITED(state) ? WEXITSTATUS(state) : -1;
+    seen.out = content(folder.file("out"));
+    seen.errors = content(folder.file("errors"));
+    return seen;
+}
+
+const std::string& built_program() {
+    static const std::string program = std::string(ZF_BINARY_DIR) + "/zhangfang";
+    return program;
+}
+
+} // namespace
+
+ProgramRun run_file(const std::string& program, const std::vector<std::string>& arguments,
+             const std::string& input, std::map<std::string, std::string> environment) {
+    return run({program, arguments, nullptr}, input, std::move(environment));
 }
 
 ProgramRun run_program(const std::vector<std::string>& arguments, const std::string& input,
                 std::map<std::string, std::string> environment) {
-    return run_file(std::string(ZF_BINARY_DIR) + "/zhangfang", arguments, input,
-                    std::move(environment));
+    return run_file(built_program(), arguments, input, std::move(environment));
+}
+
+ProgramRun run_program_as_anybody(const std::vector<std::string>& arguments,
+                                  const std::string& input) {
+    return run({built_program(), arguments, drop_the_rights_of_root}, input, {});
+}
+
+void give_to_anybody(const std::string& path) {
+    if (::geteuid() == 0 && ::chown(path.c_str(), nobody, nobody) != 0)
+        throw std::runtime_error("cannot give away " + path);
 }
 
 } // namespace tests
