@@ -34,6 +34,10 @@ public:
     // Runs one batch in one transaction: with the first error nothing of it stays. Inside begin()
     // the batch joins that transaction, and an error undoes the batch alone.
     virtual Outcome execute_atomically(std::string_view batch, ResultReceiver& receiver) = 0;
+    // Runs one batch that may only read, on the state of one instant; its first error ends it. A
+    // statement that would change the books, or begin or end a transaction, is error 3906
+    // (ErrorCategory::read_only) and is not run; temporary tables of the batch may be written.
+    virtual Outcome read(std::string_view batch, ResultReceiver& receiver) = 0;
 
     // A transaction of the caller that spans batches; takes the right to write at once, so that
     // two sessions cannot both have read what only one may change. rollback() undoes all of it.

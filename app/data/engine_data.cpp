@@ -126,10 +126,16 @@ void EngineData::query(std::string_view sql, host::RowReceiver& receiver) {
     refuse_within_report();
     FirstSet first(receiver);
     const Listening listening(*this, &first.rows());
-    const engines::Outcome outcome = session_.execute(sql, first);
-    if (!outcome.ok() && outcome.error->category == engines::ErrorCategory::interrupted)
+    const engines::Outcome outcome = session_.read(sql, first);
+    if (outcome.ok()) return;
+    switch (outcome.error->category) {
+    case engines::ErrorCategory::interrupted:
         throw host::DataError("查询已取消,显示的内容没有更新!", outcome.error->text);
-    require(outcome);
+    case engines::ErrorCategory::read_only:
+        throw host::DataError("这里只能查询,不能更改帐套的数据,没有执行!请改正公式或条件后再试。",
+                              outcome.error->text, outcome.error->number);
+    default: raise(*outcome.error);
+    }
 }
 
 void EngineData::execute(std::string_view batch, const host::LogEntry& entry) {

@@ -97,6 +97,29 @@ TEST_F(Data, a_statement_that_fails_to_parse_is_an_error_with_a_sentence) {
     EXPECT_THROW(data_.query("SELECT NOTHING FROM D6803", rows), host::DataError);
 }
 
+TEST_F(Data, a_query_changes_nothing_whatever_was_typed_into_it) {
+    const std::string before = value("SELECT COUNT(*) FROM SYS_LOG");
+    Rows rows;
+    for (const char* typed :
+         {"1;DELETE FROM D6803", "1;BEGIN TRAN", "1;COMMIT;DELETE FROM D6803"}) {
+        try {
+            data_.query("select " + std::string(typed) + " as a", rows);
+            FAIL() << typed;
+        } catch (const host::DataError& error) {
+            const std::string shown = error.what();
+            EXPECT_TRUE(shown.starts_with("这里只能查询,不能更改帐套的数据") ||
+                        shown.starts_with("数据库不能执行这条语句"))
+                << shown;
+        }
+        EXPECT_EQ(session_->transaction_depth(), 0) << typed;
+    }
+    EXPECT_THROW(data_.query("DELETE FROM D6803", rows), host::DataError);
+    EXPECT_NE(value("SELECT COUNT(*) FROM D6803"), "0");
+    EXPECT_EQ(value("SELECT COUNT(*) FROM SYS_LOG"), before);
+    insert_summary("丁");
+    EXPECT_EQ(value("SELECT COUNT(*) FROM SYS_LOG"), std::to_string(std::stoi(before) + 1));
+}
+
 TEST_F(Data, a_key_longer_than_the_log_takes_is_cut_and_still_chained) {
     std::string key;
     for (int i = 0; i < 300; ++i) key += "长";

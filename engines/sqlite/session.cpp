@@ -19,6 +19,61 @@ Error error_of(std::string_view batch, const tsql::Refusal& refusal) {
     return error;
 }
 
+Error misunderstood_definition(const tsql::Refusal& refusal) {
+    Error error;
+    error.number = refusal.number;
+    error.category = ErrorCategory::damaged;
+    error.text = std::string("A definition in the books is not understood: ") + refusal.what();
+    return error;
+}
+
+// A transaction that only reads, or none of its own inside the caller's; ended whatever way the
+// block is left.
+class ReadingScope {
+public:
+    ReadingScope(Transactions& transactions, Executor& executor)
+        : transactions_(transactions), executor_(executor), options_(executor.options()),
+          own_(transactions.depth() == 0) {
+        if (own_) transactions_.begin_reading();
+        executor_.set_reading(true);
+    }
+    ~ReadingScope() {
+        executor_.set_reading(false);
+        executor_.options() = options_;
+        try {
+            if (own_ && open_) transactions_.rollback();
+        } catch (const SqliteFailure&) {
+            // SQLite undid it already.
+        }
+    }
+    ReadingScope(const ReadingScope&) = delete;
+    ReadingScope& operator=(const ReadingScope&) = delete;
+
+    void done() {
+        if (own_) transactions_.end_reading();
+        open_ = false;
+    }
+
+private:
+    Transactions& transactions_;
+    Executor& executor_;
+    const SessionOptions options_;
+    const bool own_;
+    bool open_ = true;
+};
+
+// A mark of the running batch.
+class WhileRunning {
+public:
+    WhileRunning(bool& mark, bool value) : mark_(mark) { mark_ = value; }
+    ~WhileRunning() { mark_ = false; }
+    WhileRunning(const WhileRunning&) = delete;
+    WhileRunning& operator=(const WhileRunning&) = delete;
+
+private:
+    bool& mark_;
+};
+
 } // namespace
 
 SqliteSession::SqliteSession(const std::string& books, const OpenOptions& options)
@@ -29,26 +84,39 @@ SqliteSession::SqliteSession(const std::string& books, const OpenOptions& option
                  transactions_}) {
     register_everything(connection_.get(), executor_);
     transactions_.set_read_only(options.read_only);
+    transactions_.set_after_begin([this] { transaction_begun(); });
     transactions_.set_before_commit([this] { run_before_commit(); });
     try {
         if (!options.read_only) objects_.prepare_tables();
         refresh_catalog();
     } catch (const SqliteFailure& failure) {
         throw Failure(explain(failure, nullptr));
-    } catch (const tsql::Refusal& refusal) {
-        Error error;
-        error.number = refusal.number;
-        error.category = ErrorCategory::damaged;
-        error.text = std::string("A definition in the books is not understood: ") + refusal.what();
-        throw Failure(std::move(error));
     }
 }
 
-void SqliteSession::refresh_catalog() {
+bool SqliteSession::refresh_catalog() {
     const std::int64_t version = objects_.version();
-    if (version == known_version_) return;
-    if (version != objects_.saved_version()) objects_.load(catalog_);
+    if (version == known_version_) return false;
+    const bool by_others = version != objects_.saved_version();
+    try {
+        if (by_others) objects_.load(catalog_);
+    } catch (const tsql::Refusal& refusal) {
+        throw Failure(misunderstood_definition(refusal));
+    }
     known_version_ = version;
+    return by_others;
+}
+
+// Nobody else changes definitions from here on: what is compiled now fits the tables it will meet.
+// What was compiled before must not run on others.
+void SqliteSession::transaction_begun() {
+    if (!refresh_catalog() || !compiled_outside_) return;
+    Error error;
+    error.number = 2801;
+    error.category = ErrorCategory::busy;
+    error.text = "The definitions of the books were changed after the batch was compiled. Run it "
+                 "again.";
+    throw Failure(std::move(error));
 }
 
 void SqliteSession::run_before_commit() {
@@ -74,7 +142,9 @@ Outcome SqliteSession::compile_and_run(std::string_view batch, ResultReceiver& r
                                        bool contained) {
     Outcome outcome;
     try {
-        if (transactions_.depth() == 0) refresh_catalog();
+        const bool outside = transactions_.depth() == 0;
+        if (outside) refresh_catalog();
+        const WhileRunning compiled_outside(compiled_outside_, outside);
         const tsql::CompiledBatch compiled = compiler_.compile(batch);
         outcome = executor_.run(compiled, receiver, contained);
         return outcome;
@@ -138,6 +208,18 @@ Outcome SqliteSession::execute_atomically(std::string_view batch, ResultReceiver
         receiver.error(*outcome.error);
     }
     return outcome;
+}
+
+Outcome SqliteSession::read(std::string_view batch, ResultReceiver& receiver) {
+    Outcome outcome;
+    const Outcome framed = guarded([&] {
+        ReadingScope scope(transactions_, executor_);
+        outcome = compile_and_run(batch, receiver, true);
+        if (outcome.ok()) scope.done();
+    });
+    if (framed.ok()) return outcome;
+    receiver.error(*framed.error);
+    return framed;
 }
 
 Outcome SqliteSession::begin() {

@@ -13,6 +13,7 @@ public:
 
     Outcome execute(std::string_view batch, ResultReceiver& receiver) override;
     Outcome execute_atomically(std::string_view batch, ResultReceiver& receiver) override;
+    Outcome read(std::string_view batch, ResultReceiver& receiver) override;
     Outcome begin() override;
     Outcome commit() override;
     void rollback() override;
@@ -28,7 +29,9 @@ public:
 private:
     Outcome compile_and_run(std::string_view batch, ResultReceiver& receiver, bool contained);
     Outcome guarded(const std::function<void()>& action);
-    void refresh_catalog();
+    // Whether definitions were read anew.
+    bool refresh_catalog();
+    void transaction_begun();
     void run_before_commit();
 
     const OpenOptions options_;
@@ -41,6 +44,7 @@ private:
     StatementCache statements_;
     Executor executor_;
     std::int64_t known_version_ = 0;
+    bool compiled_outside_ = false; // the running batch was compiled before any transaction began
     StatementHandle data_version_;
 };
 

@@ -56,6 +56,8 @@ public:
     SessionOptions& options() { return options_; }
     std::atomic<bool>& interrupted() { return interrupted_; }
     ProgressMeter& progress() { return progress_; }
+    // While set, statements that would change the books or end the transaction are refused.
+    void set_reading(bool reading) { reading_ = reading; }
     void set_clock(std::optional<std::int64_t> day) { clock_day_ = day; }
     void set_person(Person person) { person_ = std::move(person); }
 
@@ -78,6 +80,7 @@ private:
     void report(const Error& error);
     Error explained(const SqliteFailure& failure);
     void check_interrupted();
+    void refuse_while_reading() const;
     bool propagates() const { return catchers_ > 0; }
 
     // run_query.cpp
@@ -170,6 +173,7 @@ private:
     std::map<std::string, int, tsql::NameLess> capturing_; // tables whose triggers are running
     bool trigger_undone_ = false;                          // a trigger rolled the transaction back
     bool contained_ = false; // an error ends the batch and leaves the undoing to the caller
+    bool reading_ = false;   // see set_reading
     tsql::LineColumn at_;    // of the running step
     std::optional<std::int64_t> now_;
 

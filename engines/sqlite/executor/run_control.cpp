@@ -55,6 +55,7 @@ Flow Executor::attempt(const tsql::TryStep& step) {
 Flow Executor::transaction(const tsql::RollbackStep& step) {
     Transactions& transactions = parts_.transactions;
     unchanged_.reset();
+    refuse_while_reading();
     if (transactions.depth() == 0)
         raise_error(3903,
                     "The ROLLBACK TRANSACTION request has no corresponding BEGIN TRANSACTION.");

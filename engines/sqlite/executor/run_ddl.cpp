@@ -46,6 +46,7 @@ std::string with_constants(std::string text, const std::vector<std::string>& con
 
 Flow Executor::ddl(const tsql::Ddl& ddl) {
     unchanged_.reset();
+    if (!ddl.change.temporary) refuse_while_reading();
     StatementScope scope(parts_.transactions, true);
     std::vector<std::string> constants;
     for (const tsql::SqlQuery& query : ddl.constants) {

@@ -17,6 +17,11 @@ StatementVerb verb_of(tsql::DmlKind kind) {
     return StatementVerb::other;
 }
 
+// Names of temporary tables and table variables begin with a mark of their own.
+bool is_temporary(const std::string& table) {
+    return table.starts_with('#') || table.starts_with('@');
+}
+
 bool is_duplicate(const Error& error) {
     return error.number == 2627 || error.number == 2601;
 }
@@ -24,6 +29,7 @@ bool is_duplicate(const Error& error) {
 } // namespace
 
 Flow Executor::dml(const tsql::SqlDml& dml) {
+    if (!is_temporary(dml.table)) refuse_while_reading();
     if (parts_.transactions.doomed())
         raise_error(3930, "The current transaction cannot be committed and cannot support "
                           "operations that write to the log file. Roll back the transaction.");

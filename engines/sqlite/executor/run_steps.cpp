@@ -62,6 +62,12 @@ void Executor::check_interrupted() {
     throw Failure(error);
 }
 
+void Executor::refuse_while_reading() const {
+    if (reading_)
+        raise_error(3906, "The batch may only read; a statement that changes the books or their "
+                          "transaction is not run.");
+}
+
 Flow Executor::run_steps(const tsql::Steps& steps) {
     for (const tsql::Step& step : steps) {
         const Flow flow = run_step(step);
@@ -119,6 +125,7 @@ void Executor::report(const Error& error) {
 Flow Executor::dispatch(const tsql::Step& step) {
     Transactions& transactions = parts_.transactions;
     const auto quiet = [&](const auto& action) {
+        refuse_while_reading();
         action();
         row_count_ = 0;
         last_error_ = 0;

@@ -25,13 +25,23 @@ void Transactions::run(StatementHandle& statement, const char* text) {
     sqlite3_reset(statement.get());
 }
 
-void Transactions::start() {
-    run(begin_, read_only_ ? "BEGIN" : "BEGIN IMMEDIATE");
+void Transactions::start(StatementHandle& statement, const char* text) {
+    run(statement, text);
     // Another connection may have given numbers meanwhile.
     identities_.forget();
+    try {
+        if (after_begin_) after_begin_();
+    } catch (...) {
+        run(rollback_, "ROLLBACK");
+        throw;
+    }
     at_begin_ = catalog_.state();
     doomed_ = false;
     savepoints_.clear();
+}
+
+void Transactions::start_writing() {
+    start(begin_, read_only_ ? "BEGIN" : "BEGIN IMMEDIATE");
 }
 
 void Transactions::finish() {
@@ -43,8 +53,19 @@ void Transactions::finish() {
 }
 
 void Transactions::begin() {
-    if (depth_ == 0) start();
+    if (depth_ == 0) start_writing();
     ++depth_;
+}
+
+void Transactions::begin_reading() {
+    start(begin_reading_, "BEGIN");
+    depth_ = 1;
+}
+
+void Transactions::end_reading() {
+    run(commit_, "COMMIT");
+    depth_ = 0;
+    savepoints_.clear();
 }
 
 void Transactions::commit() {
@@ -111,7 +132,7 @@ bool Transactions::lost() {
 StatementScope::StatementScope(Transactions& transactions, bool undoable)
     : transactions_(transactions) {
     if (transactions.depth_ == 0) {
-        transactions.start();
+        transactions.start_writing();
         transactions.depth_ = 1;
         implicit_ = true;
         return;

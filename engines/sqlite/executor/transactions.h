@@ -23,12 +23,18 @@ public:
     // A transaction that can only be undone: an error under XACT_ABORT was caught by TRY.
     bool doomed() const { return doomed_; }
     void doom() { doomed_ = depth_ > 0; }
+    // Runs inside every transaction just after it began; what it throws undoes the beginning.
+    void set_after_begin(std::function<void()> action) { after_begin_ = std::move(action); }
     // Runs inside the transaction just before its commit.
     void set_before_commit(std::function<void()> action) { before_commit_ = std::move(action); }
     // A reader's transaction does not take the right to write.
     void set_read_only(bool read_only) { read_only_ = read_only; }
 
     void begin();
+    // A transaction that sees the state of one instant and does not take the right to write; the
+    // caller sees to it that nothing but temporary tables is written in it.
+    void begin_reading();
+    void end_reading();
     // Error 3902 without a transaction, 3930 when it is doomed.
     void commit();
     void rollback();
@@ -48,7 +54,8 @@ private:
         tsql::Catalog::State catalog;
     };
 
-    void start();
+    void start(StatementHandle& statement, const char* text);
+    void start_writing();
     void finish();
     void run(StatementHandle& statement, const char* text);
     void forget_savepoints(std::size_t keep) {
@@ -58,6 +65,7 @@ private:
     sqlite3* connection_;
     tsql::Catalog& catalog_;
     Identities& identities_;
+    std::function<void()> after_begin_;
     std::function<void()> before_commit_;
     int depth_ = 0;
     int numbers_ = 0;
@@ -66,6 +74,7 @@ private:
     tsql::Catalog::State at_begin_;
     std::vector<Savepoint> savepoints_;
     StatementHandle begin_;
+    StatementHandle begin_reading_;
     StatementHandle commit_;
     StatementHandle rollback_;
 };
