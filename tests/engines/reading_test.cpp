@@ -50,7 +50,8 @@ TEST_F(Reading, every_kind_of_change_is_refused_and_nothing_is_done) {
          {"INSERT INTO T VALUES (4,'a')", "UPDATE T SET V='a'", "DELETE FROM T",
           "TRUNCATE TABLE T", "SELECT 1; DELETE FROM T", "EXEC P", "EXEC('DELETE FROM T')",
           "EXEC sp_executesql N'DELETE FROM T'", "SELECT ID INTO N FROM T",
-          "CREATE TABLE N (A int)", "DROP TABLE T", "DROP VIEW W", "ALTER TABLE T ADD X int", "CREATE INDEX I ON T (V)"}) {
+          "CREATE TABLE N (A int)", "DROP TABLE T", "DROP VIEW W", "ALTER TABLE T ADD X int",
+          "CREATE INDEX I ON T (V)"}) {
         const engines::Outcome outcome = read(*session_, batch);
         ASSERT_FALSE(outcome.ok()) << batch;
         EXPECT_EQ(outcome.error->number, 3906) << batch;
