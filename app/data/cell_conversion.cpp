@@ -1,8 +1,12 @@
 // Types and units: ten-thousandths, milliseconds since 1970.
 #include "app/data/cell_conversion.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdio>
 #include <limits>
+#include <string_view>
 
 #include "engines/value_text.h"
 #include "host/values/errors.h"
@@ -44,6 +48,33 @@ std::int64_t ten_thousandths(Int128 unscaled, int scale) {
     const Int128 magnitude = rest < 0 ? -rest : rest;
     if (magnitude >= divisor - magnitude) quotient += unscaled < 0 ? -1 : 1;
     return narrowed(quotient);
+}
+
+// Digits behind the fourth decimal that are not all zero.
+bool finer_than_an_amount(Int128 unscaled, int scale) {
+    Int128 divisor = 1;
+    for (; scale > amount_decimals; --scale) divisor *= 10;
+    return unscaled % divisor != 0;
+}
+
+// The fifteen digits that a floating-point number is good for, without an exponent: 0.1 and not
+// 0.1000000000000000056.
+void write_plain_real(double value, std::string& out) {
+    constexpr int good_digits = 15, most_decimals = 30;
+    const int whole_digits =
+        value == 0 ? 1 : static_cast<int>(std::floor(std::log10(std::abs(value)))) + 1;
+    const int decimals = std::clamp(good_digits - whole_digits, 0, most_decimals);
+    std::array<char, 64> text{};
+    std::snprintf(text.data(), text.size(), "%.*f", decimals, value);
+    out = text.data();
+}
+
+// "0.25" of "0.2500", "7" of "7.000".
+std::string_view without_idle_zeros(std::string_view digits) {
+    if (digits.find('.') == std::string_view::npos) return digits;
+    while (digits.back() == '0') digits.remove_suffix(1);
+    if (digits.back() == '.') digits.remove_suffix(1);
+    return digits;
 }
 
 // No column of the books is a floating-point number; an expression that somebody types may be.
@@ -96,8 +127,16 @@ host::CellView view_of(const engines::Value& value, std::string& storage) {
         case ValueKind::integer: view.integer = value.as_integer(); break;
         case ValueKind::decimal:
             view.integer = ten_thousandths(value.unscaled(), value.scale());
+            if (!finer_than_an_amount(value.unscaled(), value.scale())) break;
+            storage.clear();
+            engines::append_text(value, storage);
+            view.text = without_idle_zeros(storage);
             break;
-        case ValueKind::real: view.integer = ten_thousandths_of_real(value.as_real()); break;
+        case ValueKind::real:
+            view.integer = ten_thousandths_of_real(value.as_real());
+            write_plain_real(value.as_real(), storage);
+            view.text = without_idle_zeros(storage);
+            break;
         case ValueKind::datetime:
         case ValueKind::smalldatetime: view.integer = milliseconds_of(value.as_integer()); break;
         case ValueKind::date:

@@ -38,6 +38,21 @@ TEST(CellConversion, decimals_become_ten_thousandths_rounded_half_away_from_zero
             << row.unscaled << " scale " << row.scale;
 }
 
+TEST(CellConversion, an_amount_finer_than_ten_thousandths_is_told_in_full_besides) {
+    const auto text_of = [](const Value& value) {
+        std::string storage;
+        return std::string(view_of(value, storage).text);
+    };
+    EXPECT_EQ(text_of(Value::decimal(333333, 6)), "0.333333");
+    EXPECT_EQ(text_of(Value::decimal(-123456700, 8)), "-1.234567");
+    EXPECT_EQ(text_of(Value::decimal(12345600, 7)), "1.23456");
+    EXPECT_EQ(text_of(Value::decimal(1234500, 6)), ""); // an amount holds it
+    EXPECT_EQ(text_of(Value::real(1.0 / 3)), "0.333333333333333");
+    EXPECT_EQ(text_of(Value::real(0.1 + 0.2)), "0.3");
+    EXPECT_EQ(text_of(Value::real(80)), "80");
+    EXPECT_EQ(text_of(Value::real(0)), "0");
+}
+
 TEST(CellConversion, a_number_beyond_an_amount_is_refused_and_not_bent) {
     engines::Int128 big = 1;
     for (int i = 0; i < 17; ++i) big *= 10;

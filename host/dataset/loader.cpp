@@ -20,6 +20,15 @@ Value cell_value(const CellView& cell, FieldType type) {
     }
 }
 
+// The cell for a field of another type. A number keeps all its digits as a text, also those that
+// an amount has no room for.
+std::optional<Value> fitting_value(const CellView& cell, FieldType answered, FieldType wanted) {
+    if (wanted == FieldType::Text && answered == FieldType::Amount && !cell.null &&
+        !cell.text.empty())
+        return Value{std::string(cell.text)};
+    return converted(cell_value(cell, answered), wanted);
+}
+
 // A join may answer a name twice and an expression none: "KM_ID", "KM_ID_1", "COLUMN3".
 void make_names_unique(std::vector<ColumnDescription>& columns) {
     for (std::size_t i = 0; i < columns.size(); ++i) {
@@ -60,15 +69,14 @@ void DataSetLoader::row(const std::vector<CellView>& cells) {
     }
     const Slot row = rows_.append();
     for (std::size_t i = 0; i < cells.size(); ++i) {
-        Value value = cell_value(cells[i], answered_[i].type);
-        if (converts_[i]) {
-            const auto fitting = converted(value, rows_.type(static_cast<int>(i)));
-            if (!fitting)
-                throw DataError("数据库中“" + answered_[i].name + "”的内容不符合应有的类型，无法读取。",
-                                "value does not fit the field: " + to_text(value));
-            value = *fitting;
-        }
-        if (!is_null(value)) rows_.set(row, static_cast<int>(i), value);
+        const FieldType answered = answered_[i].type;
+        std::optional<Value> value = cell_value(cells[i], answered);
+        if (converts_[i]) value = fitting_value(cells[i], answered, rows_.type(static_cast<int>(i)));
+        if (!value)
+            throw DataError("数据库中“" + answered_[i].name + "”的内容不符合应有的类型，无法读取。",
+                            "value does not fit the field: " +
+                                to_text(cell_value(cells[i], answered)));
+        if (!is_null(*value)) rows_.set(row, static_cast<int>(i), *value);
     }
 }
 

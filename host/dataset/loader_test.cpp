@@ -40,6 +40,20 @@ TEST(Loader, fields_defined_before_keep_type_format_and_handlers) {
     EXPECT_EQ(rows.FieldByName("KM_ID").Size, 50);
 }
 
+TEST(Loader, a_text_field_takes_a_number_with_all_its_digits) {
+    TClientDataSet rows;
+    rows.DefineField("A", FieldType::Text);
+    rows.DefineField("B", FieldType::Text);
+    const auto loader = rows.loader();
+    loader->columns({{"A", FieldType::Amount}, {"B", FieldType::Amount}});
+    CellView third = number_cell(3333);
+    third.text = "0.333333";
+    loader->row({third, number_cell(25000)});
+    loader->commit();
+    EXPECT_EQ(rows.FieldByName("A").AsText(), "0.333333");
+    EXPECT_EQ(rows.FieldByName("B").AsText(), "2.5");
+}
+
 TEST(Loader, fields_of_the_query_before_go_with_it) {
     TClientDataSet rows;
     auto loader = rows.loader();

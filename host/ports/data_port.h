@@ -22,7 +22,7 @@ struct CellView {
     bool null = true;
     // Integer; Boolean 0/1; Amount in ten-thousandths; DateTime in ms since 1970-01-01.
     std::int64_t integer = 0;
-    std::string_view text;    // Text
+    std::string_view text; // Text; an Amount in full where it is finer than ten-thousandths
 };
 class RowReceiver {
 public:

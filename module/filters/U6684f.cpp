@@ -6,11 +6,18 @@
 
 namespace module {
 
+namespace {
+
+constexpr std::int64_t last_number = 9999;
+
+} // namespace
+
 // ---- opening ----
 
-TF6684F::TF6684F(TForm* parent) : VoucherRangeFilter(parent, 9999) {
+TF6684F::TF6684F(TForm* parent) : VoucherRangeFilter(parent, last_number) {
     Caption = "科目汇总表 · 查询条件";
     PZZ_H1.Min = PZZ_H2.Min = Amount::from_whole(1);
+    PZZ_H1.Max = PZZ_H2.Max = Amount::from_whole(last_number);
     std::vector<LayoutNode> rows = range_rows();
     rows.insert(rows.end(), {posting_row(), Buttons({&btn_ok, &btn_Cancel})});
     layout = Rows(rows);

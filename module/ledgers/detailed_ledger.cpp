@@ -25,6 +25,7 @@ DetailedLedger::DetailedLedger(TForm* parent, const DetailedLedgerKind& kind)
     AddAmountColumn("D", "贷方金额");
     add_own_column(kind.before_balance);
     AddAmountColumn("E", "余额");
+    if (kind.before_balance.field == nullptr) AddColumn("FX", "方向").Visible = false;
     add_group_column("KM_ID", "科目");
     add_group_column("KM_NAME", "会计科目");
     AdoQry_Main.DefineField("BDATE", FieldType::DateTime).DisplayFormat = "yyyy-mm-dd";

@@ -28,6 +28,16 @@ private:
     bool& quiet_;
 };
 
+// Nothing counts as 0.00. Rounded once: which cent is the nearest is settled by the third decimal,
+// so that 2.34499 is 2.34 and not 2.35 by way of 2.345.
+std::optional<std::string> with_two_decimals(const std::string& number) {
+    if (trimmed(number).empty()) return "0.00";
+    if (!Amount::parse(number)) return std::nullopt;
+    const std::size_t point = number.find('.');
+    const bool finer = point != std::string::npos;
+    return Amount::parse(finer ? number.substr(0, point + 4) : number)->to_text(2);
+}
+
 } // namespace
 
 // A formula the database could not reckon, in the current line.
@@ -101,18 +111,14 @@ void StatementForm::reckon(const StatementColumn& column, const std::string& for
                                       ? error.what()
                                       : error.what() + ("\n" + error.cause)};
     }
-    const Value answer = work_.IsEmpty() ? Value{} : work_.Fields().front()->AsValue();
-    if (kind_.two_decimals && !converted(answer, FieldType::Amount))
-        throw CellFailure{column, "结果“" + to_text(answer) + "”不是数字!"};
+    std::string amount = work_.IsEmpty() ? "" : work_.Fields().front()->AsText();
+    if (kind_.two_decimals) {
+        const auto rounded = with_two_decimals(amount);
+        if (!rounded) throw CellFailure{column, "结果“" + amount + "”不是数字!"};
+        amount = *rounded;
+    }
     AdoQry_Main.Edit();
-    AdoQry_Main.FieldByName(column.field).SetValue(amount_text());
-}
-
-// Nothing counts as 0.00 where amounts have two decimals, and stays empty elsewhere.
-std::string StatementForm::amount_text() {
-    if (work_.IsEmpty()) return kind_.two_decimals ? "0.00" : "";
-    const TField& answer = *work_.Fields().front();
-    return kind_.two_decimals ? answer.AsAmount().to_text(2) : answer.AsText();
+    AdoQry_Main.FieldByName(column.field).SetValue(amount);
 }
 
 void StatementForm::tell_failure(const CellFailure& failure) {

@@ -40,6 +40,7 @@ StatementForm::StatementForm(TForm* parent, const StatementKind& kind)
     CellName.Bold = true;
     CellName.FontColor = blue;
     rb1.OnClick = rb2.OnClick = [this] { rb1Click(); };
+    work_.DefineField("a", FieldType::Text); // all digits of what a formula gives
     add_columns();
     for (const FieldLabel& one : kind.labels)
         AdoQry_Main.DefineField(one.field, FieldType::Text, one.size).DisplayLabel = one.label;

@@ -59,7 +59,6 @@ private:
     bool tell_progress(int pass, int lines_done) const; // false when the person asks to stop
     bool is_due(const std::string& formula, int pass) const;
     void reckon(const StatementColumn& column, const std::string& formula);
-    std::string amount_text();
     [[noreturn]] void tell_failure(const CellFailure& failure);
     std::string item_of(const StatementColumn& column) const;
 

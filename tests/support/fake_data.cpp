@@ -1,6 +1,7 @@
 // A database that knows its answers by heart, for tests of one form without books.
 #include "tests/support/fake_data.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "host/values/errors.h"
@@ -43,7 +44,10 @@ host::CellView cell_of(host::FieldType type, const std::string& text) {
     case host::FieldType::Text: cell.text = text; break;
     case host::FieldType::Integer:
     case host::FieldType::Boolean: cell.integer = std::stoll(text); break;
-    case host::FieldType::Amount: cell.integer = host::Amount::parse(text).value().units(); break;
+    case host::FieldType::Amount:
+        cell.integer = host::Amount::parse(text).value().units();
+        if (text.size() - std::min(text.find('.'), text.size()) > 5) cell.text = text;
+        break;
     case host::FieldType::DateTime: {
         const host::DateTime moment = host::DateTime::parse(text).value();
         cell.integer = moment.date.days() * milliseconds_a_day + moment.milliseconds;

@@ -10,7 +10,7 @@
 namespace tests {
 
 // Columns are declared "NAME kind" with kind text, int, money, bit or date; cells are plain text,
-// "<null>" for NULL. A query is answered by the first entry whose beginning it has, blanks at its
+// "<null>" for NULL, money as fine as wished. A query is answered by the first entry whose beginning it has, blanks at its
 // front ignored; a query nobody prepared throws host::DataError naming it.
 //
 //     FakeData data;

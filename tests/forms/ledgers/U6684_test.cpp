@@ -51,6 +51,12 @@ TEST_F(AccountSummary, offers_the_current_period_and_all_numbers) {
     EXPECT_EQ(anna.value("PZZ_H1"), "1");
     EXPECT_EQ(anna.value("PZZ_H2"), "9999");
     EXPECT_TRUE(anna.checked("R1"));
+    for (const char* number : {"PZZ_H1", "PZZ_H2"}) {
+        for (const char* outside : {"0", "10000"}) {
+            anna.cannot_set(number, outside);
+            EXPECT_TRUE(anna.next_message().ends_with("请录入 1 到 9999 之间的数字。"));
+        }
+    }
     bool asked = false;
     for (const std::string& text : anna.sent_texts())
         asked = asked || text == "SELECT id,param  FROM d6600 where id=3";

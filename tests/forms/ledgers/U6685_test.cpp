@@ -1,42 +1,16 @@
 // The detailed ledger: its conditions word for word, its rows, the way to the voucher and back.
 #include "host/controls/grid.h"
 #include "host/forms/form.h"
-#include "tests/forms/form_desk.h"
-#include "tests/forms/ledgers/ledger_answers.h"
-#include "tests/forms/small_books.h"
+#include "tests/forms/ledgers/book_desk.h"
 
 namespace tests {
 namespace {
 
 const std::string no_conditions = "您还没选择任何查询参数,请按【F3】呼出查询选项!";
 
-class DetailedLedger : public FormDesk {
+class DetailedLedger : public BookDesk {
 protected:
-    DetailedLedger() : FormDesk(685) {}
-    void SetUp() override {
-        answer_as_small_books(data);
-        answer_detailed_ledger(data);
-    }
-    void periods_of_the_books(const std::string& current, const std::string& first) {
-        data.answer("SELECT param,(SELECT param  FROM d6600", {"param text", "fqj text"},
-                    {{current, first}});
-    }
-    // The person with the rows before him.
-    Person& at_the_ledger() {
-        Person& anna = person();
-        anna.click("btn_ok");
-        anna.expect_active("TF6685");
-        return anna;
-    }
-    int current_row() {
-        int row = 0;
-        person().inside([&row] {
-            auto* form = host::the_host().active;
-            auto* grid = dynamic_cast<host::TDBGridEh*>(form->FindComponent("DBGridEh"));
-            row = grid->DataSet->RecNo();
-        });
-        return row;
-    }
+    DetailedLedger() : BookDesk(685) {}
 };
 
 // ---- the dialog
@@ -113,10 +87,7 @@ TEST_F(DetailedLedger, a_quote_in_a_code_stays_inside_its_text) {
 }
 
 TEST_F(DetailedLedger, the_periods_run_forward_and_lie_within_the_books) {
-    struct Attempt {
-        const char *year, *first, *last, *verdict;
-    };
-    const Attempt attempts[] = {
+    try_periods({
         {"2024", "3", "3", ""},
         {"2024", "1", "12", ""},
         {"2024", "5", "3", "会计期间开始大于结束!"},
@@ -124,28 +95,11 @@ TEST_F(DetailedLedger, the_periods_run_forward_and_lie_within_the_books) {
         {"2024", "4", "4", "开始期间不能 大于 当前会计期间!当前会计期间:2024-03"},
         {"2024", "10", "10", "开始期间不能 大于 当前会计期间!当前会计期间:2024-03"},
         {"2023", "12", "12", "开始期间不能 小于 帐套启用日期!帐套启用日期为:2024-01"},
-    };
-    for (const Attempt& attempt : attempts) {
-        leave();
-        Person& anna = person();
-        anna.set("EDT1", attempt.year);
-        anna.set("EDT2", attempt.first);
-        anna.set("EDT3", attempt.last);
-        anna.mark();
-        anna.click("btn_ok");
-        if (!*attempt.verdict) {
-            anna.expect_active("TF6685");
-            continue;
-        }
-        anna.expect_message(attempt.verdict);
-        anna.expect_active("TF6685F");
-        EXPECT_EQ(anna.focused(), "EDT2");
-        EXPECT_TRUE(anna.sent_texts().empty());
-    }
+    });
 }
 
 TEST_F(DetailedLedger, books_that_were_not_set_up_have_none) {
-    answer_current_period(data, "");
+    periods_of_the_books("", "");
     Person& anna = person();
     anna.expect_message("读取会计期间错误!请确认是否进行初始建帐!");
     EXPECT_FALSE(anna.enabled("btn_ok"));
@@ -174,7 +128,7 @@ TEST_F(DetailedLedger, an_account_may_be_picked_by_code_name_or_pinyin) {
 // ---- the rows
 
 TEST_F(DetailedLedger, its_columns_stand_in_the_customary_order) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     EXPECT_EQ(columns_shown(),
               "BDATE 凭证日期, PZZ 凭证字, ZY 摘要, J 借方金额, D 贷方金额, FX 方向, "
               "E 余额");
@@ -182,7 +136,7 @@ TEST_F(DetailedLedger, its_columns_stand_in_the_customary_order) {
 }
 
 TEST_F(DetailedLedger, openings_and_totals_are_blue_and_amounts_below_zero_red) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     const int blue = 0xFF0000, red = 255;
     for (const int row : {0, 3, 4, 5, 7, 8}) {
         for (const char* field : {"ZY", "J", "E"}) {
@@ -195,7 +149,7 @@ TEST_F(DetailedLedger, openings_and_totals_are_blue_and_amounts_below_zero_red) 
 }
 
 TEST_F(DetailedLedger, tab_goes_from_account_to_account) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     EXPECT_EQ(current_row(), 0);
     EXPECT_EQ(anna.value("AccountLabel"), "1001  现金");
     anna.key("Tab", "DBGridEh");
@@ -208,7 +162,7 @@ TEST_F(DetailedLedger, tab_goes_from_account_to_account) {
 }
 
 TEST_F(DetailedLedger, the_accounts_listed_beside_lead_to_their_rows) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     const Rows groups = anna.rows("GroupGrid");
     ASSERT_EQ(groups.size(), 2U);
     EXPECT_EQ(groups[0].at("KM_ID"), "1001");
@@ -221,7 +175,7 @@ TEST_F(DetailedLedger, the_accounts_listed_beside_lead_to_their_rows) {
 }
 
 TEST_F(DetailedLedger, enter_on_an_account_goes_on_to_its_lines) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     anna.row(1, "GroupGrid");
     anna.key("Enter", "GroupGrid");
     EXPECT_EQ(anna.focused(), "DBGridEh");
@@ -229,7 +183,7 @@ TEST_F(DetailedLedger, enter_on_an_account_goes_on_to_its_lines) {
 }
 
 TEST_F(DetailedLedger, read_anew_it_shows_the_same_line) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     anna.row(6);
     anna.key("F5", "DBGridEh");
     EXPECT_EQ(current_row(), 6);
@@ -244,7 +198,7 @@ TEST_F(DetailedLedger, read_anew_it_shows_the_same_line) {
 }
 
 TEST_F(DetailedLedger, a_click_on_a_title_leaves_the_rows_in_their_order) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     anna.inside([] {
         auto* form = host::the_host().active;
         dynamic_cast<host::TDBGridEh*>(form->FindComponent("DBGridEh"))->title_click(3);
@@ -252,8 +206,18 @@ TEST_F(DetailedLedger, a_click_on_a_title_leaves_the_rows_in_their_order) {
     EXPECT_EQ(anna.rows()[1].at("PZZ"), "记-7");
 }
 
+TEST_F(DetailedLedger, asked_again_it_offers_the_current_period_and_keeps_the_accounts) {
+    Person& anna = person();
+    anna.set("EDT2", "1");
+    anna.set("KM1", "1001");
+    anna.click("btn_ok");
+    anna.key("F3");
+    EXPECT_EQ(anna.value("EDT2"), "3");
+    EXPECT_EQ(anna.value("KM1"), "1001");
+}
+
 TEST_F(DetailedLedger, space_and_F3_ask_again_and_cancel_changes_nothing) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     for (const char* key : {"Space", "F3"}) {
         anna.key(key, "DBGridEh");
         anna.expect_active("TF6685F");
@@ -270,7 +234,7 @@ TEST_F(DetailedLedger, space_and_F3_ask_again_and_cancel_changes_nothing) {
 // ---- the way to the voucher and back
 
 TEST_F(DetailedLedger, a_double_click_opens_the_voucher_and_closing_it_leads_back) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     anna.double_click(1, "ZY");
     anna.expect_active("TF6661_1");
     EXPECT_EQ(anna.value("PZZ_H"), "7");
@@ -282,7 +246,7 @@ TEST_F(DetailedLedger, a_double_click_opens_the_voucher_and_closing_it_leads_bac
 }
 
 TEST_F(DetailedLedger, a_posted_voucher_is_shown_and_cannot_be_changed) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     anna.double_click(2, "ZY");
     anna.expect_active("TF6661_1");
     EXPECT_EQ(anna.value("PZZ_H"), "8");
@@ -291,7 +255,7 @@ TEST_F(DetailedLedger, a_posted_voucher_is_shown_and_cannot_be_changed) {
 }
 
 TEST_F(DetailedLedger, an_opening_or_a_total_belongs_to_no_voucher) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     for (const int row : {0, 4}) {
         anna.double_click(row, "ZY");
         anna.expect_active("TF6685");
@@ -309,7 +273,7 @@ TEST_F(DetailedLedger, a_voucher_deleted_meanwhile_is_told) {
                 {"NOID text", "PZQJ text", "PZZ text", "PZZ_H int", "PZZ_Z int", "BDATE date",
                  "T int", "D bit", "USER_NAME text"},
                 {});
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     anna.double_click(0, "ZY");
     anna.expect_message("凭证 2024-03记009 已不存在，请按 F5 刷新帐簿!");
     anna.expect_active("TF6685");

@@ -1,26 +1,13 @@
 // The general ledger: its conditions word for word, the way to the lines behind a balance.
 #include "host/forms/form.h"
-#include "tests/forms/form_desk.h"
-#include "tests/forms/ledgers/ledger_answers.h"
-#include "tests/forms/small_books.h"
+#include "tests/forms/ledgers/book_desk.h"
 
 namespace tests {
 namespace {
 
-class GeneralLedger : public FormDesk {
+class GeneralLedger : public BookDesk {
 protected:
-    GeneralLedger() : FormDesk(686) {}
-    void SetUp() override {
-        answer_as_small_books(data);
-        answer_general_ledger(data);
-        answer_detailed_ledger(data);
-    }
-    Person& at_the_ledger() {
-        Person& anna = person();
-        anna.click("btn_ok");
-        anna.expect_active("TF6686");
-        return anna;
-    }
+    GeneralLedger() : BookDesk(686) {}
 };
 
 // ---- the dialog
@@ -70,30 +57,12 @@ TEST_F(GeneralLedger, accounts_without_turnover_are_shown_unless_ticked_and_the_
 }
 
 TEST_F(GeneralLedger, the_periods_run_forward_and_lie_within_the_books) {
-    struct Attempt {
-        const char *year, *first, *last, *verdict;
-    };
-    const Attempt attempts[] = {
+    try_periods({
         {"2024", "3", "3", ""},
         {"2024", "5", "3", "会计期间开始 大于 结束!"},
         {"2024", "4", "4", "开始期间不能 大于 当前会计期间!当前会计期间:2024-03"},
         {"2023", "12", "12", "开始期间不能 小于 帐套启用日期!帐套启用日期为:2024-01"},
-    };
-    for (const Attempt& attempt : attempts) {
-        leave();
-        Person& anna = person();
-        anna.set("EDT1", attempt.year);
-        anna.set("EDT2", attempt.first);
-        anna.set("EDT3", attempt.last);
-        anna.click("btn_ok");
-        if (!*attempt.verdict) {
-            anna.expect_active("TF6686");
-            continue;
-        }
-        anna.expect_message(attempt.verdict);
-        anna.expect_active("TF6686F");
-        EXPECT_EQ(anna.focused(), "EDT2");
-    }
+    });
 }
 
 TEST_F(GeneralLedger, cancelled_it_shows_nothing_and_refresh_says_why) {
@@ -107,13 +76,13 @@ TEST_F(GeneralLedger, cancelled_it_shows_nothing_and_refresh_says_why) {
 // ---- the rows
 
 TEST_F(GeneralLedger, its_columns_stand_in_the_customary_order) {
-    at_the_ledger();
+    at_the_book();
     EXPECT_EQ(columns_shown(), "KM_ID 科目, KM_NAME 会计科目, QJ 期间, ZY 摘要, J 借方金额, "
                                "D 贷方金额, FX 方向, E 余额");
 }
 
 TEST_F(GeneralLedger, only_amounts_below_zero_are_coloured) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     EXPECT_TRUE(anna.colors(0).is_null());
     EXPECT_EQ(anna.colors(4).at("E").at("font"), 255);
     EXPECT_FALSE(anna.colors(4).contains("D"));
@@ -121,7 +90,7 @@ TEST_F(GeneralLedger, only_amounts_below_zero_are_coloured) {
 }
 
 TEST_F(GeneralLedger, tab_passes_by_the_periods_of_an_account) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     anna.key("Tab", "DBGridEh");
     EXPECT_EQ(anna.value("AccountLabel"), "1131  应收帐款");
     anna.key("Tab", "DBGridEh");
@@ -131,7 +100,7 @@ TEST_F(GeneralLedger, tab_passes_by_the_periods_of_an_account) {
 // ---- the way down and back
 
 TEST_F(GeneralLedger, a_double_click_asks_for_the_lines_of_that_account_and_period) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     anna.mark();
     anna.double_click(1, "J");
     anna.expect_active("TF6685");
@@ -146,7 +115,7 @@ TEST_F(GeneralLedger, a_double_click_asks_for_the_lines_of_that_account_and_peri
 }
 
 TEST_F(GeneralLedger, from_a_balance_to_the_voucher_and_all_the_way_back) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     anna.double_click(4, "J");
     EXPECT_EQ(anna.value("OpenerLabel"), "总分类帐");
     anna.double_click(1, "J");
@@ -160,7 +129,7 @@ TEST_F(GeneralLedger, from_a_balance_to_the_voucher_and_all_the_way_back) {
 }
 
 TEST_F(GeneralLedger, the_book_named_above_the_lines_leads_back_and_leaves_them_open) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     anna.double_click(4, "J");
     anna.click("OpenerLabel");
     EXPECT_EQ(anna.request({{"op", "forms"}}).at("forms").at(0).at("form"), "TF6686");
@@ -168,7 +137,7 @@ TEST_F(GeneralLedger, the_book_named_above_the_lines_leads_back_and_leaves_them_
 }
 
 TEST_F(GeneralLedger, the_lines_of_a_balance_may_be_asked_for_under_other_conditions) {
-    Person& anna = at_the_ledger();
+    Person& anna = at_the_book();
     anna.double_click(4, "J");
     anna.key("F3");
     anna.expect_active("TF6685F");

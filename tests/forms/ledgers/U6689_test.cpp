@@ -1,18 +1,12 @@
 // The trial balance: its condition dialog, its footers, its verdict.
-#include "tests/forms/form_desk.h"
-#include "tests/forms/ledgers/ledger_answers.h"
-#include "tests/forms/small_books.h"
+#include "tests/forms/ledgers/book_desk.h"
 
 namespace tests {
 namespace {
 
-class TrialBalance : public FormDesk {
+class TrialBalance : public BookDesk {
 protected:
-    TrialBalance() : FormDesk(689) {}
-    void SetUp() override {
-        answer_current_period(data, "2024-03");
-        answer_rows("585.00");
-    }
+    TrialBalance() : BookDesk(689) { answer_rows("585.00"); }
     // Cash and receivables; the receivable's closing balance as given.
     void answer_rows(const std::string& receivable) {
         data.answer("select * from (SELECT D6602.KM_ID",
@@ -35,6 +29,42 @@ TEST_F(TrialBalance, asks_for_the_current_period_as_soon_as_it_opens) {
     EXPECT_EQ(anna.value("EDT2"), "3");
     EXPECT_EQ(anna.value("EDT3"), "1");
     EXPECT_EQ(anna.focused(), "EDT2");
+}
+
+TEST_F(TrialBalance, its_columns_stand_side_by_side) {
+    at_the_book();
+    EXPECT_EQ(columns_shown(),
+              "KM_ID 科目, KM_NAME 会计科目, B1 期初余额|借方, B2 期初余额|贷方, "
+              "C1 本期发生额|借方, C2 本期发生额|贷方, D1 期末余额|借方, D2 期末余额|贷方");
+    EXPECT_EQ(person().rows()[0].at("C1"), "585.00");
+    EXPECT_EQ(person().rows()[0].at("B1"), "0.00");
+}
+
+TEST_F(TrialBalance, asked_again_it_offers_the_current_period_anew) {
+    Person& anna = person();
+    anna.set("EDT2", "1");
+    anna.click("btn_ok");
+    anna.mark();
+    anna.key("F3");
+    anna.expect_active("TF6689F");
+    EXPECT_EQ(anna.sent_texts(),
+              std::vector<std::string>{"SELECT param,(SELECT param  FROM d6600 where id=1) as fqj  "
+                                       "FROM d6600 where id=2"});
+    EXPECT_EQ(anna.value("EDT2"), "3");
+    anna.click("btn_Cancel");
+    EXPECT_EQ(anna.value("ConditionLabel"), " ●会计年度:2024    ●会计期间:1    ●科目级别:1");
+}
+
+TEST_F(TrialBalance, year_and_level_keep_to_their_ranges) {
+    Person& anna = person();
+    const std::vector<std::pair<const char*, const char*>> outside = {
+        {"EDT1", "1999"}, {"EDT1", "2100"}, {"EDT3", "0"}, {"EDT3", "6"}};
+    for (const auto& [box, value] : outside) {
+        anna.cannot_set(box, value);
+        anna.forget_messages();
+    }
+    anna.set("EDT1", "2099");
+    anna.set("EDT3", "5");
 }
 
 TEST_F(TrialBalance, cancelled_it_shows_nothing_and_refresh_says_why) {
@@ -96,36 +126,16 @@ TEST_F(TrialBalance, another_level_of_the_same_period_is_a_click_away) {
 }
 
 TEST_F(TrialBalance, the_period_lies_within_the_books) {
-    struct Attempt {
-        const char* year;
-        const char* month;
-        const char* verdict;
-    };
-    const Attempt attempts[] = {
-        {"2024", "3", ""},
-        {"2024", "1", ""},
-        {"2024", "4", "开始期间不能大于当前会计期间!当前会计期间:2024-03"},
-        {"2025", "1", "开始期间不能大于当前会计期间!当前会计期间:2024-03"},
-        {"2023", "12", "开始期间不能 小于 帐套启用日期!帐套启用日期为:2024-01"},
-    };
-    for (const Attempt& attempt : attempts) {
-        leave();
-        Person& anna = person();
-        anna.set("EDT1", attempt.year);
-        anna.set("EDT2", attempt.month);
-        anna.click("btn_ok");
-        if (*attempt.verdict) {
-            anna.expect_message(attempt.verdict);
-            anna.expect_active("TF6689F");
-            EXPECT_EQ(anna.focused(), "EDT2");
-        } else {
-            anna.expect_active("TF6689");
-        }
-    }
+    try_periods({
+        {"2024", "3", "", ""},
+        {"2024", "1", "", ""},
+        {"2024", "4", "", "开始期间不能大于当前会计期间!当前会计期间:2024-03"},
+        {"2025", "1", "", "开始期间不能大于当前会计期间!当前会计期间:2024-03"},
+        {"2023", "12", "", "开始期间不能 小于 帐套启用日期!帐套启用日期为:2024-01"},
+    });
 }
 
 TEST_F(TrialBalance, a_double_click_asks_for_the_lines_of_that_account_and_leads_back) {
-    answer_detailed_ledger(data);
     Person& anna = person();
     anna.set("EDT2", "2");
     anna.click("btn_ok");
@@ -161,10 +171,11 @@ TEST_F(TrialBalance, the_level_is_kept_for_next_time) {
 }
 
 TEST_F(TrialBalance, books_that_were_not_set_up_have_none) {
-    answer_current_period(data, "");
+    periods_of_the_books("", "");
     Person& anna = person();
     anna.expect_message("读取会计期间错误!请确认是否进行初始建帐!");
     EXPECT_FALSE(anna.enabled("btn_ok"));
+    EXPECT_EQ(anna.value("EDT1"), "2008"); // what stands there before any books
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // The ledgers on real books: what was entered and posted stands in them, to the cent.
 #include "tests/forms/ledger_desk.h"
 
+#include <algorithm>
+
 namespace tests {
 
 namespace {
@@ -130,6 +132,34 @@ TEST_F(LedgerFigures, the_general_ledger_goes_down_to_the_level_asked_for) {
     EXPECT_EQ(anna.row_count(), 3);
 }
 
+TEST_F(LedgerFigures, the_trial_balance_goes_down_to_its_level_and_sums_the_top_level_alone) {
+    const auto deepest = [&] {
+        int level = 0;
+        for (const Row& row : anna.rows()) level = std::max(level, std::stoi(row.at("KM_J")));
+        return level;
+    };
+    for (const int level : {1, 2, 5}) {
+        trial_balance(std::to_string(level));
+        EXPECT_EQ(deepest(), std::min(level, 2));
+        for (const char* sum : {"C1", "C2"}) EXPECT_EQ(anna.footer(sum), "1242.75");
+        for (const char* sum : {"D1", "D2"}) EXPECT_EQ(anna.footer(sum), "1000.00");
+        EXPECT_TRUE(account("1002").empty()); // no figures
+        anna.close();
+    }
+}
+
+TEST_F(LedgerFigures, an_account_without_its_closing_balance_is_not_in_the_trial_balance) {
+    written_past_forms = true;
+    trial_balance("1");
+    EXPECT_FALSE(account("1001").empty());
+    anna.close();
+    books.execute("DELETE FROM D6602 WHERE KM_ID='1001' AND INX=1 AND QJ='2024-03'");
+    trial_balance("1");
+    EXPECT_TRUE(account("1001").empty());
+    EXPECT_TRUE(anna.visible("Unbalanced"));
+    EXPECT_FALSE(anna.visible("Balanced"));
+}
+
 TEST_F(LedgerFigures, a_balance_of_the_trial_balance_leads_to_its_lines) {
     trial_balance("2");
     int row = 0;
@@ -156,6 +186,16 @@ TEST_F(LedgerFigures, sub_accounts_are_added_up_under_their_top_level_account) {
     EXPECT_EQ(anna.footer("D"), "1292.75");
     EXPECT_NE(anna.value("ConditionLabel").find("●凭证共：5 张   ●附件共:0 张"),
               std::string::npos);
+}
+
+TEST_F(LedgerFigures, a_top_level_code_that_no_account_has_drops_out_of_the_account_summary) {
+    written_past_forms = true;
+    books.execute("UPDATE D6601A SET KM_ID='550X01' WHERE KM_ID='550101'");
+    anna.open(684);
+    anna.click("btn_ok");
+    EXPECT_EQ(account("5501").at("J"), "30.50");
+    EXPECT_EQ(anna.footer("J"), "1280.50"); // without the 12.25
+    EXPECT_TRUE(account("550X").empty());
 }
 
 TEST_F(LedgerFigures, the_account_summary_tells_posted_from_unposted) {

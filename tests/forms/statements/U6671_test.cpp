@@ -190,7 +190,9 @@ TEST_F(BalanceSheet, amounts_have_two_decimals_and_nothing_is_zero) {
     };
     const Result results[] = {{"12345.5", "12345.50"},   {"-0.5", "-0.50"},
                               {"<null>", "0.00"},        {"0", "0.00"},
-                              {"1234567", "1234567.00"}, {"0.125", "0.13"}};
+                              {"1234567", "1234567.00"}, {"0.125", "0.13"},
+                              {"-0.125", "-0.13"},       {"2.34499", "2.34"},
+                              {"0.00499999", "0.00"},    {"-1.0049999", "-1.00"}};
     for (const Result& result : results) {
         leave();
         data.answer("select ", {"a money"}, {{result.answered}});

@@ -79,8 +79,9 @@ TEST_F(CashFlow, amounts_are_kept_in_their_shortest_form) {
         const char* answered;
         const char* kept;
     };
-    const Result results[] = {
-        {"2.5", "2.5"}, {"100.00", "100"}, {"-0.07", "-0.07"}, {"0", "0"}, {"0.1234", "0.1234"}};
+    const Result results[] = {{"2.5", "2.5"},         {"100.00", "100"}, {"-0.07", "-0.07"},
+                              {"0", "0"},             {"0.1234", "0.1234"},
+                              {"0.333333", "0.333333"}, {"-2.00005", "-2.00005"}};
     for (const Result& result : results) {
         data.answer("select ", {"a money"}, {{result.answered}});
         sent_for("期末");
