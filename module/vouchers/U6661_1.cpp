@@ -403,10 +403,12 @@ VoucherHead TF6661_1::head_to_save(const std::string& period) const {
 // What nobody looked at stays with the number it has. Once the cash lines are gone the allocation
 // cannot be opened any more, so it goes with them.
 std::string TF6661_1::save_allocation(const std::string& key) const {
+    if (!F6661_5->has_amounts()) return "";
+    const bool edits = Mode == "Edit";
+    if (!grid_.cash_change()) return edits ? delete_allocation(key) : "";
     const std::string rows = F6661_5->getsql(key);
-    if (rows.empty()) return "";
-    if (!grid_.cash_change()) return Mode == "Edit" ? delete_allocation(key) : "";
-    const bool stays = Mode == "Edit" && key == Key && !F6661_5->confirmed();
+    if (rows.empty()) return edits && key != Key ? move_allocation(Key, key) : ""; // a red one
+    const bool stays = edits && key == Key && !F6661_5->confirmed();
     return stays ? "" : rows;
 }
 

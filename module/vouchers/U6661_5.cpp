@@ -184,6 +184,15 @@ std::string TF6661_5::getsql(const std::string& NOID) const {
     return loaded() ? replace_allocation(NOID, AdoQry_Main) : "";
 }
 
+bool TF6661_5::has_amounts() const {
+    for (int row = 0; row < AdoQry_Main.RecordCount(); ++row) {
+        const TClientDataSet::Peek peek(AdoQry_Main, row);
+        for (const char* side : {"J", "D"})
+            if (!AdoQry_Main.FieldByName(side).AsAmount().is_zero()) return true;
+    }
+    return false;
+}
+
 bool TF6661_5::stored_meanwhile() const {
     if (!loaded()) return false;
     TClientDataSet now;

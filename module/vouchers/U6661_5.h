@@ -26,6 +26,7 @@ public:
     void initnoid(const std::string& NOID, const std::string& mode);
     // The statements that replace the allocation of `NOID`; "" when nothing is to be written.
     std::string getsql(const std::string& NOID) const;
+    bool has_amounts() const; // any item carries one, of whatever sign
     bool loaded() const { return AdoQry_Main.Active(); }
     void forget(); // the next voucher begins without an allocation
     // Shows the items to a person; `cash_change` is what the voucher's cash lines add to the cash.

@@ -40,7 +40,11 @@ std::string delete_allocation(const std::string& voucher_key) {
 
 std::string take_back_allocation(const std::string& voucher_key, const std::string& red_key) {
     return "INSERT INTO D6601B (NOID, D6820ID, J, D) SELECT " + quoted(red_key) +
-           ",D6820ID,D,J FROM D6601B WHERE NOID=" + quoted(voucher_key) + ";";
+           ",D6820ID,-J,-D FROM D6601B WHERE NOID=" + quoted(voucher_key) + ";";
+}
+
+std::string move_allocation(const std::string& voucher_key, const std::string& new_key) {
+    return "UPDATE D6601B SET NOID=" + quoted(new_key) + " WHERE NOID=" + quoted(voucher_key) + ";";
 }
 
 } // namespace module

@@ -26,8 +26,13 @@ std::string replace_allocation(const std::string& voucher_key, const TClientData
 // A voucher whose cash lines were taken out has nothing to allocate any more.
 std::string delete_allocation(const std::string& voucher_key);
 
-// Gives `red_key` the allocation of `voucher_key` with its sides swapped. A negative amount would
-// not be kept by the allocation, so an outflow is taken back as an inflow of the same item.
+// Gives `red_key` the allocation of `voucher_key` in red: negative on its own side, as the lines
+// are, so that the item's line of the cash flow statement is taken back. On the other side it would
+// stand where no statement looks for it.
 std::string take_back_allocation(const std::string& voucher_key, const std::string& red_key);
+
+// A red allocation follows its voucher to another number as it is: replace_allocation writes no
+// negative amounts.
+std::string move_allocation(const std::string& voucher_key, const std::string& new_key);
 
 } // namespace module

@@ -61,10 +61,15 @@ TEST(CashAllocation, without_any_amount_nothing_is_written) {
     EXPECT_EQ(replace_allocation("2024-03记005", blank), "");
 }
 
-TEST(CashAllocation, a_red_voucher_takes_an_outflow_back_as_an_inflow) {
+TEST(CashAllocation, a_red_voucher_takes_it_back_on_its_own_side) {
     EXPECT_EQ(take_back_allocation("2024-03记005", "2024-03记009"),
-              "INSERT INTO D6601B (NOID, D6820ID, J, D) SELECT '2024-03记009',D6820ID,D,J FROM "
+              "INSERT INTO D6601B (NOID, D6820ID, J, D) SELECT '2024-03记009',D6820ID,-J,-D FROM "
               "D6601B WHERE NOID='2024-03记005';");
+}
+
+TEST(CashAllocation, what_is_red_follows_its_voucher_as_it_is) {
+    EXPECT_EQ(move_allocation("2024-03记009", "2024-03记010"),
+              "UPDATE D6601B SET NOID='2024-03记010' WHERE NOID='2024-03记009';");
 }
 
 } // namespace
