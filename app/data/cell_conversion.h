@@ -6,8 +6,8 @@
 
 namespace app {
 
-// Decimals become amounts, with their text where digits go beyond one; what the host has no type for
-// (times, identifiers, bytes) becomes text.
+// Decimals become amounts, with their text where digits go beyond one; what the host has no type
+// for (times, identifiers, bytes) becomes text.
 host::ColumnDescription description_of(const engines::Column& column);
 
 // Converts one cell. A text made here is kept in `storage`, which must outlive the view.

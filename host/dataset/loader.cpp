@@ -71,7 +71,8 @@ void DataSetLoader::row(const std::vector<CellView>& cells) {
     for (std::size_t i = 0; i < cells.size(); ++i) {
         const FieldType answered = answered_[i].type;
         std::optional<Value> value = cell_value(cells[i], answered);
-        if (converts_[i]) value = fitting_value(cells[i], answered, rows_.type(static_cast<int>(i)));
+        if (converts_[i])
+            value = fitting_value(cells[i], answered, rows_.type(static_cast<int>(i)));
         if (!value)
             throw DataError("数据库中“" + answered_[i].name + "”的内容不符合应有的类型，无法读取。",
                             "value does not fit the field: " +

@@ -10,8 +10,9 @@
 namespace tests {
 
 // Columns are declared "NAME kind" with kind text, int, money, bit or date; cells are plain text,
-// "<null>" for NULL, money as fine as wished. A query is answered by the first entry whose beginning it has, blanks at its
-// front ignored; a query nobody prepared throws host::DataError naming it.
+// "<null>" for NULL, money as fine as wished. A query is answered by the first entry whose
+// beginning it has, blanks at its front ignored; a query nobody prepared throws host::DataError
+// naming it.
 //
 //     FakeData data;
 //     data.answer("SELECT param", {"param text", "fqj text"}, {{"2024-03", "2024-01"}});

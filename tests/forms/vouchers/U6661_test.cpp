@@ -96,7 +96,7 @@ TEST_F(VoucherList, a_posted_voucher_is_reversed_in_red_by_one_batch) {
               "('2024-03记009','2024-03','记','9','0','2024-03-15','anna');" +
                   line + "'1001','           -585.00','              0.00',0);" + line +
                   "'1131','              0.00','           -585.00',1);"
-                  "INSERT INTO D6601B (NOID, D6820ID, J, D) SELECT '2024-03记009',D6820ID,D,J "
+                  "INSERT INTO D6601B (NOID, D6820ID, J, D) SELECT '2024-03记009',D6820ID,-J,-D "
                   "FROM D6601B WHERE NOID='2024-03记008';");
     EXPECT_EQ(data.executed().size(), 1u);
     EXPECT_EQ(data.executed().back().log.key, "2024-03记009");
