@@ -60,6 +60,21 @@ void compare_lines(Books& books, const NaiveLedger& ledger) {
     compare_lists("lines", kept, expected);
 }
 
+void compare_allocations(Books& books, const NaiveLedger& ledger) {
+    std::vector<std::string> kept, expected;
+    for (const Row& row : books.table("SELECT NOID,D6820ID,J,D FROM D6601B")) {
+        kept.push_back(row.at("NOID") + " " + row.at("D6820ID") + " " + row.at("J") + " " +
+                       row.at("D"));
+    }
+    for (const NaiveVoucher& one : ledger.vouchers()) {
+        for (const auto& [item, share] : one.cash) {
+            expected.push_back(one.key + " " + item + " " + money(share.in) + " " +
+                               money(share.out));
+        }
+    }
+    compare_lists("cash-flow allocations", kept, expected);
+}
+
 std::string text_of(const NaiveFigures& figures) {
     return "J " + money(figures.debit) + " D " + money(figures.credit) + " SY_J " +
            money(figures.carried_debit) + " SY_D " + money(figures.carried_credit);
@@ -100,6 +115,7 @@ std::size_t compare_books(Books& books, const NaiveLedger& ledger) {
     compare_periods(books, ledger);
     compare_vouchers(books, ledger);
     compare_lines(books, ledger);
+    compare_allocations(books, ledger);
     return compare_balances(books, ledger);
 }
 

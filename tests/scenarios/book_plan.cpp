@@ -18,6 +18,7 @@ const char* name_of(Act act) {
     case Act::CarryForward: return "CarryForward";
     case Act::Close: return "Close";
     case Act::Reopen: return "Reopen";
+    case Act::Red: return "Red";
     case Act::AddAccount: return "AddAccount";
     case Act::TurnAccount: return "TurnAccount";
     }
@@ -66,6 +67,7 @@ public:
             post();
         }
         if (now_and_then(25)) second_thoughts();
+        maybe(20, Act::Red);
         maybe(10, Act::Enter);
         post();
         act(Act::Close);
@@ -104,14 +106,14 @@ int below(int limit, std::mt19937& chance) {
 
 const std::vector<NaiveAccount>& starting_chart() {
     static const std::vector<NaiveAccount> chart = {
-        // code, parent, debit side, profit and loss
-        {"1001", "Z", true, false},
-        {"1002", "Z", true, false},
-        {"100201", "1002", true, false},
-        {"10020101", "100201", true, false},
-        {"1002010101", "10020101", true, false},
-        {"100201010101", "1002010101", true, false},
-        {"100202", "1002", false, false}, // an overdraft below a debit account
+        // code, parent, debit side, profit and loss, cash
+        {"1001", "Z", true, false, true},
+        {"1002", "Z", true, false, true},
+        {"100201", "1002", true, false, true},
+        {"10020101", "100201", true, false, true},
+        {"1002010101", "10020101", true, false, true},
+        {"100201010101", "1002010101", true, false, true},
+        {"100202", "1002", false, false, true}, // an overdraft below a debit account
         {"1131", "Z", true, false},
         {"1141", "Z", false, false},
         {"2121", "Z", false, false},
@@ -169,6 +171,7 @@ BookPlan plan_books(std::uint32_t seed) {
     BookPlan plan;
     plan.seed = seed;
     plan.words = 1 + below(3, chance);
+    plan.strict = below(4, chance) == 0;
     const int month = 1 + below(12, chance);
     const int day = below(20, chance) == 0 ? 2 + below(27, chance) : 1;
     plan.start = day_text(2024, month, day);
@@ -188,7 +191,8 @@ BookPlan plan_books(std::uint32_t seed) {
 
 std::string text_of(const BookPlan& plan) {
     std::string text = "seed " + std::to_string(plan.seed) + ", words " +
-                       std::to_string(plan.words) + ", start " + plan.start + ", " +
+                       std::to_string(plan.words) + (plan.strict ? ", strict" : "") +
+                       ", start " + plan.start + ", " +
                        std::to_string(plan.openings.size()) + " opening figures, " +
                        std::to_string(plan.steps.size()) + " steps:";
     for (const Step& step : plan.steps) {

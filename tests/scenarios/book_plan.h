@@ -23,6 +23,7 @@ enum class Act {
     CarryForward,
     Close,
     Reopen,        // before the first period: back to the opening, which is typed anew
+    Red,           // a posted voucher is taken back by a red one
     AddAccount,    // below any account
     TurnAccount,   // to the other side
 };
@@ -37,13 +38,15 @@ struct Step {
 struct BookPlan {
     std::uint32_t seed = 0;
     int words = 1;                                // voucher word scheme
+    bool strict = false; // nothing posted is taken back, and one person enters, another audits
     std::string start;                            // day of the opening
     std::map<std::string, NaiveOpening> openings; // by account; balanced
     std::vector<Step> steps;
 };
 
 // The same plan for the same seed: a start in any month, now and then inside one, often with
-// figures of the year so far; two to five periods, some of them reopened.
+// figures of the year so far; two to five periods, some of them reopened; every fourth set of books
+// is kept in the strict way, where that is refused.
 BookPlan plan_books(std::uint32_t seed);
 
 // Every plan's books begin with these accounts; the deepest stand at the fifth level.

@@ -7,6 +7,7 @@
 #include "automation/check/check.h"
 #include "tests/scenarios/book_comparison.h"
 #include "tests/scenarios/ledger_comparison.h"
+#include "tests/scenarios/statement_comparison.h"
 #include "tests/support/bookkeeper.h"
 
 namespace tests {
@@ -42,11 +43,24 @@ std::string replace_chart() {
     const NaiveLedger ledger(starting_chart());
     std::string batch = "DELETE FROM D6801;";
     for (const auto& [code, one] : ledger.chart()) {
-        batch += "INSERT INTO D6801 (KM_ID,KM_NAME,FX,OID,KM_FL,KM_J) VALUES ('" + code + "','" +
-                 code + "','" + (one.debit ? "借" : "贷") + "','" + one.parent + "'," +
-                 std::to_string(category(code)) + "," + std::to_string(ledger.level(code)) + ");";
+        batch += "INSERT INTO D6801 (KM_ID,KM_NAME,FX,OID,KM_FL,KM_J,KM_K) VALUES ('" + code +
+                 "','" + code + "','" + (one.debit ? "借" : "贷") + "','" + one.parent + "'," +
+                 std::to_string(category(code)) + "," + std::to_string(ledger.level(code)) + "," +
+                 (one.cash ? "1" : "0") + ");";
     }
     return batch;
+}
+
+std::string keep_strictly() {
+    return "DELETE FROM SYS_SETTING WHERE NAME='mode' OR NAME='two_persons';"
+           "INSERT INTO SYS_SETTING (NAME,VALUE) VALUES ('mode','strict');";
+}
+
+// Items below a heading, of each kind of cash flow; in the order of their codes.
+const std::vector<std::string>& cash_items() {
+    static const std::vector<std::string> items = {"1101", "1109", "1201", "1209", "2103",
+                                                   "2201", "3102", "3202", "4101"};
+    return items;
 }
 
 const std::vector<std::string>& words_of(int scheme) {
@@ -55,17 +69,12 @@ const std::vector<std::string>& words_of(int scheme) {
     return words[scheme - 1];
 }
 
-std::string three_digits(int number) {
-    std::string text = std::to_string(number);
-    while (text.size() < 3) text.insert(0, "0");
-    return text;
-}
-
 class BookRun {
 public:
     explicit BookRun(const BookPlan& plan)
-        : plan_(plan), books_(small_books(plan.words)), person_(books_.data(), books_.person()),
-          anna_(person_), ledger_(starting_chart()) {}
+        : plan_(plan), books_(small_books(plan.words, plan.strict)), ledger_(starting_chart()) {
+        sit_down("admin");
+    }
 
     void run(BookVerdict& verdict) {
         set_up(plan_.openings, plan_.start);
@@ -78,6 +87,7 @@ public:
             verdict.figures += compare_books(books_, ledger_);
         }
         verdict.ledger_figures = compare_ledgers(books_, ledger_);
+        verdict.statement_figures = compare_statements(*anna_, ledger_);
         if (!ledger_.balances_run_on()) return;
         const auto session = app::open_books(books_.file().string(), app::Access::ReadOnly);
         for (const automation::Finding& finding : automation::check_books(*session)) {
@@ -87,11 +97,14 @@ public:
     }
 
 private:
+    void sit_down(const std::string& user);
     void take(Act act, std::mt19937& chance);
+    void unpost();
     void set_up(const std::map<std::string, NaiveOpening>& openings, const std::string& start);
     void enter(std::mt19937& chance);
     void change(std::mt19937& chance);
     void remove(std::mt19937& chance);
+    void reverse(std::mt19937& chance);
     void audit(bool all, std::mt19937& chance);
     void take_audit_back(std::mt19937& chance);
     void carry_forward(std::mt19937& chance);
@@ -103,6 +116,7 @@ private:
     std::string any_day(std::mt19937& chance) const;
     NaiveVoucher draw_voucher(std::mt19937& chance) const;
     TypedVoucher typed(const NaiveVoucher& voucher, const std::string& date) const;
+    std::vector<TypedAllocation> draw_cash(NaiveVoucher& voucher, std::mt19937& chance) const;
     NaiveVoucher* any_voucher(std::mt19937& chance);
     std::vector<TypedCell> draw_change(NaiveVoucher& voucher, std::mt19937& chance) const;
     void change_number(NaiveVoucher& changed, const std::vector<TypedCell>& cells,
@@ -110,13 +124,23 @@ private:
 
     const BookPlan& plan_;
     Books books_;
-    Person person_;
-    Bookkeeper anna_;
+    std::unique_ptr<Person> person_;
+    std::unique_ptr<Bookkeeper> anna_;
     NaiveLedger ledger_;
     std::map<std::string, NaiveOpening> typed_openings_;
     std::set<std::string> turned_; // since their opening was typed
     std::size_t typed_ = 0;
 };
+
+// One person works at a time.
+void BookRun::sit_down(const std::string& user) {
+    anna_.reset();
+    person_.reset();
+    PersonOptions options = books_.person();
+    options.user_id = options.user_name = user;
+    person_ = std::make_unique<Person>(books_.data(), options);
+    anna_ = std::make_unique<Bookkeeper>(*person_);
+}
 
 void BookRun::take(Act act, std::mt19937& chance) {
     switch (act) {
@@ -128,16 +152,22 @@ void BookRun::take(Act act, std::mt19937& chance) {
     case Act::TakeAuditBack: return take_audit_back(chance);
     case Act::Post:
         ledger_.post();
-        return expect("posting", anna_.post(true), {"登帐完成!"});
-    case Act::Unpost:
-        ledger_.unpost();
-        return expect("unposting", anna_.unpost(true), {"反登帐完成!"});
+        return expect("posting", anna_->post(true), {"登帐完成!"});
+    case Act::Unpost: return unpost();
     case Act::CarryForward: return carry_forward(chance);
-    case Act::Close: return expect("closing", anna_.close_period(), {ledger_.close_period()});
+    case Act::Close: return expect("closing", anna_->close_period(), {ledger_.close_period()});
     case Act::Reopen: return reopen(chance);
+    case Act::Red: return reverse(chance);
     case Act::AddAccount: return add_account(chance);
     case Act::TurnAccount: return turn_account(chance);
     }
+}
+
+void BookRun::unpost() {
+    const Told told = anna_->unpost(true);
+    if (plan_.strict) return expect_reason("unposting", told, "不能反登帐!请用红字凭证更正。");
+    expect("unposting", told, {"反登帐完成!"});
+    ledger_.unpost();
 }
 
 // ---- the opening
@@ -159,13 +189,15 @@ void BookRun::set_up(const std::map<std::string, NaiveOpening>& openings,
         typed_openings_[code] = figures;
     }
     turned_.clear();
-    if (!typed.empty()) expect("typing the opening", anna_.type_openings(typed), {});
-    expect("setting up", anna_.set_up(start, plan_.words), {});
+    if (!typed.empty()) expect("typing the opening", anna_->type_openings(typed), {});
+    expect("setting up", anna_->set_up(start, plan_.words), {});
     ledger_.set_up(start, typed_openings_);
 }
 
 void BookRun::reopen(std::mt19937& chance) {
-    expect("reopening", anna_.reopen_period(), {ledger_.reopen_period()});
+    const Told told = anna_->reopen_period();
+    if (plan_.strict) return expect_reason("reopening", told, "不能反结帐!请用红字凭证更正。");
+    expect("reopening", told, {ledger_.reopen_period()});
     if (ledger_.current().empty()) set_up(balanced_openings(ledger_, chance), plan_.start);
 }
 
@@ -200,7 +232,24 @@ NaiveVoucher BookRun::draw_voucher(std::mt19937& chance) const {
     }
     const bool on_credit = left > 0 || below(4, chance) == 0;
     voucher.lines.push_back({any(), on_credit ? 0 : -left, on_credit ? left : 0});
+    if (ledger_.moves_cash(voucher) && below(3, chance) != 0) draw_cash(voucher, chance);
     return voucher;
+}
+
+// What comes in and goes out need not agree with the cash lines: nothing demands it.
+std::vector<TypedAllocation> BookRun::draw_cash(NaiveVoucher& voucher, std::mt19937& chance) const {
+    std::vector<TypedAllocation> typed;
+    const int items = 1 + below(3, chance);
+    for (int i = 0; i < items; ++i) {
+        const auto at = static_cast<std::size_t>(
+            below(static_cast<int>(cash_items().size()), chance));
+        const Cents amount = 1 + below(300'000, chance);
+        const bool in = below(2, chance) == 0;
+        NaiveCash& share = voucher.cash[cash_items()[at]];
+        (in ? share.in : share.out) = amount;
+        typed.push_back({cash_items()[at], in ? money(amount) : "", in ? "" : money(amount)});
+    }
+    return typed;
 }
 
 TypedVoucher BookRun::typed(const NaiveVoucher& voucher, const std::string& date) const {
@@ -211,6 +260,9 @@ TypedVoucher BookRun::typed(const NaiveVoucher& voucher, const std::string& date
         paper.lines.push_back({"往来", line.account, line.debit == 0 ? "" : money(line.debit),
                                line.credit == 0 ? "" : money(line.credit)});
     }
+    for (const auto& [item, share] : voucher.cash) {
+        paper.cash.push_back({item, money(share.in), money(share.out)});
+    }
     return paper;
 }
 
@@ -220,12 +272,12 @@ void BookRun::enter(std::mt19937& chance) {
     for (int i = 0; i < count; ++i) {
         NaiveVoucher voucher = draw_voucher(chance);
         voucher.number = ledger_.next_number(voucher.word);
-        voucher.key = voucher.period + voucher.word + three_digits(voucher.number);
+        voucher.key = voucher_key(voucher);
         papers.push_back(typed(voucher, any_day(chance)));
         ledger_.vouchers().push_back(std::move(voucher));
     }
     typed_ += papers.size();
-    expect("entering vouchers", anna_.enter(papers), {});
+    expect("entering vouchers", anna_->enter(papers), {});
 }
 
 NaiveVoucher* BookRun::any_voucher(std::mt19937& chance) {
@@ -264,16 +316,24 @@ void BookRun::change(std::mt19937& chance) {
     NaiveVoucher* voucher = any_voucher(chance);
     if (voucher == nullptr) return;
     if (voucher->audited) {
-        const Told told = anna_.change(voucher->key, {});
+        const Told told = anna_->change(voucher->key, {});
         return expect_reason("changing", told, voucher->posted ? "已登帐" : "已审核");
     }
     NaiveVoucher changed = *voucher;
     const std::vector<TypedCell> cells = draw_change(changed, chance);
     if (below(4, chance) == 0) return change_number(changed, cells, chance);
+    // Typed into a red allocation, an amount would drive out the negative ones.
+    const bool red = std::any_of(changed.cash.begin(), changed.cash.end(), [](const auto& share) {
+        return share.second.in < 0 || share.second.out < 0;
+    });
+    std::vector<TypedAllocation> cash;
+    if (!red && ledger_.moves_cash(changed) && below(3, chance) == 0) {
+        cash = draw_cash(changed, chance);
+    }
     // Saved anew: the carry-forward's key is padded from here on, its mark is set by posting.
-    changed.key = changed.period + changed.word + three_digits(changed.number);
+    changed.key = voucher_key(changed);
     changed.carried = false;
-    expect("changing", anna_.change(voucher->key, cells), {});
+    expect("changing", anna_->change(voucher->key, cells, "", cash), {});
     *voucher = changed;
 }
 
@@ -281,14 +341,14 @@ void BookRun::change_number(NaiveVoucher& changed, const std::vector<TypedCell>&
                             std::mt19937& chance) {
     const std::string old_key = changed.key;
     changed.number = 1 + below(ledger_.next_number(changed.word) + 2, chance);
-    changed.key = changed.period + changed.word + three_digits(changed.number);
+    changed.key = voucher_key(changed);
     changed.carried = false;
     const auto& all = ledger_.vouchers();
     const auto taken = std::find_if(all.begin(), all.end(), [&](const NaiveVoucher& one) {
         return one.key != old_key && one.period == changed.period && one.word == changed.word &&
                one.number == changed.number;
     });
-    const Told told = anna_.change(old_key, cells, std::to_string(changed.number));
+    const Told told = anna_->change(old_key, cells, std::to_string(changed.number));
     if (taken != all.end()) {
         // The key of a carry-forward is not padded: there the number itself is refused.
         const char* reason = taken->key == changed.key ? "已存在" : "已被使用";
@@ -302,7 +362,7 @@ void BookRun::remove(std::mt19937& chance) {
     const NaiveVoucher* voucher = any_voucher(chance);
     if (voucher == nullptr) return;
     const std::string key = voucher->key;
-    const Told told = anna_.remove(key);
+    const Told told = anna_->remove(key);
     if (voucher->audited) {
         return expect_reason("removing", told, voucher->posted ? "已登帐" : "已审核");
     }
@@ -310,8 +370,17 @@ void BookRun::remove(std::mt19937& chance) {
     ledger_.remove(key);
 }
 
+void BookRun::reverse(std::mt19937& chance) {
+    const NaiveVoucher* voucher = any_voucher(chance);
+    if (voucher == nullptr || !voucher->posted) return;
+    const NaiveVoucher red = ledger_.reversed(*voucher);
+    expect("taking back in red", anna_->reverse(voucher->key), {});
+    ledger_.vouchers().push_back(red);
+}
+
 // ---- audit
 
+// In strict books nobody audits what he entered.
 void BookRun::audit(bool all, std::mt19937& chance) {
     std::vector<std::string> keys;
     for (NaiveVoucher& one : ledger_.vouchers()) {
@@ -320,7 +389,13 @@ void BookRun::audit(bool all, std::mt19937& chance) {
         one.audited = true;
         keys.push_back(one.key);
     }
-    if (!keys.empty()) expect("auditing", anna_.audit(keys), {});
+    if (keys.empty()) return;
+    if (plan_.strict) {
+        expect_reason("auditing one's own", anna_->audit(keys), "不能由您审核");
+        sit_down("reviewer");
+    }
+    expect("auditing", anna_->audit(keys), {});
+    if (plan_.strict) sit_down("admin");
 }
 
 void BookRun::take_audit_back(std::mt19937& chance) {
@@ -332,7 +407,7 @@ void BookRun::take_audit_back(std::mt19937& chance) {
         posted = posted || one.posted;
     }
     if (keys.empty()) return;
-    const Told told = anna_.take_audit_back(keys);
+    const Told told = anna_->take_audit_back(keys);
     if (posted) return expect_reason("taking an audit back", told, "已登帐");
     expect("taking an audit back", told, {});
     for (const std::string& key : keys) ledger_.find(key)->audited = false;
@@ -341,7 +416,7 @@ void BookRun::take_audit_back(std::mt19937& chance) {
 // ---- periods and chart
 
 void BookRun::carry_forward(std::mt19937& chance) {
-    const Told told = anna_.carry_forward(any_day(chance), "结转本期损益", "314115");
+    const Told told = anna_->carry_forward(any_day(chance), "结转本期损益", "314115");
     expect("carrying forward", told,
            ledger_.carry_forward() ? Told{} : Told{"没有可结转的数据!"});
 }
@@ -361,8 +436,8 @@ void BookRun::add_account(std::mt19937& chance) {
         account.code = above.code + (number < 10 ? "0" : "") + std::to_string(number);
         ++number;
     } while (ledger_.chart().contains(account.code));
-    const Told told = anna_.add_account({account.code, account.code, account.debit ? "借" : "贷",
-                                         above.code, category(above.code), false});
+    const Told told = anna_->add_account({account.code, account.code, account.debit ? "借" : "贷",
+                                         above.code, category(above.code), above.cash});
     if (ledger_.level(above.code) >= deepest_level) {
         return expect_reason("adding an account", told, "最多五级");
     }
@@ -377,7 +452,7 @@ void BookRun::add_account(std::mt19937& chance) {
 void BookRun::turn_account(std::mt19937& chance) {
     const NaiveAccount account = any_account(chance);
     const Told told =
-        anna_.change_side(account.code, category(account.code), account.debit ? "贷" : "借");
+        anna_->change_side(account.code, category(account.code), account.debit ? "贷" : "借");
     if (ledger_.has_balance(account.code)) {
         return expect_reason("turning an account", told, "不能改变余额方向");
     }
@@ -388,12 +463,12 @@ void BookRun::turn_account(std::mt19937& chance) {
 
 } // namespace
 
-BooksOptions small_books(int words) {
+BooksOptions small_books(int words, bool strict) {
     BooksOptions options;
     options.start = "";
     options.scheme = std::to_string(words);
     options.today = "2024-06-15";
-    options.prepare = replace_chart();
+    options.prepare = replace_chart() + (strict ? keep_strictly() : "");
     if (std::filesystem::exists("/dev/shm")) options.folder = "/dev/shm";
     return options;
 }

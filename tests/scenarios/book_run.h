@@ -16,16 +16,17 @@ struct BookVerdict {
     std::size_t vouchers = 0; // typed
     std::size_t figures = 0;  // amounts of balances compared
     std::size_t ledger_figures = 0; // amounts of ledgers and functions, at the end
+    std::size_t statement_figures = 0; // amounts of statements, the same
     bool audited = false;     // every month was posted in turn, and the audit found nothing
 };
 
 // Fresh books with the small chart that wait for their opening; in memory where the machine has a
 // folder for that, as thousands of them are made.
-BooksOptions small_books(int words);
+BooksOptions small_books(int words, bool strict = false);
 
 // Makes fresh books, carries the plan out through the driver, and compares periods, vouchers, lines
-// and every row of the balances after each step; at the end all ledgers of all periods, and the
-// audit looks at books whose months were posted in turn.
+// and every row of the balances after each step; at the end all ledgers of all periods and the
+// statements of the last one, and the audit looks at books whose months were posted in turn.
 BookVerdict keep_books(const BookPlan& plan);
 
 // The shortest plan found that still fails, by leaving out openings and steps; `fails` is asked at

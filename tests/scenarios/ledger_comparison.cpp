@@ -8,6 +8,7 @@
 #include "module/ledgers/ledger_call.h"
 #include "module/ledgers/trial_balance_query.h"
 #include "tests/scenarios/book_comparison.h"
+#include "tests/scenarios/months_comparison.h"
 #include "tests/scenarios/period_figures.h"
 
 namespace tests {
@@ -42,6 +43,7 @@ public:
         account_summary();
         functions();
         ranges();
+        cash_flow();
         return compared_;
     }
 
@@ -54,9 +56,9 @@ private:
     void account_summary();
     void functions();
     void ranges();
+    void cash_flow();
 
     const std::string& period() const { return expected_.period(); }
-    bool year_is_whole() const;
     // An amount on the account's own side.
     Cents own(const std::string& account, Cents on_debit) const {
         return ledger_.account(account).debit ? on_debit : -on_debit;
@@ -196,19 +198,6 @@ void PeriodComparison::account_summary() {
 
 // ---- functions of the statements
 
-// The balance at the beginning of the year leads to the closing when no month of the year was
-// passed over, and the books began with a month.
-bool PeriodComparison::year_is_whole() const {
-    std::string month = period().substr(0, 5) + "01";
-    if (month <= ledger_.first()) {
-        if (ledger_.opened_inside_a_month()) return false;
-        month = ledger_.first();
-    }
-    for (; month < period(); month = month_after(month))
-        if (!ledger_.stands(month)) return false;
-    return true;
-}
-
 void PeriodComparison::functions() {
     const std::string now = ",'" + period() + "',A.KM_ID,A.KM_ID) AS ";
     const std::string year = ",'" + period().substr(0, 5) + "00',A.KM_ID,A.KM_ID) AS ";
@@ -229,7 +218,7 @@ void PeriodComparison::functions() {
               sums.year_carried_credit});
         same("fjf and fdf of " + code, amounts(row, {"JF", "DF"}),
              {sums.closing_on_debit, sums.closing_on_credit});
-        if (year_is_whole())
+        if (expected_.year_is_whole())
             same("FASC of the year's beginning of " + code, amounts(row, {"F1"}),
                  {own(code, sums.closing - sums.year_debit + sums.year_credit)});
     }
@@ -256,6 +245,21 @@ void PeriodComparison::ranges() {
     }
 }
 
+void PeriodComparison::cash_flow() {
+    for (const auto& [first, last] : {std::pair{"1101", "1101"}, {"1101", "1109"},
+                                      {"1201", "1209"}, {"2", "29"}, {"1", "9"}}) {
+        const std::string items =
+            ",'" + period() + "','" + std::string(first) + "','" + last + "') AS ";
+        const Rows rows =
+            books_.table("SELECT dbo.fxj(2" + items + "A, dbo.fxj(3" + items + "B, dbo.fxjn(2" +
+                         items + "C, dbo.fxjn(3" + items + "D");
+        const CashSums cash = expected_.cash(first, last);
+        same("cash flow of " + std::string(first) + " to " + last,
+             amounts(rows.at(0), {"A", "B", "C", "D"}),
+             {cash.in, cash.out, cash.year_in, cash.year_out});
+    }
+}
+
 } // namespace
 
 std::size_t compare_ledgers(Books& books, const NaiveLedger& ledger) {
@@ -263,7 +267,7 @@ std::size_t compare_ledgers(Books& books, const NaiveLedger& ledger) {
     for (std::string period = ledger.first(); !period.empty() && period <= ledger.current();
          period = month_after(period))
         if (ledger.stands(period)) compared += PeriodComparison(books, ledger, period).run();
-    return compared;
+    return compared + compare_months(books, ledger);
 }
 
 } // namespace tests

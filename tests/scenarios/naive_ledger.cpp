@@ -40,6 +40,12 @@ std::string money(Cents cents) {
     return (cents < 0 ? "-" : "") + std::to_string(size / 100) + "." + fraction;
 }
 
+std::string voucher_key(const NaiveVoucher& voucher) {
+    std::string number = std::to_string(voucher.number);
+    if (number.size() < 3) number.insert(0, 3 - number.size(), '0');
+    return voucher.period + voucher.word + number;
+}
+
 Cents cents_of(const std::string& amount) {
     if (amount.empty()) return 0;
     const std::size_t point = amount.find('.');
@@ -183,6 +189,22 @@ NaiveVoucher* NaiveLedger::find(const std::string& key) {
 
 void NaiveLedger::remove(const std::string& key) {
     std::erase_if(vouchers_, [&](const NaiveVoucher& one) { return one.key == key; });
+}
+
+bool NaiveLedger::moves_cash(const NaiveVoucher& voucher) const {
+    return std::any_of(voucher.lines.begin(), voucher.lines.end(),
+                       [&](const NaiveLine& line) { return account(line.account).cash; });
+}
+
+NaiveVoucher NaiveLedger::reversed(const NaiveVoucher& voucher) const {
+    NaiveVoucher red = voucher;
+    red.period = current_;
+    red.number = next_number(red.word);
+    red.key = voucher_key(red);
+    red.audited = red.posted = red.carried = false;
+    for (NaiveLine& line : red.lines) line.debit = -line.debit, line.credit = -line.credit;
+    for (auto& [item, share] : red.cash) share = {-share.in, -share.out};
+    return red;
 }
 
 // ---- posting

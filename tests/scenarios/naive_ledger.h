@@ -16,6 +16,7 @@ struct NaiveAccount {
     std::string parent; // "Z" at the top
     bool debit = true;  // the account's own side
     bool profit = false;
+    bool cash = false; // its lines are allocated to cash-flow items
 };
 
 struct NaiveLine {
@@ -23,10 +24,15 @@ struct NaiveLine {
     Cents debit = 0, credit = 0;
 };
 
+struct NaiveCash {
+    Cents in = 0, out = 0;
+};
+
 struct NaiveVoucher {
     std::string key, period, word;
     int number = 0;
     std::vector<NaiveLine> lines;
+    std::map<std::string, NaiveCash> cash; // by cash-flow item
     bool audited = false, posted = false, carried = false;
 };
 
@@ -86,6 +92,9 @@ public:
     std::vector<NaiveVoucher>& vouchers() { return vouchers_; }
     const std::vector<NaiveVoucher>& vouchers() const { return vouchers_; }
     void remove(const std::string& key);
+    bool moves_cash(const NaiveVoucher& voucher) const;
+    // The voucher in red under the next number of the current period: every amount negative.
+    NaiveVoucher reversed(const NaiveVoucher& voucher) const;
 
     // Posting and carrying forward.
     void post();
@@ -117,6 +126,7 @@ private:
 // "2024-12" → "2025-01" and back.
 std::string month_after(const std::string& period);
 std::string month_before(const std::string& period);
+std::string voucher_key(const NaiveVoucher& voucher); // "2024-03记005"
 std::string money(Cents cents);           // "-12.05"
 Cents cents_of(const std::string& amount); // "-12.05", "2.5", "7", "" for nothing
 

@@ -25,7 +25,8 @@ PeriodSums& PeriodSums::operator+=(const PeriodSums& more) {
     return *this;
 }
 
-PeriodFigures::PeriodFigures(const NaiveLedger& ledger, const std::string& period)
+PeriodFigures::PeriodFigures(const NaiveLedger& ledger, const std::string& period,
+                             Counted counted)
     : ledger_(ledger), period_(period) {
     for (const std::string& leaf : ledger.leaves()) {
         PeriodSums& sums = leaves_[leaf];
@@ -34,7 +35,10 @@ PeriodFigures::PeriodFigures(const NaiveLedger& ledger, const std::string& perio
     }
     for (const NaiveVoucher& voucher : ledger.vouchers()) {
         const bool this_year = voucher.period.substr(0, 4) == period.substr(0, 4);
-        if (voucher.posted && this_year && voucher.period <= period) take_lines(voucher);
+        const bool counts = voucher.posted || (counted == Counted::All && voucher.period == period);
+        if (!counts || !this_year || voucher.period > period) continue;
+        take_lines(voucher);
+        take_cash(voucher);
     }
     for (auto& [leaf, sums] : leaves_) {
         sums.closing = sums.opening + sums.debit - sums.credit;
@@ -74,6 +78,36 @@ void PeriodFigures::take_lines(const NaiveVoucher& voucher) {
         sums.debit += line.debit, sums.credit += line.credit;
         if (carried) sums.carried_debit += line.credit, sums.carried_credit += line.debit;
     }
+}
+
+void PeriodFigures::take_cash(const NaiveVoucher& voucher) {
+    const bool here = voucher.period == period_;
+    for (const auto& [item, share] : voucher.cash) {
+        CashSums& sums = cash_[item];
+        sums.year_in += share.in, sums.year_out += share.out;
+        if (here) sums.in += share.in, sums.out += share.out;
+    }
+}
+
+CashSums PeriodFigures::cash(const std::string& first_item, const std::string& last_item) const {
+    CashSums all;
+    for (const auto& [item, sums] : cash_) {
+        if (item < first_item || item > last_item) continue;
+        all.in += sums.in, all.out += sums.out;
+        all.year_in += sums.year_in, all.year_out += sums.year_out;
+    }
+    return all;
+}
+
+bool PeriodFigures::year_is_whole() const {
+    std::string month = period_.substr(0, 5) + "01";
+    if (month <= ledger_.first()) {
+        if (ledger_.opened_inside_a_month()) return false;
+        month = ledger_.first();
+    }
+    for (; month < period_; month = month_after(month))
+        if (!ledger_.stands(month)) return false;
+    return true;
 }
 
 PeriodSums PeriodFigures::of(const std::string& account) const {

@@ -21,25 +21,41 @@ struct PeriodSums {
     PeriodSums& operator+=(const PeriodSums& more);
 };
 
+// What was allocated to cash-flow items: in the period, and from the year's first month on.
+struct CashSums {
+    Cents in = 0, out = 0;
+    Cents year_in = 0, year_out = 0;
+};
+
+// Which vouchers of the period count; earlier periods count as they were posted.
+enum class Counted { Posted, All };
+
 // The figures of every account that takes entries in one period, and of any account above them.
 class PeriodFigures {
 public:
-    PeriodFigures(const NaiveLedger& ledger, const std::string& period);
+    PeriodFigures(const NaiveLedger& ledger, const std::string& period,
+                  Counted counted = Counted::Posted);
 
     const std::string& period() const { return period_; }
     PeriodSums of(const std::string& account) const; // with everything below it
-    // The posted lines on the account and everything below it.
+    // The counted lines of the period on the account and everything below it.
     std::vector<NaiveLine> lines_of(const std::string& account) const;
+    CashSums cash(const std::string& first_item, const std::string& last_item) const;
+    // No month of the year up to here was passed over, and the books began with a month: then the
+    // year's beginning and its movements lead to the closing balances.
+    bool year_is_whole() const;
 
 private:
     void take_opening(const std::string& leaf, PeriodSums& sums) const;
     void take_year_begin(const std::string& leaf, PeriodSums& sums) const;
     void take_lines(const NaiveVoucher& voucher);
+    void take_cash(const NaiveVoucher& voucher);
 
     const NaiveLedger& ledger_;
     std::string period_;
     std::map<std::string, PeriodSums> leaves_;
     std::vector<NaiveLine> lines_;
+    std::map<std::string, CashSums> cash_; // by item
 };
 
 } // namespace tests

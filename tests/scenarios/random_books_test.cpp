@@ -7,6 +7,7 @@
 #include "tests/scenarios/book_comparison.h"
 #include "tests/scenarios/book_run.h"
 #include "tests/scenarios/ledger_comparison.h"
+#include "tests/scenarios/statement_comparison.h"
 
 namespace tests {
 
@@ -32,6 +33,10 @@ std::string written(const NaiveLedger& ledger) {
             batch += "INSERT INTO D6601A (NOID,ZY,KM_ID,J,D,INX) VALUES ('" + voucher.key +
                      "','往来','" + line.account + "'," + money(line.debit) + "," +
                      money(line.credit) + "," + std::to_string(place++) + ");";
+        }
+        for (const auto& [item, share] : voucher.cash) {
+            batch += "INSERT INTO D6601B (NOID,D6820ID,J,D) VALUES ('" + voucher.key + "','" +
+                     item + "'," + money(share.in) + "," + money(share.out) + ");";
         }
     }
     for (const auto& [key, figures] : ledger.balances()) {
@@ -59,6 +64,7 @@ TEST(RandomBooks, hold_in_every_period_and_account_what_plain_addition_gives) {
         sum.figures += verdict.figures;
         if (verdict.audited) ++audited;
         sum.ledger_figures += verdict.ledger_figures;
+        sum.statement_figures += verdict.statement_figures;
         if (verdict.difference.empty()) continue;
         const BookPlan shortest = shrink(plan, times_to_shrink, [](const BookPlan& shorter) {
             return !keep_books(shorter).difference.empty();
@@ -69,10 +75,12 @@ TEST(RandomBooks, hold_in_every_period_and_account_what_plain_addition_gives) {
     }
     std::cout << "seeds " << first << " to " << first + count - 1 << ": " << sum.steps
               << " steps, " << sum.vouchers << " vouchers typed, " << sum.figures
-              << " amounts of balances and " << sum.ledger_figures << " of ledgers compared, "
-              << audited << " books audited\n";
+              << " amounts of balances and " << sum.ledger_figures << " of ledgers and "
+              << sum.statement_figures << " of statements compared, " << audited
+              << " books audited\n";
     EXPECT_GT(sum.figures, 0U);
     EXPECT_GT(sum.ledger_figures, 0U);
+    EXPECT_GT(sum.statement_figures, 0U);
 }
 
 // ---- the test itself
@@ -93,33 +101,58 @@ TEST(RandomBooks, a_balance_that_is_a_cent_off_is_found) {
     EXPECT_THROW(compare_books(books, ledger), Difference);
 }
 
-TEST(RandomBooks, a_cent_that_a_ledger_shows_wrong_is_found) {
-    Books books(small_books(1));
-    NaiveLedger ledger(starting_chart());
-    ledger.set_up("2024-03-01", {{"1001", {.balance = 5000}}, {"2121", {.balance = 5000}}});
-    NaiveVoucher voucher{.key = "2024-03记001", .period = "2024-03", .word = "记", .number = 1};
-    voucher.lines = {{"100202", 700, 0}, {"510101", 0, 700}};
-    voucher.audited = true;
-    ledger.vouchers().push_back(voucher);
-    ledger.post();
-    books.execute(written(ledger));
+// March 2024: 50.00 of cash to begin with, 7.00 of sales into the bank, posted.
+class OneVoucher : public testing::Test {
+protected:
+    OneVoucher() : books(small_books(1)), ledger(starting_chart()) {
+        ledger.set_up("2024-03-01", {{"1001", {.balance = 5000}}, {"2121", {.balance = 5000}}});
+        NaiveVoucher voucher{.key = "2024-03记001", .period = "2024-03", .word = "记", .number = 1};
+        voucher.lines = {{"100202", 700, 0}, {"510101", 0, 700}};
+        voucher.cash = {{"1101", {700, 0}}};
+        voucher.audited = true;
+        ledger.vouchers().push_back(voucher);
+        ledger.post();
+        books.execute(written(ledger));
+    }
+    // `place` is "TABLE SET FIELD=FIELD+%c WHERE …".
+    void add(const std::string& cent, const std::string& place) {
+        std::string batch = "UPDATE " + place;
+        books.execute(batch.replace(batch.find("%c"), 2, cent));
+    }
+    Books books;
+    NaiveLedger ledger;
+};
+
+TEST_F(OneVoucher, a_cent_that_a_ledger_shows_wrong_is_found) {
     EXPECT_NO_THROW(compare_ledgers(books, ledger));
-    for (const char* table : {"D6601A SET J=J+%c WHERE KM_ID='100202'",
+    for (const char* place : {"D6601A SET J=J+%c WHERE KM_ID='100202'",
                               "D6601A SET D=D+%c WHERE KM_ID='510101'",
+                              "D6601B SET J=J+%c WHERE D6820ID='1101'",
                               "D6602 SET J=J+%c WHERE KM_ID='1002' AND INX=0 AND QJ='2024-03'",
                               "D6602 SET D=D+%c WHERE KM_ID='5101' AND INX=1 AND QJ='2024-03'",
                               "D6602 SET J=J+%c WHERE KM_ID='1001' AND INX=1 AND QJ='2024-02'",
                               "D6602 SET SY_D=SY_D+%c WHERE KM_ID='510101' AND INX=0 AND "
                               "QJ='2024-03'"}) {
-        const auto add = [&](const std::string& cent) {
-            std::string batch = std::string("UPDATE ") + table;
-            books.execute(batch.replace(batch.find("%c"), 2, cent));
-        };
-        add("0.01");
-        EXPECT_THROW(compare_ledgers(books, ledger), Difference) << table;
-        add("(-0.01)");
+        add("0.01", place);
+        EXPECT_THROW(compare_ledgers(books, ledger), Difference) << place;
+        add("(-0.01)", place);
     }
     EXPECT_NO_THROW(compare_ledgers(books, ledger));
+}
+
+TEST_F(OneVoucher, a_cent_that_a_statement_shows_wrong_is_found) {
+    Person person(books.data(), books.person());
+    Bookkeeper anna(person);
+    EXPECT_NO_THROW(compare_statements(anna, ledger));
+    for (const char* place : {"D6602 SET J=J+%c WHERE KM_ID='1001' AND INX=1 AND QJ='2024-03'",
+                              "D6602 SET D=D+%c WHERE KM_ID='2121' AND INX=1 AND QJ='2024-02'",
+                              "D6602 SET SY_D=SY_D+%c WHERE KM_ID='510101' AND INX=0",
+                              "D6601B SET J=J+%c WHERE D6820ID='1101'"}) {
+        add("0.01", place);
+        EXPECT_THROW(compare_statements(anna, ledger), Difference) << place;
+        add("(-0.01)", place);
+    }
+    EXPECT_NO_THROW(compare_statements(anna, ledger));
 }
 
 TEST(RandomBooks, a_plan_that_fails_is_shortened_to_the_steps_that_matter) {

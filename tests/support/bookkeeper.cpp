@@ -155,7 +155,8 @@ void Bookkeeper::allocate(const std::vector<TypedAllocation>& cash) {
 }
 
 Bookkeeper::Told Bookkeeper::change(const std::string& key, const std::vector<TypedCell>& cells,
-                                    const std::string& number) {
+                                    const std::string& number,
+                                    const std::vector<TypedAllocation>& cash) {
     open(661);
     ask({{"op", "row"}, {"control", "DBGridEh"}, {"row", row_of("NOID", key)}});
     click("Act_Modify");
@@ -163,8 +164,17 @@ Bookkeeper::Told Bookkeeper::change(const std::string& key, const std::vector<Ty
         expect_active("TF6661_1");
         if (!number.empty()) set("PZZ_H", number);
         for (const TypedCell& one : cells) cell(one.row, one.field, one.value);
+        if (!cash.empty()) allocate(cash);
         click("Act_Save");
     }
+    return told();
+}
+
+Bookkeeper::Told Bookkeeper::reverse(const std::string& key) {
+    open(661);
+    ask({{"op", "row"}, {"control", "DBGridEh"}, {"row", row_of("NOID", key)}});
+    ask_saying_yes({{"op", "click"}, {"control", "Act_Red"}});
+    if (told_.empty()) expect_active("TF6661_1");
     return told();
 }
 

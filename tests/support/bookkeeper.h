@@ -61,9 +61,10 @@ public:
     explicit Bookkeeper(Person& person) : person_(person) {}
 
     Told enter(const std::vector<TypedVoucher>& vouchers); // 661
-    // Changes cells of a voucher's lines, and its number unless "".
+    // Changes cells of a voucher's lines, its number unless "", and amounts of its allocation.
     Told change(const std::string& key, const std::vector<TypedCell>& cells,
-                const std::string& number = "");
+                const std::string& number = "", const std::vector<TypedAllocation>& cash = {});
+    Told reverse(const std::string& key); // by a red voucher, also a second time
     Told remove(const std::string& key);
     Told audit_all(); // 662: those of the current period that are not audited
     Told audit(const std::vector<std::string>& keys);
