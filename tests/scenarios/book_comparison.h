@@ -14,8 +14,8 @@ struct Difference : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// Periods, vouchers with their states, lines, cash-flow allocations, and all balances: a row that is
-// missing or one too many counts as a difference too. Answers how many amounts of balances were
+// Periods, vouchers with their states, lines, cash-flow allocations, and all balances: a row that
+// is missing or one too many counts as a difference too. Answers how many amounts of balances were
 // compared.
 std::size_t compare_books(Books& books, const NaiveLedger& ledger);
 
