@@ -29,7 +29,7 @@ work() { "$program" drive "$guide" --today 2024-01-31 < "tools/guide_books/$1.js
 step() {
     local name=$1
     shift
-    "$program" --screenshot "docs/images/guide_$name.png" "$@" "$guide"
+    "$program" --screenshot "docs/images/guide_$name.png" --today 2024-01-31 "$@" "$guide"
 }
 work 1_openings
 step openings --function 699 --key F7
@@ -38,15 +38,9 @@ step allocation --function 661 --key Down --key Enter --key F8
 step audit --function 662
 work 3_posting
 step trial_balance --function 689 --key F2
-date=() # the dialog offers today, which is not in the month of the guide
-for key in Ctrl+A 2 0 2 4 - 0 1 - 3 1; do date+=(--key "$key"); done
-step carry_forward --function 667 "${date[@]}"
+step carry_forward --function 667
 work 4_statements
 step balance_sheet --function 671 --key Down --key Right --key Right --key Right
 step income --function 673
 work 5_closing
 step closed
-# 255 colours are enough for a picture of flat grounds, and make it a third of the size.
-if command -v convert > /dev/null; then
-    for file in docs/images/*.png; do convert "$file" -strip +dither -colors 255 "PNG8:$file"; done
-fi

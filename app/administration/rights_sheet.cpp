@@ -14,7 +14,7 @@ using namespace host;
 
 namespace {
 
-constexpr Color no_such_action = 0xECECEC;
+constexpr Color no_such_action = 0xE8EFF2; // the tone of the sheet's own headings
 
 std::string field_of(const RightsAction& action) { return upper_case(std::string(action.name)); }
 
@@ -79,10 +79,11 @@ void RightsSheet::typed(TField& field, const std::string& text) {
     rows_.Post();
 }
 
+// Cells of actions that a function does not have stay empty: there is nothing to tick.
 void RightsSheet::mark(bool on) {
     const Function* function = current_function(rows_);
     for (const RightsAction& action : rights_actions())
-        rows_.FieldByName(field_of(action)).SetValue(on && function->has(action));
+        if (function->has(action)) rows_.FieldByName(field_of(action)).SetValue(on);
 }
 
 void RightsSheet::mark_row(bool on) {

@@ -112,7 +112,8 @@ desktop::DesktopServices services_for(const DesktopWanted& wanted, const std::st
     services.recent_books = {books};
     services.open_books = start_over;
     if (!wanted.screenshot.empty())
-        services.screenshot = desktop::Screenshot{wanted.function, wanted.screenshot, wanted.keys};
+        services.screenshot = desktop::Screenshot{wanted.function, wanted.screenshot, wanted.keys,
+                                                  wanted.width, wanted.height};
     return services;
 }
 
@@ -134,7 +135,7 @@ bool let_in_without_asking(Workplace& work, const DesktopWanted& wanted, const s
 
 int run_on(const DesktopWanted& wanted, const std::string& books, int argc, char** argv) {
     Module::loaded();
-    Workplace work(books, std::nullopt);
+    Workplace work(books, wanted.today);
     work.files().offer_pdf(pdf_writer());
     host::TForm frame(nullptr); // owns the forms: they go before the books are closed
     work.settings().write(settings_section, last_books, books);
@@ -154,8 +155,10 @@ int run_desktop(const DesktopWanted& wanted) {
     try {
         return run_on(wanted, books_to_open(wanted.books), 1, argv);
     } catch (const Refusal& refusal) {
+        if (!wanted.screenshot.empty()) throw; // nobody is there to read it in a window
         return desktop::show_failure(1, argv, refusal.what());
     } catch (const engines::Failure& failure) {
+        if (!wanted.screenshot.empty()) throw;
         return desktop::show_failure(1, argv, sentence_for(failure.error()));
     }
 }

@@ -11,7 +11,7 @@ void show_keys(QWidget* over) {
                  "F2  保存或确定        F3  查询条件        F5  刷新\n"
                  "Insert  新增或加行    Ctrl+Delete  删行\n"
                  "Enter  下一项；在列表中打开当前行\n"
-                 "F4  打开选择窗口      Esc  离开\n"
+                 "F4  打开选择窗口、日历      Alt+↓  打开下拉      Esc  离开\n"
                  "Ctrl+C  复制为文本    Ctrl+E  导出\n"
                  "Ctrl+Tab  下一页      Ctrl+W  关闭当前页",
                  over);

@@ -39,6 +39,7 @@ public:
         QPalette red = refusal_->palette();
         red.setColor(QPalette::WindowText, token::cinnabar_1);
         refusal_->setPalette(red);
+        refusal_->hide();
         column->addWidget(refusal_);
         body()->addLayout(column);
         add_buttons();
@@ -83,6 +84,7 @@ private:
         const std::string refused = try_login_(utf8(user_->text()), utf8(password_->text()));
         if (refused.empty()) return accept();
         refusal_->setText(qt(refused));
+        refusal_->show();
         password_->selectAll();
         password_->setFocus();
         adjustSize();

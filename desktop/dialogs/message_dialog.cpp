@@ -20,7 +20,7 @@ constexpr int message_width = 488, icon = 28;
 class MessageDialog : public PanelDialog {
 public:
     MessageDialog(const QString& title, const std::string& text, const std::string& drawing,
-                  QWidget* over)
+                  QWidget* over, const QColor& ink = token::indigo_1)
         : PanelDialog(title, over, false) {
         setObjectName("message");
         setFixedWidth(message_width);
@@ -28,7 +28,7 @@ public:
         row->setContentsMargins(20, 14, 20, 14);
         row->setSpacing(16);
         auto* picture = new QLabel(this);
-        picture->setPixmap(icons::pixmap(drawing, icon, token::indigo_1, devicePixelRatioF()));
+        picture->setPixmap(icons::pixmap(drawing, icon, ink, devicePixelRatioF()));
         row->addWidget(picture, 0, Qt::AlignTop);
         auto* words = new QLabel(qt(text), this);
         words->setObjectName("text");
@@ -47,9 +47,9 @@ public:
         auto* rule = new QFrame(this);
         rule->setFixedHeight(1);
         rule->setAutoFillBackground(true);
-        QPalette ink = rule->palette();
-        ink.setColor(QPalette::Window, token::rule_1);
-        rule->setPalette(ink);
+        QPalette line = rule->palette();
+        line.setColor(QPalette::Window, token::rule_1);
+        rule->setPalette(line);
         body()->addWidget(rule);
         buttons_ = new QHBoxLayout;
         buttons_->setContentsMargins(14, 10, 14, 10);
@@ -99,6 +99,12 @@ private:
 
 void show_message(const QString& title, const std::string& text, QWidget* over) {
     MessageDialog dialog(title, text, "info", over);
+    dialog.add_button(QStringLiteral("确定"), "Enter", true, Qt::Key_Space, QDialog::Accepted);
+    dialog.run();
+}
+
+void show_trouble(const QString& title, const std::string& text) {
+    MessageDialog dialog(title, text, "triangle-alert", nullptr, token::cinnabar_1);
     dialog.add_button(QStringLiteral("确定"), "Enter", true, Qt::Key_Space, QDialog::Accepted);
     dialog.run();
 }

@@ -52,7 +52,9 @@ void PanelDialog::showEvent(QShowEvent* event) {
     resize(natural);
     if (QWidget* over = parentWidget()) {
         const QRect below = over->window()->geometry();
-        move(below.center() - QPoint(width() / 2, height() / 2 + below.height() / 24));
+        const QPoint at = below.center() - QPoint(width() / 2, height() / 2 + below.height() / 24);
+        // Its caption bar is always in reach.
+        move(at.x(), std::max(at.y(), below.top()));
     }
 }
 

@@ -11,6 +11,7 @@
 #include "desktop/dialogs/message_dialog.h"
 #include "desktop/dialogs/progress_dialog.h"
 #include "desktop/frame/desktop_interface.h"
+#include "desktop/frame/few_colours.h"
 #include "desktop/frame/main_window.h"
 #include "desktop/frame/snapshot.h"
 #include "desktop/theme/text.h"
@@ -47,12 +48,22 @@ int take_picture(MainWindow& window, const Screenshot& wanted) {
             window.open(*function);
     });
     press_keys_then(wanted.keys, [&] {
-        written = snapshot(window).save(qt(wanted.file), "PNG", 0);
-        std::exit(written ? 0 : 1); // modal loops may still stand; the picture was all
+        written = with_few_colours(snapshot(window)).save(qt(wanted.file), "PNG", 0);
+        QApplication::exit(); // ends modal loops too: everybody leaves in order
     });
     QApplication::exec();
     return written ? 0 : 1;
 }
+
+// The host speaks to the person through the desktop while it runs, and to nobody afterwards: forms
+// that are still open when it ends go without it.
+class AtWork {
+public:
+    explicit AtWork(DesktopInterface& interface) { host::the_host().ui = &interface; }
+    ~AtWork() { host::the_host().ui = nullptr; }
+    AtWork(const AtWork&) = delete;
+    AtWork& operator=(const AtWork&) = delete;
+};
 
 } // namespace
 
@@ -61,7 +72,7 @@ int run(int argc, char** argv, const DesktopServices& services) {
     application.setApplicationName(QStringLiteral("帐房"));
     apply_theme(application);
     DesktopInterface interface;
-    host::the_host().ui = &interface;
+    const AtWork at_work(interface);
     const std::string company = services.books ? services.books().company : "";
     if (services.log_in && !services.screenshot &&
         !log_in(company, services.last_user, services.log_in))
@@ -89,7 +100,7 @@ void work_with_progress(int argc, char** argv,
 int show_failure(int argc, char** argv, const std::string& sentence) {
     QApplication application(argc, argv);
     apply_theme(application);
-    show_message(QStringLiteral("帐房"), sentence, nullptr);
+    show_trouble(QStringLiteral("帐房"), sentence);
     return 1;
 }
 

@@ -61,7 +61,7 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     host::TDBGridEh* grid = view_.grid();
     if (!grid || !grid->DataSet || index.row() >= grid->DataSet->RecordCount()) return;
     const host::CellParams params = grid->cell_params(index.row(), index.column());
-    paint_ground(*painter, option.rect, index.row(), params);
+    painter->fillRect(option.rect, ground_of(index.row(), params));
     paint_content(*painter, option.rect, index.row(), index.column(), params);
     paint_lines(*painter, option.rect, index.row(), index.column());
 }
@@ -72,8 +72,7 @@ bool GridDelegate::is_summary(int row) const {
     return view_.grid()->cell_params(row, last).Font == summary_ink;
 }
 
-void GridDelegate::paint_ground(QPainter& painter, const QRect& cell, int row,
-                                const host::CellParams& params) const {
+QColor GridDelegate::ground_of(int row, const host::CellParams& params) const {
     QColor ground = token::of(params.Background, token::paper_0);
     // Rows a form writes in blue are summaries: they stand on a ground of their own.
     if (params.Background == host::clDefault && params.Font == summary_ink && is_summary(row))
@@ -81,7 +80,20 @@ void GridDelegate::paint_ground(QPainter& painter, const QRect& cell, int row,
     if (view_.row_edited(row)) ground = token::indigo_4;
     else if (view_.row_selected(row))
         ground = view_.shows_focus() ? token::indigo_3 : token::selected_quiet;
-    painter.fillRect(cell, ground);
+    return ground;
+}
+
+// Right of the last column a row goes on as it began, unless its cells differ from each other.
+void GridDelegate::paint_rest(QPainter& painter, const QRect& rest, int row) const {
+    host::TDBGridEh& grid = *view_.grid();
+    const int last = static_cast<int>(grid.Columns.size()) - 1;
+    host::CellParams params = grid.cell_params(row, last);
+    if (params.Background != grid.cell_params(row, 0).Background)
+        params.Background = host::clDefault;
+    painter.fillRect(rest, ground_of(row, params));
+    const bool selected = view_.row_selected(row) && view_.shows_focus();
+    painter.fillRect(rest.left(), rest.bottom(), rest.width(), 1,
+                     selected ? token::selected_rule : token::rule_1);
 }
 
 void GridDelegate::paint_content(QPainter& painter, const QRect& cell, int row, int column,
@@ -89,7 +101,11 @@ void GridDelegate::paint_content(QPainter& painter, const QRect& cell, int row, 
     const host::TDBGridEh& grid = *view_.grid();
     const auto& shown = grid.Columns[static_cast<std::size_t>(column)];
     const QString text = qt(grid.cell_text(row, column));
-    if (shown.CheckBox) return paint_check_box(painter, cell, is_set(text));
+    if (shown.CheckBox) {
+        // A flag that means nothing in its row: the form tints the cell and leaves it empty.
+        const bool meaningless = text.isEmpty() && params.Background != host::clDefault;
+        return meaningless ? void() : paint_check_box(painter, cell, is_set(text));
+    }
     const QColor ink = token::of(params.Font, token::ink_1);
     if (shown.RuledAmount) {
         digit_boxes::paint_rules(painter, cell.adjusted(0, 0, 0, -1));

@@ -29,11 +29,11 @@ constexpr int rows_measured = 200, widest_by_content = 360;
 
 GridView::GridView(host::TDBGridEh& grid, FormView& form, QWidget* parent)
     : QTableView(parent), grid_(&grid), form_(form), model_(new GridModel(grid, this)),
-      header_(new GridHeader(grid, this)), editor_(new CellEditor(viewport())),
-      popup_(new SuggestionPopup) {
+      header_(new GridHeader(grid, this)), delegate_(new GridDelegate(*this)),
+      editor_(new CellEditor(viewport())), popup_(new SuggestionPopup) {
     setObjectName("grid");
     setModel(model_);
-    setItemDelegate(new GridDelegate(*this));
+    setItemDelegate(delegate_);
     setHorizontalHeader(header_);
     setVerticalHeader(new RowNumbers(*this));
     setFrameShape(QFrame::NoFrame);
@@ -255,8 +255,8 @@ void GridView::paintEvent(QPaintEvent* event) {
     painter.drawText(viewport()->rect(), Qt::AlignCenter, qt(grid_->EmptyText));
 }
 
-// A paper form has its rows ruled down to the total, written or not; any grid has its row lines
-// drawn through to the right edge.
+// A paper form has its rows ruled down to the total, written or not; any grid has its rows drawn
+// through to the right edge.
 void GridView::paint_empty_rows(QPainter& painter) {
     const int right = header_->length() - header_->offset();
     const int last = model_->rowCount() - 1;
@@ -266,7 +266,10 @@ void GridView::paint_empty_rows(QPainter& painter) {
         y = rowViewportPosition(row) + rowHeight(row);
         if (y > viewport()->height()) return;
         if (right < viewport()->width())
-            painter.fillRect(right, y - 1, viewport()->width() - right, 1, token::rule_1);
+            delegate_->paint_rest(painter,
+                                  QRect(right, rowViewportPosition(row),
+                                        viewport()->width() - right, rowHeight(row)),
+                                  row);
     }
     if (!is_ruled(*grid_)) return;
     const int height = row_height(*grid_);

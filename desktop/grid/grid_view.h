@@ -10,6 +10,7 @@
 namespace desktop {
 
 class CellEditor;
+class GridDelegate;
 class GridHeader;
 class GridModel;
 class SuggestionPopup;
@@ -69,6 +70,7 @@ private:
     FormView& form_;
     GridModel* model_;
     GridHeader* header_;
+    GridDelegate* delegate_;
     CellEditor* editor_;
     QPointer<SuggestionPopup> popup_; // a child of the window while it shows
     std::vector<host::Suggestion> offered_;

@@ -72,6 +72,9 @@ protected:
     void paint_body(QPainter& painter, const QRect& body) override;
     QString hint() const override;
     QString right_hint() const override;
+
+private:
+    void paint_scale(QPainter& painter, const QRect& plot, std::int64_t low, std::int64_t high);
 };
 
 // What is to do, most urgent first; Enter opens it.

@@ -10,7 +10,7 @@
 namespace desktop {
 namespace {
 
-constexpr int column_width = 36;
+constexpr int column_width = 36, scale_width = 56;
 
 // The next of 1, 2, 2.5, 5 times a power of ten: the height of the plot in whole yuan.
 std::int64_t nice_above(std::int64_t yuan) {
@@ -33,6 +33,14 @@ QString month_label(const std::string& period, bool first) {
                                : label;
 }
 
+// "15万", "2500": round figures are said as bookkeepers say them.
+QString scale_label(std::int64_t yuan) {
+    constexpr std::int64_t ten_thousand = 10'000;
+    if (yuan % (ten_thousand / 10) != 0 || std::abs(yuan) < ten_thousand)
+        return QString::number(yuan);
+    return QString::number(static_cast<double>(yuan) / ten_thousand) + QStringLiteral("万");
+}
+
 } // namespace
 
 ProfitCard::ProfitCard(QWidget* parent) : Card(QStringLiteral("利润"), parent) {}
@@ -49,6 +57,21 @@ QString ProfitCard::right_hint() const {
     for (const auto& month : figures().months)
         if (month.period.starts_with(year)) sum += month.profit;
     return QStringLiteral("%1年累计 %2").arg(qt(year), amount_of(sum));
+}
+
+// The lines of the plot: nothing, its top and half of it. A loss has its figure at its column.
+void ProfitCard::paint_scale(QPainter& painter, const QRect& plot, std::int64_t low,
+                             std::int64_t high) {
+    painter.setFont(fonts::small());
+    std::vector<std::int64_t> lines{0};
+    if (high > 1) lines.insert(lines.end(), {high, high / 2});
+    for (const std::int64_t yuan : lines) {
+        const int y = plot.bottom() - static_cast<int>((yuan - low) * plot.height() / (high - low));
+        painter.fillRect(plot.x(), y, plot.width(), 1, yuan == 0 ? token::rule_3 : token::rule_1);
+        painter.setPen(token::ink_3);
+        painter.drawText(QRect(plot.x() - scale_width, y - 10, scale_width - 8, 20),
+                         Qt::AlignVCenter | Qt::AlignRight, scale_label(yuan));
+    }
 }
 
 void ProfitCard::paint_body(QPainter& painter, const QRect& body) {
@@ -69,11 +92,11 @@ void ProfitCard::paint_body(QPainter& painter, const QRect& body) {
     if (low < 0) low = -nice_above(-low);
     if (high == low) high = 1;
     // Below a loss stands its figure, above the names of the months.
-    const QRect plot = body.adjusted(32, 30, -32, low < 0 ? -50 : -34);
+    const QRect plot = body.adjusted(16 + scale_width, 30, -32, low < 0 ? -50 : -34);
     auto y_of = [&](std::int64_t yuan) {
         return plot.bottom() - static_cast<int>((yuan - low) * plot.height() / (high - low));
     };
-    painter.fillRect(plot.x(), y_of(high), plot.width(), 1, token::rule_1);
+    paint_scale(painter, plot, low, high);
     const int step = plot.width() / months_shown;
     int place = 0;
     for (const auto& month : figures().months) {
@@ -102,7 +125,6 @@ void ProfitCard::paint_body(QPainter& painter, const QRect& body) {
                              (open ? QStringLiteral("（未结转）") : QString()));
         ++place;
     }
-    painter.fillRect(plot.x(), y_of(0), plot.width(), 1, token::rule_3);
 }
 
 } // namespace desktop

@@ -1,6 +1,7 @@
 // A choice from a list, or a text with proposals.
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QStyledItemDelegate>
 
 #include "desktop/renderers/edit_sync.h"
 #include "desktop/renderers/field_edit.h"
@@ -10,6 +11,8 @@
 
 namespace desktop {
 namespace {
+
+constexpr int most_shown = 14; // the months of a year without a scroll bar
 
 void refresh(QComboBox* widget, host::TComboBox& box) {
     const QSignalBlocker quiet(widget);
@@ -37,6 +40,8 @@ QWidget* draw_combo_box(host::TComboBox& box, FormView& view) {
     widget->setEditable(!box.DropDownList);
     widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     widget->setMinimumWidth(64);
+    widget->setMaxVisibleItems(most_shown);
+    widget->setItemDelegate(new QStyledItemDelegate(widget)); // the style sheet's own rows
     view.claim(widget, box);
     view.set_own_keys(box, [widget](const host::Key& key) {
         using host::KeyCode;

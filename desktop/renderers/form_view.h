@@ -47,6 +47,9 @@ public:
     // Widgets that take keys for themselves (text, lists) say which; absent: none.
     using OwnKeys = std::function<OwnKey(const host::Key&)>;
     void set_own_keys(const host::TWinControl& control, OwnKeys own);
+    // Labels drawn while this is on stand beside conditions or in the line at the bottom.
+    void set_quiet(bool quiet) { quiet_ = quiet; }
+    bool quiet() const { return quiet_; }
     // Run once when the form goes, before the view does.
     void at_release(std::function<void()> action) { release_actions_.push_back(std::move(action)); }
     // Run after every event, before the focus is looked at.
@@ -85,6 +88,7 @@ private:
     std::vector<std::pair<host::TComponent*, int>> handles_;
     std::vector<std::function<void()>> release_actions_, after_actions_;
     bool syncing_ = false, replaying_ = false;
+    bool quiet_ = false;
 };
 
 } // namespace desktop

@@ -20,6 +20,7 @@ public:
     // Tool buttons give up the hint first and the caption second when there is no room.
     enum class Detail { Full, NoHint, IconOnly };
     void set_detail(Detail detail);
+    Detail detail() const { return detail_; }
     int width_at(Detail detail) const;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }

@@ -4,6 +4,7 @@
 
 #include "desktop/renderers/form_view.h"
 #include "desktop/renderers/renderers.h"
+#include "desktop/theme/amount_text.h"
 #include "desktop/theme/fonts.h"
 #include "desktop/theme/icons.h"
 #include "desktop/theme/text.h"
@@ -12,12 +13,25 @@
 namespace desktop {
 namespace {
 
-class ClickableLabel : public QLabel {
+// A text, or an amount with the gaps that amounts have in grids; it may be clicked.
+class TextLabel : public QLabel {
 public:
     using QLabel::QLabel;
     std::function<void()> on_click;
+    QSize sizeHint() const override {
+        QSize size = QLabel::sizeHint();
+        if (looks_like_amount(text())) size.setWidth(amount_width(text(), fontMetrics()) + 2);
+        return size;
+    }
 
 protected:
+    void paintEvent(QPaintEvent* event) override {
+        if (!looks_like_amount(text())) return QLabel::paintEvent(event);
+        QPainter painter(this);
+        painter.setFont(font());
+        paint_amount(painter, rect(), text(),
+                     amount_color(text(), palette().color(QPalette::WindowText)));
+    }
     void mouseReleaseEvent(QMouseEvent* event) override {
         if (on_click && rect().contains(event->position().toPoint())) on_click();
         else QLabel::mouseReleaseEvent(event);
@@ -30,40 +44,54 @@ public:
     explicit ConditionLine(QWidget* parent) : QLabel(parent) {
         setContentsMargins(20, 0, 0, 0);
         setFont(fonts::small());
+        setMinimumHeight(token::condition_line - 4);
     }
 
 protected:
     void paintEvent(QPaintEvent* event) override {
         QLabel::paintEvent(event);
+        if (text().isEmpty()) return;
         QPainter painter(this);
         icons::paint(painter, "list-filter", QRect(0, 0, 16, height()), 14, token::ink_3);
     }
 };
+
+// Labels beside a line of conditions or at the bottom of a form are as small as those are.
+QFont font_of(const host::TLabel& label, bool quiet) {
+    return quiet ? fonts::small(label.Bold) : fonts::body(label.Bold);
+}
+
+QColor ink_of(const host::TLabel& label, bool quiet) {
+    if (label.OnClick) return token::indigo_1;
+    return quiet ? token::ink_2 : token::ink_1;
+}
 
 } // namespace
 
 QWidget* draw_label(host::TLabel& label, FormView& view) {
     const bool condition = label.Name() == "ConditionLabel";
     auto* widget = condition ? static_cast<QLabel*>(new ConditionLine(&view))
-                             : new ClickableLabel(&view);
+                             : new TextLabel(&view);
     widget->setTextFormat(Qt::PlainText);
-    view.listen(label, [widget, &label, condition] {
+    if (condition) widget->setProperty("keeps room", true);
+    view.listen(label, [widget, &label, condition, quiet = condition || view.quiet()] {
         widget->setText(qt(label.Caption.get()));
-        const bool clickable = label.OnClick && !condition;
-        QFont font = fonts::body(label.Bold);
-        font.setUnderline(clickable);
-        if (!condition) widget->setFont(font);
-        const QColor plain = condition ? token::ink_2 : token::ink_1;
+        if (!condition) {
+            QFont font = font_of(label, quiet);
+            font.setUnderline(static_cast<bool>(label.OnClick));
+            widget->setFont(font);
+        }
         QPalette ink = widget->palette();
-        ink.setColor(QPalette::WindowText,
-                     token::of(label.FontColor, clickable ? token::indigo_1 : plain));
+        ink.setColor(QPalette::WindowText, token::of(label.FontColor, ink_of(label, quiet)));
         widget->setPalette(ink);
         widget->setToolTip(qt(label.Hint.get()));
-        widget->setVisible(label.Visible);
+        // An empty label takes no room, unless its place is the rest of a line.
+        const bool stands = !label.Caption->empty() || widget->property("keeps room").toBool();
+        widget->setVisible(label.Visible && stands);
     });
     if (label.OnClick && !condition) {
         widget->setCursor(Qt::PointingHandCursor);
-        static_cast<ClickableLabel*>(widget)->on_click = [&label, &view] {
+        static_cast<TextLabel*>(widget)->on_click = [&label, &view] {
             if (view.form()) view.run([&label] { label.OnClick(); });
         };
     }

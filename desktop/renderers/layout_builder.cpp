@@ -53,7 +53,7 @@ void add_block(const std::vector<LayoutNode>& rows, QVBoxLayout& bands, FormView
     column->setSpacing(kind == FormKind::Dialog ? 12 : token::gap);
     LayoutPlace place{view};
     place.in_rows = true;
-    place.document = kind == FormKind::Document;
+    if (kind == FormKind::List) place.label_height = token::condition_line - 4;
     place.label_width = kind == FormKind::List ? 0 : shared_label_width(rows);
     for (const LayoutNode& row : rows) add_node(row, *column, place);
     bands.addLayout(column);
@@ -113,7 +113,7 @@ void add_ruled(const LayoutNode& node, QVBoxLayout& bands, FormView& view) {
     row->setContentsMargins(16, status ? 3 : 12, 16, status ? 3 : 12);
     row->setSpacing(status ? 16 : token::gap);
     LayoutPlace place{view};
-    place.status = status;
+    place.quiet = status;
     add_node(node, *row, place);
     bands.addWidget(band);
 }

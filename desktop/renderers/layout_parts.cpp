@@ -26,7 +26,7 @@ namespace {
 using host::LayoutNode;
 using Kind = LayoutNode::Kind;
 
-constexpr int between_fields = 16;
+constexpr int between_fields = 16, widest_sentence = 460;
 
 QString label_of(const LayoutNode& node) {
     if (!node.text.empty() || !node.control) return qt(node.text);
@@ -49,10 +49,36 @@ QString first_label(const LayoutNode& node) {
 
 JustifiedLabel* new_label(const QString& text, const LayoutPlace& place) {
     auto* label = new JustifiedLabel(text, &place.view);
-    if (place.status) label->setFont(fonts::small());
+    if (place.quiet) label->setFont(fonts::small());
     if (place.label_width > 0) label->setFixedWidth(place.label_width);
     label->setFixedHeight(token::control);
     return label;
+}
+
+// What all labels have from the place they stand in.
+void fit_label(const LayoutNode& node, QWidget& widget, const LayoutPlace& place) {
+    auto* label = dynamic_cast<host::TLabel*>(node.control);
+    if (!label) return;
+    if (node.width < 0) {
+        widget.setProperty("keeps room", true);
+        widget.setVisible(label->Visible);
+    }
+    if (place.label_height > 0) widget.setMinimumHeight(place.label_height);
+}
+
+QWidget* draw_in_place(const LayoutNode& node, const LayoutPlace& place) {
+    place.view.set_quiet(place.quiet);
+    QWidget* widget = draw_control(*node.control, place.view);
+    place.view.set_quiet(false);
+    fit_label(node, *widget, place);
+    give_width(node, *widget);
+    return widget;
+}
+
+bool holds(const LayoutNode& node, bool (*wanted)(const host::TControl&)) {
+    if (node.control && wanted(*node.control)) return true;
+    return std::any_of(node.children.begin(), node.children.end(),
+                       [wanted](const LayoutNode& child) { return holds(child, wanted); });
 }
 
 void add_field(const LayoutNode& node, QBoxLayout& box, const LayoutPlace& place) {
@@ -66,20 +92,18 @@ void add_field(const LayoutNode& node, QBoxLayout& box, const LayoutPlace& place
     } else if (place.label_width > 0 && place.in_rows) {
         row->addSpacing(place.label_width + token::gap);
     }
-    QWidget* widget = draw_control(*node.control, place.view);
+    QWidget* widget = draw_in_place(node, place);
     widget->setAccessibleName(qt(node.control->Name()));
     // A text that takes the rest is cut where the rest ends, instead of pushing the window wider.
     if (node.width < 0 && dynamic_cast<host::TLabel*>(node.control))
         widget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    give_width(node, *widget);
     row->addWidget(widget, node.width < 0 ? 1 : 0);
     if (place.in_rows && node.width >= 0) row->addStretch(1);
     box.addLayout(row, node.width < 0 ? 1 : 0);
 }
 
 void add_control(const LayoutNode& node, QBoxLayout& box, const LayoutPlace& place) {
-    QWidget* widget = draw_control(*node.control, place.view);
-    give_width(node, *widget);
+    QWidget* widget = draw_in_place(node, place);
     if (!place.in_rows) {
         box.addWidget(widget, node.width < 0 ? 1 : 0, Qt::AlignVCenter);
         return;
@@ -119,6 +143,14 @@ void add_columns(const LayoutNode& node, QBoxLayout& box, LayoutPlace place) {
     row->setSpacing(between_fields);
     const bool lined_up = place.in_rows;
     place.in_rows = false;
+    place.quiet = place.quiet || holds(node, [](const host::TControl& control) {
+        return control.Name() == "ConditionLabel";
+    });
+    // A badge comes and goes; the rows around it stay where they are.
+    if (holds(node, [](const host::TControl& control) {
+            return dynamic_cast<const host::TPanel*>(&control) != nullptr;
+        }))
+        row->addStrut(token::control);
     for (std::size_t i = 0; i < node.children.size();) {
         if (is_segment(node.children[i])) {
             i = add_segments(node.children, i, *row, place);
@@ -166,6 +198,10 @@ void add_text(const LayoutNode& node, QBoxLayout& box, const LayoutPlace& place)
     label->setTextFormat(Qt::PlainText);
     label->setFont(fonts::small());
     label->setWordWrap(place.in_rows);
+    // A sentence stands on one line where a dialog can be as wide as it.
+    if (place.in_rows)
+        label->setMinimumWidth(std::min(label->fontMetrics().horizontalAdvance(label->text()) + 2,
+                                        widest_sentence));
     QPalette ink = label->palette();
     ink.setColor(QPalette::WindowText, place.in_rows ? token::ink_2 : token::ink_3);
     label->setPalette(ink);

@@ -16,8 +16,8 @@ struct LayoutPlace {
     FormView& view;
     int label_width = 0;   // of the first label of a row; 0 natural
     bool in_rows = false;  // directly below others, so labels line up
-    bool document = false;
-    bool status = false;   // in the quiet line at the bottom
+    bool quiet = false;    // in the line at the bottom, or beside the conditions of a list
+    int label_height = 0;  // least height of a label that stands in a row; 0 natural
 };
 
 // Adds the node and everything in it at the end of `box`.

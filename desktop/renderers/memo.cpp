@@ -3,14 +3,19 @@
 
 #include "desktop/renderers/edit_sync.h"
 #include "desktop/renderers/form_view.h"
+#include "desktop/renderers/layout_builder.h"
 #include "desktop/renderers/renderers.h"
 #include "desktop/theme/text.h"
+#include "host/forms/form.h"
 
 namespace desktop {
 
 QWidget* draw_memo(host::TMemo& memo, FormView& view) {
     auto* widget = new QPlainTextEdit(&view);
     widget->setTabChangesFocus(true);
+    // Only a list fills its window to the edges; there the lines around the text are the window's.
+    if (view.form() && kind_of(view.form()->layout) == FormKind::List)
+        widget->setProperty("part", "to the edges");
     view.claim(widget, memo);
     view.set_own_keys(memo, [](const host::Key& key) {
         using host::KeyCode;

@@ -55,15 +55,23 @@ void SuggestionPopup::offer(const std::vector<host::Suggestion>& rows, const QSt
         widths_.push_back(std::clamp(width_of(i), 56, 320));
         width += widths_.back() + 16;
     }
-    const bool code_wanted = !rows_.empty() && !rows_.front().key.empty();
-    current_ = lowest_ = code_wanted ? 0 : -1;
-    for (std::size_t i = 0; code_wanted && i < rows_.size(); ++i)
-        if (qt(rows_[i].value) == typed) current_ = static_cast<int>(i);
+    choose_first();
     keep_in_sight();
     stand_beside(edit, QSize(std::max({width, edit.width(), 320}), shown() * row + hint + 2));
     show();
     raise();
     update();
+}
+
+void SuggestionPopup::choose_first() {
+    const bool code_wanted = !rows_.empty() && !rows_.front().key.empty();
+    int said = -1;
+    for (std::size_t i = 0; code_wanted && i < rows_.size(); ++i)
+        if (qt(rows_[i].value) == typed_) said = static_cast<int>(i);
+    const bool begun = said < 0 && std::all_of(typed_.begin(), typed_.end(),
+                                               [](QChar c) { return c.isDigit(); });
+    lowest_ = code_wanted && !begun ? 0 : -1;
+    current_ = said >= 0 ? said : lowest_;
 }
 
 // Inside the window of the edit; as a window of its own where that one is too small for it.

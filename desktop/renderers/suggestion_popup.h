@@ -16,8 +16,9 @@ class SuggestionPopup : public QFrame {
 public:
     SuggestionPopup();
     // Shows the list below `edit` (above where there is no room), or renews it. Where a code is
-    // wanted (rows with a key) the row that says what was typed, else the first, is chosen at once;
-    // a free text stays until the person moves into the list.
+    // wanted (rows with a key) the row that says what was typed, else the first, is chosen at once.
+    // A free text stays until the person moves into the list; so does a number that is not the
+    // whole code of any row: it may stand for a branch of the chart, and no account is guessed.
     void offer(const std::vector<host::Suggestion>& rows, const QString& typed, QWidget& edit);
     int current() const { return current_; } // the chosen row; -1 while none is
     // Enter and Tab take the chosen row; taking it is the owner's.
@@ -32,6 +33,7 @@ protected:
 
 private:
     int shown() const;
+    void choose_first();
     void stand_beside(QWidget& edit, QSize size);
     int width_of(std::size_t column) const;
     void paint_row(QPainter& painter, int index, const QRect& row) const;

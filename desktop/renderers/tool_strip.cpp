@@ -4,7 +4,6 @@
 #include <QPainter>
 
 #include "desktop/renderers/form_view.h"
-#include "desktop/renderers/hinted_button.h"
 #include "desktop/theme/text.h"
 #include "desktop/theme/tokens.h"
 #include "host/controls/buttons.h"
@@ -22,6 +21,13 @@ bool leaves(const host::TAction& action) { return action.Icon == "log-out"; }
 bool is_purpose(const host::TAction& action) {
     return action.Icon == "plus" || action.Icon == "save" || action.Icon == "stamp" ||
            action.Icon == "calculator";
+}
+
+// The form's own hint; a button that lost its caption or key says them here.
+QString balloon_of(const host::TAction& action, Detail detail) {
+    const QString hint = qt(action.Hint.get()), key = qt(action.ShortCut);
+    if (!hint.isEmpty() || detail == Detail::Full) return hint;
+    return key.isEmpty() ? qt(action.Caption.get()) : qt(action.Caption.get()) + "  " + key;
 }
 
 } // namespace
@@ -42,7 +48,6 @@ void ToolStrip::add_button(host::TAction& action, FormView& view) {
     view.listen(action, [this, button, &action] {
         button->set_drawing(action.Icon);
         button->set_texts(qt(action.Caption.get()), qt(action.ShortCut));
-        button->setToolTip(qt(action.Hint.get()));
         button->setEnabled(action.Enabled);
         arrange();
     });
@@ -59,16 +64,42 @@ void ToolStrip::arrange() {
         if (entry.action->Visible) first = false;
         entry.button->set_look(filled ? ButtonLook::PrimaryTool : ButtonLook::Tool);
     }
-    auto width_at = [this](Detail detail) {
-        int width = 16;
-        for (auto& entry : entries_)
-            if (!entry.action) width += rule_room;
-            else if (entry.action->Visible) width += entry.button->width_at(detail) + 2 + gap;
-        return width;
-    };
-    Detail detail = Detail::Full;
-    if (width_at(detail) > width()) detail = Detail::NoHint;
-    if (width_at(detail) > width()) detail = Detail::IconOnly;
+    fit();
+    place();
+}
+
+int ToolStrip::used_width() const {
+    int used = 16;
+    for (const auto& entry : entries_)
+        if (!entry.action) used += rule_room;
+        else if (entry.action->Visible) used += entry.button->sizeHint().width() + gap;
+    return used;
+}
+
+// The last button that still says more than `detail` says that little; false when there is none.
+bool ToolStrip::shorten_one(Detail detail) {
+    for (auto entry = entries_.rbegin(); entry != entries_.rend(); ++entry) {
+        if (!entry->action || !entry->action->Visible) continue;
+        HintedButton& button = *entry->button;
+        if (button.width_at(detail) >= button.width_at(button.detail())) continue;
+        button.set_detail(detail);
+        button.setToolTip(balloon_of(*entry->action, detail));
+        return true;
+    }
+    return false;
+}
+
+void ToolStrip::fit() {
+    for (auto& entry : entries_) {
+        if (!entry.action) continue;
+        entry.button->set_detail(Detail::Full);
+        entry.button->setToolTip(balloon_of(*entry.action, Detail::Full));
+    }
+    for (const Detail detail : {Detail::NoHint, Detail::IconOnly})
+        while (used_width() > width() && shorten_one(detail)) {}
+}
+
+void ToolStrip::place() {
     int x = 8;
     bool rule_due = false;
     rules_.clear();
@@ -79,7 +110,6 @@ void ToolStrip::arrange() {
         }
         entry.button->setVisible(entry.action->Visible);
         if (!entry.action->Visible) continue;
-        entry.button->set_detail(detail);
         const int wide = entry.button->sizeHint().width();
         if (leaves(*entry.action)) {
             entry.button->setGeometry(width() - 8 - wide, 6, wide, token::control);

@@ -5,6 +5,8 @@
 
 #include <vector>
 
+#include "desktop/renderers/hinted_button.h"
+
 namespace host {
 class TAction;
 }
@@ -12,10 +14,10 @@ class TAction;
 namespace desktop {
 
 class FormView;
-class HintedButton;
 
 // Null actions part groups. The first shown action is filled when it is what the form is for
-// (add, save, audit, compute). When the window is narrow the key hints go first, the captions next.
+// (add, save, audit, compute). When the window is narrow the key hints go first, the captions next,
+// each from the right; what a button does not say then stands in its balloon.
 class ToolStrip : public QWidget {
 public:
     ToolStrip(const std::vector<host::TAction*>& actions, FormView& view);
@@ -27,6 +29,10 @@ protected:
 private:
     void add_button(host::TAction& action, FormView& view);
     void arrange();
+    void fit();
+    void place();
+    int used_width() const;
+    bool shorten_one(HintedButton::Detail detail);
     struct Entry {
         host::TAction* action = nullptr; // null: a rule between groups
         HintedButton* button = nullptr;

@@ -17,23 +17,29 @@ void paint_radio(QPainter& painter, const QRect& box, bool checked, bool focus) 
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF circle = QRectF(box).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.setBrush(token::paper_0);
-    painter.setPen(QPen(focus ? token::indigo_2 : token::rule_3, 1));
-    if (checked) {
+    if (focus) { // a ring of its own, and room between it and the dot
+        painter.setPen(QPen(token::indigo_2, 2));
+        painter.drawEllipse(circle.adjusted(0.5, 0.5, -0.5, -0.5));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(token::indigo_1);
+        if (checked) painter.drawEllipse(circle.adjusted(3.5, 3.5, -3.5, -3.5));
+    } else if (checked) {
         painter.setPen(QPen(token::indigo_1, 4));
         painter.drawEllipse(circle.adjusted(1.5, 1.5, -1.5, -1.5));
     } else {
+        painter.setPen(token::rule_3);
         painter.drawEllipse(circle);
     }
     painter.restore();
 }
 
-// The one thing that shows the focus on a check or radio: a ring around its mark.
-void paint_ring(QPainter& painter, const QRect& box, int radius) {
+// The one thing that shows the focus on a check box: a ring around it.
+void paint_ring(QPainter& painter, const QRect& box) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(token::indigo_2, 2));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(box).adjusted(-1, -1, 1, 1), radius, radius);
+    painter.drawRoundedRect(QRectF(box).adjusted(-1, -1, 1, 1), 3, 3);
     painter.restore();
 }
 
@@ -66,12 +72,11 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     switch (element) {
     case PE_FrameFocusRect: return;
     case PE_IndicatorCheckBox:
-        if (focus) paint_ring(*painter, option->rect, 3);
+        if (focus) paint_ring(*painter, option->rect);
         paint_check_box(*painter, option->rect, option->state & State_On,
                         option->state & State_Enabled);
         return;
     case PE_IndicatorRadioButton:
-        if (focus) paint_ring(*painter, option->rect, 8);
         paint_radio(*painter, option->rect, option->state & State_On, focus);
         return;
     case PE_IndicatorArrowDown:

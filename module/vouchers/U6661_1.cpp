@@ -49,6 +49,7 @@ TF6661_1::TF6661_1(TForm* parent) : Tfrm_Base_Entry_Body(parent) {
     DateHint.Visible = false;
     PZZ_H.Max = PZZ_Z.Max = Amount::from_whole(99'999);
     Act_Other.Caption = "模板";
+    N2.Icon = "copy-plus";
     Difference.FontColor = 255; // a difference is a warning
     grid_.define_fields();
     AdoQry_Main.Open();

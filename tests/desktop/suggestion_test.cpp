@@ -157,6 +157,29 @@ struct VoucherDesk : Desk {
     TVoucherForm* voucher = nullptr;
 };
 
+// 1002 may be a branch of the chart as well as the beginning of 100201.
+TEST(Suggestions, no_account_is_guessed_from_a_number_that_is_not_its_whole_code) {
+    VoucherDesk desk;
+    desk.type("1002");
+    ASSERT_NE(list_shown(), nullptr);
+    EXPECT_EQ(list_shown()->current(), -1);
+    desk.keys({"Enter"});
+    EXPECT_EQ(desk.messages, std::vector<std::string>{"科目不存在!"});
+    EXPECT_EQ(desk.account(), "");
+}
+
+TEST(Suggestions, a_whole_code_is_taken_by_enter_and_a_begun_one_after_it_was_chosen) {
+    VoucherDesk desk;
+    desk.type("1131");
+    ASSERT_NE(list_shown(), nullptr);
+    EXPECT_EQ(list_shown()->current(), 0);
+    desk.keys({"Backspace", "Backspace", "Backspace", "Backspace"});
+    desk.type("1002");
+    desk.keys({"Down", "Enter"});
+    EXPECT_EQ(desk.account(), "100201");
+    EXPECT_TRUE(desk.messages.empty());
+}
+
 TEST(Suggestions, tab_takes_the_account_that_is_chosen_and_goes_on) {
     VoucherDesk desk;
     desk.type("ys");
@@ -217,7 +240,7 @@ TEST(Suggestions, a_long_chart_shows_ten_rows_and_is_scrolled_by_keys) {
         }
         return all;
     };
-    desk.type("1");
+    desk.type("k");
     ASSERT_NE(list_shown(), nullptr);
     EXPECT_EQ(list_shown()->height(), 10 * 28 + 26 + 2);
     desk.keys({"PgDown", "PgDown", "Down"});

@@ -63,6 +63,16 @@ TEST_F(Roles, an_action_takes_opening_along_and_without_opening_nothing_is_left)
     EXPECT_EQ(admin.rows()[static_cast<std::size_t>(row)].at("AUDIT"), "False");
 }
 
+TEST_F(Roles, an_action_that_a_function_does_not_have_is_an_empty_cell) {
+    open_role("出纳");
+    const auto cells = admin.rows()[static_cast<std::size_t>(row_of("689"))];
+    EXPECT_EQ(cells.at("EXPORT"), "False");
+    EXPECT_EQ(cells.at("POST"), "");
+    admin.row(row_of("689"));
+    admin.click("btn_row");
+    EXPECT_EQ(admin.rows()[static_cast<std::size_t>(row_of("689"))].at("POST"), "");
+}
+
 TEST_F(Roles, an_action_that_a_function_does_not_have_cannot_be_marked) {
     open_role("出纳");
     admin.cannot_cell(row_of("689"), "POST", "1");
