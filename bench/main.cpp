@@ -19,7 +19,7 @@ constexpr Measure measures[] = {
     {"saving", bench::saving},                  {"trial_balance", bench::trial_balance},
     {"voucher_list", bench::voucher_list},      {"detailed_ledger", bench::detailed_ledger},
     {"general_ledger", bench::general_ledger},  {"statement", bench::statement},
-    {"loading", bench::loading, false},
+    {"loading", bench::loading, false},         {"demonstration", bench::demonstration, false},
 #ifdef ZF_WITH_DESKTOP
     {"printing", bench::printing, false},
 #endif

@@ -17,6 +17,7 @@ std::vector<Row> general_ledger(const BigBooks& books);
 std::vector<Row> statement(const BigBooks& books);
 std::vector<Row> compilation(const BigBooks& books);
 std::vector<Row> loading(const BigBooks& books);
+std::vector<Row> demonstration(const BigBooks& books);
 std::vector<Row> printing(const BigBooks& books); // needs the desktop
 
 } // namespace bench

@@ -1,16 +1,18 @@
-// Loading vouchers through the forms, and the whole of the demonstration books.
+// Loading a year of vouchers through the form, and what of it is whose.
 #include <filesystem>
 #include <stdexcept>
 
 #include "app/books/create.h"
-#include "app/demo/demo_books.h"
 #include "app/demo/told_months.h"
 #include "app/demo/typed_story.h"
 #include "app/workplace/run_driver.h"
 #include "app/workplace/scripted_person.h"
 #include "app/workplace/workplace.h"
+#include "automation/drive/request.h"
 #include "bench/hand/connection.h"
 #include "bench/measures/all.h"
+#include "bench/measures/session.h"
+#include "host/ports/host.h"
 #include "host/values/sql_text.h"
 #include "schema/schema.h"
 
@@ -94,32 +96,64 @@ void load_by_hand(const ScratchBooks& books, const app::ToldMonth& month) {
     connection.run("COMMIT");
 }
 
+// Takes what a query answers and does nothing with it.
+struct Unread : host::RowReceiver {
+    void columns(const std::vector<host::ColumnDescription>&) override {}
+    void row(const std::vector<host::CellView>&) override {}
+};
+
+// The statements that the forms sent, handed to the engine again without a form.
+void replay(const ScratchBooks& books, const std::vector<host::SentStatement>& statements) {
+    OurSession session(books.file);
+    Unread unread;
+    for (const host::SentStatement& sent : statements) {
+        if (sent.call == "opensql")
+            session.data().query(sent.text, unread);
+        else
+            session.data().execute(sent.text, {sent.function, sent.key, sent.operation});
+    }
+}
+
+// What goes over the line between the person and the driver, without the driver.
+void pass_texts(const std::vector<nlohmann::json>& requests) {
+    const std::string answer =
+        nlohmann::json{{"ok", true}, {"messages", nlohmann::json::array()}, {"active", "TF6661_1"}}
+            .dump();
+    app::ScriptedPerson person(requests);
+    while (const auto line = person.next()) {
+        automation::Request::parse(*line);
+        person.write(nlohmann::json::parse(answer).dump());
+    }
+    if (!person.trouble().empty()) throw std::runtime_error(person.trouble());
+}
+
 } // namespace
 
 std::vector<Row> loading(const BigBooks& books) {
     const app::Story story = app::told_story();
     const app::ToldMonth year = all_in_one(app::told_months(story));
+    const int vouchers = static_cast<int>(year.vouchers.size());
+    const host::Date day = story.start.first_day();
     const ScratchBooks scratch(books);
     const auto fresh = [&] {
         create(scratch, story);
-        type(scratch, story.start.first_day(), app::typed_start(story));
+        type(scratch, day, app::typed_start(story));
+        host::the_host().statements.clear();
     };
-    Row voucher = measure("a voucher loaded through the form, of a year", 3,
-                          {[&] { load_by_hand(scratch, year); }, fresh},
-                          {[&] { type(scratch, story.start.first_day(), app::typed_month(year)); },
-                           fresh},
-                          static_cast<int>(year.vouchers.size()));
+    const Way by_hand{[&] { load_by_hand(scratch, year); }, fresh};
+    std::vector<host::SentStatement> statements;
+    Row voucher = measure("a voucher loaded through the form, of a year", 3, by_hand,
+                          {[&] { type(scratch, day, app::typed_month(year)); }, fresh}, vouchers);
     voucher.budget_ratio = 20;
-    Row all = measure_ours("the demonstration books, whole", 1, {[&] {
-                               app::create_demo_books(
-                                   scratch.file, "",
-                                   [](const std::string&, std::int64_t, std::int64_t) {
-                                       return true;
-                                   });
-                           },
-                           [&] { scratch.remove(); }});
-    all.budget_ms = 15'000;
-    return {voucher, all};
+    statements.swap(host::the_host().statements);
+    Row engine = measure("  of it: its statements, without the form", 3, by_hand,
+                         {[&] { replay(scratch, statements); }, fresh}, vouchers);
+    std::vector<nlohmann::json> requests = app::typed_month(year);
+    for (nlohmann::json& request : requests)
+        if (request.contains("row") && request["row"].is_object()) request["row"] = 0;
+    Row texts = measure_ours("  of it: requests and answers as text", 3,
+                             {[&] { pass_texts(requests); }}, vouchers);
+    return {voucher, engine, texts};
 }
 
 } // namespace bench
