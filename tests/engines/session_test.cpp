@@ -45,6 +45,26 @@ TEST(AtomicBatch, inside_a_transaction_an_error_undoes_the_batch_alone) {
     EXPECT_EQ(rows(*session), "4");
 }
 
+TEST(AtomicBatch, one_after_another_in_a_transaction_each_is_undone_for_itself) {
+    const TemporaryFolder folder;
+    const auto session = create(folder.file("a.zf"));
+    ASSERT_TRUE(session->begin().ok());
+    for (int i = 10; i < 40; ++i) {
+        const std::string id = std::to_string(i);
+        const std::string insert = "SAVE TRAN a; INSERT INTO T VALUES (" + id + ",'a'); SAVE TRAN "
+                                   "b; UPDATE T SET V='b' WHERE ID=" + id + "; ROLLBACK TRAN b";
+        EXPECT_EQ(run_atomically(*session, insert + (i % 3 == 0 ? "; SELECT 1/0" : "")).ok(),
+                  i % 3 != 0);
+    }
+    EXPECT_TRUE(run(*session, "BEGIN TRY INSERT INTO T VALUES (50,'c'); INSERT INTO T VALUES "
+                              "(50,'d') END TRY BEGIN CATCH UPDATE T SET V='e' WHERE ID=50 END "
+                              "CATCH").ok());
+    ASSERT_TRUE(session->commit().ok());
+    EXPECT_EQ(cell(*session, "SELECT COUNT(*) FROM T WHERE ID BETWEEN 10 AND 39 AND V='a'"), "20");
+    EXPECT_EQ(cell(*session, "SELECT COUNT(*) FROM T WHERE ID >= 10"), "21");
+    EXPECT_EQ(cell(*session, "SELECT V FROM T WHERE ID=50"), "e");
+}
+
 TEST(AtomicBatch, a_raised_message_counts_as_an_error) {
     const TemporaryFolder folder;
     const auto session = create(folder.file("a.zf"));

@@ -46,6 +46,8 @@ Column column_of(const tsql::PlanColumn& column) {
 void ClientSink::begin(std::span<const tsql::PlanColumn> columns) {
     types_.clear();
     columns_.clear();
+    types_.reserve(columns.size());
+    columns_.reserve(columns.size());
     for (const auto& column : columns) {
         types_.push_back(column.type);
         columns_.push_back(column_of(column));

@@ -7,13 +7,11 @@
 namespace engines {
 namespace {
 
-std::string savepoint_name(int number) {
-    return "zf_" + std::to_string(number);
-}
+constexpr std::array<const char*, 3> words = {"SAVEPOINT zf_", "ROLLBACK TO zf_", "RELEASE zf_"};
 
 } // namespace
 
-void Transactions::run(StatementHandle& statement, const char* text) {
+void Transactions::run(StatementHandle& statement, const std::string& text) {
     if (!statement) statement = prepare(connection_, text);
     const int code = sqlite3_step(statement.get());
     // The error is read before the reset, which would clear it.
@@ -23,6 +21,15 @@ void Transactions::run(StatementHandle& statement, const char* text) {
         throw failure;
     }
     sqlite3_reset(statement.get());
+}
+
+void Transactions::tell(Word word, int number) {
+    const auto which = static_cast<std::size_t>(word);
+    const auto place = static_cast<std::size_t>(number);
+    StatementHandle once;
+    StatementHandle& statement = number < kept_numbers ? words_[place][which] : once;
+    run(statement, statement ? "" : words[which] + std::to_string(number));
+    if (word == Word::release && number == numbers_) --numbers_;
 }
 
 void Transactions::start(StatementHandle& statement, const char* text) {
@@ -38,6 +45,7 @@ void Transactions::start(StatementHandle& statement, const char* text) {
     at_begin_ = catalog_.state();
     doomed_ = false;
     savepoints_.clear();
+    if (open_scopes_ == 0) numbers_ = 0;
 }
 
 void Transactions::start_writing() {
@@ -97,15 +105,15 @@ void Transactions::rollback() {
 }
 
 void Transactions::save(const std::string& name) {
-    const int number = ++numbers_;
-    run_text(connection_, "SAVEPOINT " + savepoint_name(number));
+    const int number = new_number();
+    tell(Word::set, number);
     savepoints_.push_back({name, number, catalog_.state()});
 }
 
 bool Transactions::rollback_to(const std::string& name) {
     for (std::size_t i = savepoints_.size(); i-- > 0;) {
         if (!tsql::same_name(savepoints_[i].name, name)) continue;
-        run_text(connection_, "ROLLBACK TO " + savepoint_name(savepoints_[i].number));
+        tell(Word::undo, savepoints_[i].number);
         identities_.forget();
         catalog_.restore(savepoints_[i].catalog);
         forget_savepoints(i + 1);
@@ -117,7 +125,7 @@ bool Transactions::rollback_to(const std::string& name) {
 void Transactions::release(const std::string& name) {
     for (std::size_t i = savepoints_.size(); i-- > 0;) {
         if (!tsql::same_name(savepoints_[i].name, name)) continue;
-        run_text(connection_, "RELEASE " + savepoint_name(savepoints_[i].number));
+        tell(Word::release, savepoints_[i].number);
         forget_savepoints(i);
         return;
     }
@@ -138,14 +146,16 @@ StatementScope::StatementScope(Transactions& transactions, bool undoable)
         return;
     }
     if (!undoable) return;
-    number_ = ++transactions.numbers_;
-    run_text(transactions.connection_, "SAVEPOINT " + savepoint_name(number_));
+    number_ = transactions.new_number();
+    transactions.tell(Transactions::Word::set, number_);
     catalog_ = transactions.catalog_.state();
     savepoint_ = true;
+    ++transactions.open_scopes_;
 }
 
 void StatementScope::done() {
     finished_ = true;
+    if (savepoint_) --transactions_.open_scopes_;
     // A trigger may have undone everything already.
     if (transactions_.depth_ == 0) return;
     if (implicit_) {
@@ -156,19 +166,21 @@ void StatementScope::done() {
             throw;
         }
     } else if (savepoint_) {
-        run_text(transactions_.connection_, "RELEASE " + savepoint_name(number_));
+        transactions_.tell(Transactions::Word::release, number_);
     }
 }
 
 StatementScope::~StatementScope() {
-    if (finished_ || transactions_.depth_ == 0) return;
+    if (finished_) return;
+    if (savepoint_) --transactions_.open_scopes_;
+    if (transactions_.depth_ == 0) return;
     if (transactions_.lost()) return;
     try {
         if (implicit_) {
             transactions_.rollback();
         } else if (savepoint_) {
-            const std::string name = savepoint_name(number_);
-            run_text(transactions_.connection_, "ROLLBACK TO " + name + "; RELEASE " + name);
+            transactions_.tell(Transactions::Word::undo, number_);
+            transactions_.tell(Transactions::Word::release, number_);
             transactions_.identities_.forget();
             transactions_.catalog_.restore(catalog_);
         }

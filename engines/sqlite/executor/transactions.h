@@ -1,6 +1,7 @@
 // Transactions as T-SQL counts them, on one connection of SQLite.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <string>
 #include <vector>
@@ -54,10 +55,17 @@ private:
         tsql::Catalog::State catalog;
     };
 
+    // What SQLite is told of a savepoint.
+    enum class Word : std::uint8_t { set, undo, release };
+    static constexpr int kept_numbers = 8; // savepoints within one another are few
+
     void start(StatementHandle& statement, const char* text);
     void start_writing();
     void finish();
-    void run(StatementHandle& statement, const char* text);
+    void run(StatementHandle& statement, const std::string& text);
+    // A number that no open savepoint has; small ones come again, so that their words are kept.
+    int new_number() { return ++numbers_; }
+    void tell(Word word, int number);
     void forget_savepoints(std::size_t keep) {
         savepoints_.resize(std::min(keep, savepoints_.size()));
     }
@@ -69,6 +77,7 @@ private:
     std::function<void()> before_commit_;
     int depth_ = 0;
     int numbers_ = 0;
+    int open_scopes_ = 0; // statements around the running one that have a savepoint
     bool doomed_ = false;
     bool read_only_ = false;
     tsql::Catalog::State at_begin_;
@@ -77,6 +86,7 @@ private:
     StatementHandle begin_reading_;
     StatementHandle commit_;
     StatementHandle rollback_;
+    std::array<std::array<StatementHandle, 3>, kept_numbers> words_; // by number and word
 };
 
 // One writing statement: all of it or nothing. Outside a transaction it is one of its own.
