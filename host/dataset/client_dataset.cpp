@@ -125,7 +125,7 @@ void TClientDataSet::take_rows(RecordStore&& rows, std::vector<std::unique_ptr<T
     }
     alive_.resize(store_.rows());
     for (std::size_t row = 0; row < alive_.size(); ++row) alive_[row] = static_cast<Slot>(row);
-    if (FindField(sort_field_) == nullptr) sort_field_.clear();
+    if (!sort_field_.empty() && FindField(sort_field_) == nullptr) sort_field_.clear();
     state_ = DataSetState::Browse;
     rebuild_view();
     reset_view(true);

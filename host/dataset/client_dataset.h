@@ -157,6 +157,7 @@ private:
     std::function<bool(const TClientDataSet&)> filter_;
     std::string sort_field_;
     bool sort_descending_ = false;
+    bool in_order_ = false; // no cell was written and no row put in since the view was made
     int disabled_ = 0;
     bool reset_due_ = false;
     std::vector<DataSetListener*> listeners_;

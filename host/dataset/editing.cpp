@@ -37,6 +37,7 @@ void TClientDataSet::LeaveRow() {
 
 void TClientDataSet::begin_insert(int position) {
     const Slot row = store_.append();
+    in_order_ = false;
     if (position == RecordCount())
         alive_.push_back(row);
     else
@@ -82,6 +83,7 @@ void TClientDataSet::Edit() {
 void TClientDataSet::write_cell(Slot row, int field, const Value& value) {
     const std::int64_t before = counts(store_.type(field)) ? store_.number(row, field) : 0;
     store_.set(row, field, value);
+    in_order_ = false;
     if (counts(store_.type(field))) sums_.add(field, store_.number(row, field) - before);
 }
 

@@ -49,7 +49,9 @@ void DataSetLoader::columns(const std::vector<ColumnDescription>& columns) {
     answered_ = columns;
     make_names_unique(answered_);
     std::vector<FieldType> types;
+    types.reserve(answered_.size());
     source_.clear();
+    source_.reserve(answered_.size());
     converts_.clear();
     for (std::size_t i = 0; i < answered_.size(); ++i) {
         const TField* known = dataset_.FindField(answered_[i].name);
@@ -83,6 +85,7 @@ void DataSetLoader::row(const std::vector<CellView>& cells) {
 
 void DataSetLoader::commit() {
     std::vector<std::unique_ptr<TField>> fields;
+    fields.reserve(answered_.size() + dataset_.fields_.size());
     for (std::size_t i = 0; i < answered_.size(); ++i) {
         const ColumnDescription& column = answered_[i];
         std::unique_ptr<TField> field;

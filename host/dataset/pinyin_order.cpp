@@ -47,14 +47,17 @@ class CharacterNumbers {
 public:
     std::uint32_t& of(char32_t character) {
         std::unique_ptr<Page>& page = pages_[character / page_size];
-        if (!page) page = std::make_unique<Page>();
+        if (!page) {
+            page = std::make_unique<Page>();
+            made_.push_back(character / page_size);
+        }
         return (*page)[character % page_size];
     }
 
-    // Calls take(character, number) for all that are not zero, in order.
+    // Calls take(character, number) for all that are not zero.
     template <typename Take> void for_each(Take take) {
-        for (std::size_t i = 0; i < pages_.size(); ++i)
-            for (std::size_t c = 0; pages_[i] && c < page_size; ++c)
+        for (const std::size_t i : made_)
+            for (std::size_t c = 0; c < page_size; ++c)
                 if (std::uint32_t& number = (*pages_[i])[c]; number != 0)
                     take(static_cast<char32_t>(i * page_size + c), number);
     }
@@ -63,6 +66,7 @@ private:
     static constexpr std::size_t page_size = 256;
     using Page = std::array<std::uint32_t, page_size>;
     std::vector<std::unique_ptr<Page>> pages_{0x110000 / page_size};
+    std::vector<std::size_t> made_;
 };
 
 // The rank of every character that occurs. Chinese orders character by character, so a long list

@@ -45,6 +45,7 @@ void RecordStore::clear() {
 void RecordStore::define(const std::vector<FieldType>& types) {
     clear();
     columns_.clear();
+    columns_.reserve(types.size());
     for (const FieldType type : types) columns_.push_back({type, {}, {}});
 }
 

@@ -6,6 +6,7 @@
 
 #include "host/dataset/client_dataset.h"
 #include "host/dataset/pinyin_order.h"
+#include "host/values/text.h"
 
 namespace host {
 
@@ -31,6 +32,7 @@ std::vector<std::int64_t> sort_numbers(const RecordStore& store, const std::vect
 } // namespace
 
 void TClientDataSet::rebuild_view() {
+    in_order_ = true;
     view_.clear();
     view_.reserve(alive_.size());
     for (const Slot row : alive_)
@@ -55,11 +57,12 @@ void TClientDataSet::rebuild_view() {
 void TClientDataSet::SortBy(const std::string& field, bool descending) {
     LeaveRow();
     const std::int64_t before = current_slot();
+    const bool as_before = same_text(field, sort_field_) && descending == sort_descending_;
     if (!field.empty()) sort_field_ = FieldByName(field).FieldName;
     if (field.empty()) sort_field_.clear();
     sort_descending_ = descending;
     if (!Active()) return;
-    rebuild_view();
+    if (!as_before || !in_order_) rebuild_view();
     // The person keeps looking at the row he was on.
     const auto at = std::find(view_.begin(), view_.end(), static_cast<Slot>(before));
     position_ = at == view_.end() ? 0 : static_cast<int>(at - view_.begin());

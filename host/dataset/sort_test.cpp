@@ -67,6 +67,31 @@ TEST(Sort, the_row_looked_at_stays_the_current_one) {
     EXPECT_EQ(rows.FieldByName("N").AsInteger(), 3);
 }
 
+TEST(Sort, asked_for_again_takes_in_what_was_typed_since) {
+    TClientDataSet rows;
+    rows.DefineField("N", FieldType::Integer);
+    rows.Open();
+    for (const int n : {3, 1, 2}) {
+        rows.Append();
+        rows.FieldByName("N").SetValue(std::int64_t{n});
+        rows.Post();
+    }
+    rows.SortBy("N", false);
+    rows.SortBy("N", false);
+    EXPECT_EQ(column(rows, "N"), (Texts{"1", "2", "3"}));
+    rows.GotoRow(0);
+    rows.Edit();
+    rows.FieldByName("N").SetValue(std::int64_t{9});
+    rows.SortBy("N", false);
+    EXPECT_EQ(column(rows, "N"), (Texts{"2", "3", "9"}));
+    rows.Append();
+    rows.FieldByName("N").SetValue(std::int64_t{0});
+    rows.SortBy("N", false);
+    EXPECT_EQ(column(rows, "N"), (Texts{"0", "2", "3", "9"}));
+    rows.SortBy("N", true);
+    EXPECT_EQ(column(rows, "N"), (Texts{"9", "3", "2", "0"}));
+}
+
 TEST(PinyinOrder, the_same_text_in_another_case_has_the_same_rank) {
     const auto ranks = pinyin_ranks({"abc", "ABC", "b"});
     EXPECT_EQ(ranks[0], ranks[1]);

@@ -2,6 +2,7 @@
 // three bytes of length and four of place (tag 8), or the number of a large text (tag 9).
 #include "host/dataset/text_arena.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstring>
 
@@ -28,14 +29,21 @@ TextArena::Handle TextArena::store(std::string_view text) {
         large_.emplace_back(text);
         return in_large | (static_cast<Handle>(large_.size() - 1) << 8);
     }
-    if (used_ + text.size() > chunk_size) {
-        chunks_.push_back(std::make_unique_for_overwrite<char[]>(chunk_size));
-        used_ = 0;
-    }
+    if (chunks_.empty() || used_ + text.size() > size_) add_chunk(text.size());
     std::memcpy(chunks_.back().get() + used_, text.data(), text.size());
     const std::size_t place = (chunks_.size() - 1) * chunk_size + used_;
     used_ += text.size();
     return in_chunk | (static_cast<Handle>(text.size()) << 8) | (static_cast<Handle>(place) << 32);
+}
+
+// Each chunk is twice as large as the one before it, until they are as large as they get.
+void TextArena::add_chunk(std::size_t needed) {
+    const std::size_t wanted = std::max(size_ == 0 ? first_chunk_size : 2 * size_,
+                                        std::bit_ceil(needed));
+    size_ = std::min(wanted, chunk_size);
+    chunks_.push_back(std::make_unique_for_overwrite<char[]>(size_));
+    held_ += size_;
+    used_ = 0;
 }
 
 std::string_view TextArena::read(const Handle& handle) const {
@@ -49,7 +57,7 @@ std::string_view TextArena::read(const Handle& handle) const {
 }
 
 std::size_t TextArena::bytes() const {
-    std::size_t total = chunks_.size() * chunk_size;
+    std::size_t total = held_;
     for (const std::string& text : large_) total += text.capacity();
     return total;
 }

@@ -11,7 +11,7 @@ namespace host {
 
 // Texts of up to seven bytes ("2024-03", most codes) live in the handle itself; longer ones in
 // chunks that never move. A text given up stays until the arena goes: a person's typing is small
-// beside what a query loads.
+// beside what a query loads. The first chunks are small, since most datasets are.
 class TextArena {
 public:
     using Handle = std::uint64_t;
@@ -23,9 +23,15 @@ public:
     std::size_t bytes() const; // memory held
 
 private:
-    static constexpr std::size_t chunk_size = std::size_t{1} << 20;
+    static constexpr std::size_t chunk_size = std::size_t{1} << 20; // of the largest chunks
+    static constexpr std::size_t first_chunk_size = 1024;
+
+    void add_chunk(std::size_t needed);
+
     std::vector<std::unique_ptr<char[]>> chunks_;
-    std::size_t used_ = chunk_size; // of the last chunk
+    std::size_t size_ = 0; // of the last chunk
+    std::size_t used_ = 0; // of the last chunk
+    std::size_t held_ = 0; // by all chunks
     std::vector<std::string> large_;
 };
 

@@ -23,4 +23,14 @@ TEST(TextArena, short_texts_take_no_memory_beside_their_handle) {
     EXPECT_EQ(arena.bytes(), 0U);
 }
 
+TEST(TextArena, a_few_texts_take_a_few_bytes_and_many_little_more_than_their_own) {
+    TextArena few;
+    few.store("银行存款-工行基本户");
+    EXPECT_LE(few.bytes(), 1024U);
+    TextArena many;
+    const std::string text(100, 'x');
+    for (int i = 0; i < 100'000; ++i) many.store(text);
+    EXPECT_LE(many.bytes(), 100'000U * 100 + (1U << 21));
+}
+
 } // namespace host

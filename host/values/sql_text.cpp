@@ -5,7 +5,14 @@
 
 namespace host {
 
-std::string quoted(std::string_view text) { return "'" + escaped(text) + "'"; }
+std::string quoted(std::string_view text) {
+    std::string literal;
+    literal.reserve(text.size() + 2);
+    literal += '\'';
+    for (const char c : text) literal.append(c == '\'' ? 2 : 1, c);
+    literal += '\'';
+    return literal;
+}
 
 std::string escaped(std::string_view text) { return replaced(text, "'", "''"); }
 

@@ -10,9 +10,12 @@ namespace host {
 std::vector<TWinControl*> FieldSnapshot::fields(const TForm& form) {
     std::vector<TWinControl*> fields;
     for (TComponent* part : form.components()) {
-        const bool field = dynamic_cast<TEdit*>(part) || dynamic_cast<TComboBox*>(part) ||
-                           dynamic_cast<TCheckBox*>(part) || dynamic_cast<TRadioButton*>(part);
-        if (field) fields.push_back(static_cast<TWinControl*>(part));
+        auto* control = dynamic_cast<TWinControl*>(part); // most parts are none: actions, labels
+        if (control == nullptr) continue;
+        const bool field = dynamic_cast<TEdit*>(control) || dynamic_cast<TComboBox*>(control) ||
+                           dynamic_cast<TCheckBox*>(control) ||
+                           dynamic_cast<TRadioButton*>(control);
+        if (field) fields.push_back(control);
     }
     return fields;
 }
