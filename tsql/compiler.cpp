@@ -10,10 +10,29 @@
 #include "tsql/planner/planner.h"
 
 #include <algorithm>
+#include <span>
 
 namespace tsql {
 
 namespace {
+
+// Where pieces begin, each counted on from the one before.
+class Places {
+public:
+    explicit Places(std::string_view text) : text_(text) {}
+    LineColumn of(std::uint32_t offset) {
+        const LineColumn further = locate(text_.substr(offset_), offset - offset_);
+        place_.column = further.line > 1 ? further.column : place_.column + further.column - 1;
+        place_.line += further.line - 1;
+        offset_ = offset;
+        return place_;
+    }
+
+private:
+    std::string_view text_;
+    std::uint32_t offset_ = 0;
+    LineColumn place_;
+};
 
 bool asks_for_counts(std::string_view text, const std::vector<Token>& tokens) {
     return std::any_of(tokens.begin(), tokens.end(), [&](const Token& token) {
@@ -129,18 +148,18 @@ CompiledBatch Compiler::compile(std::string_view text) {
     const bool exact = parts.options.exact_row_counts || asks_for_counts(text, tokens);
     CompiledBatch batch;
     bool after_definition = false;
-    std::vector<Token> own;
+    Places places(text);
     for (const Unit& unit : units_of(tokens)) {
-        own.assign(tokens.begin() + static_cast<std::ptrdiff_t>(unit.first),
-                   tokens.begin() + static_cast<std::ptrdiff_t>(unit.last));
+        const std::span<const Token> own(tokens.data() + unit.first, unit.last - unit.first);
         NormalForm form = normal_form(text, own);
         form.key += exact ? "\nexact" : "";
         CompiledUnit compiled;
+        compiled.literals.reserve(form.literals.size());
         for (TakenLiteral& literal : form.literals) {
             compiled.literals.push_back({literal_kind(literal.kind), std::move(literal.text)});
         }
         const std::uint32_t begin = own.front().at.begin;
-        compiled.at = locate(text, begin);
+        compiled.at = places.of(begin);
         if (!after_definition) {
             compiled.plan = parts.cache.find(form.key, compiled.literals, parts.catalog.version());
         }

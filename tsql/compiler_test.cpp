@@ -150,6 +150,21 @@ TEST(Compiler, nothing_of_a_batch_is_planned_when_its_last_statement_is_no_sente
     }
 }
 
+TEST(Compiler, each_piece_knows_its_line_and_column_in_the_batch) {
+    Books books;
+    const std::string text = "DELETE FROM H; DELETE FROM L WHERE NOID='中\n文';DELETE\r\nFROM H;"
+                             "\n\n  DELETE FROM L;\rDELETE FROM H";
+    const CompiledBatch batch = books.compiler.compile(text);
+    std::size_t from = 0;
+    for (const CompiledUnit& unit : batch.units) {
+        from = text.find("DELETE", from);
+        EXPECT_EQ(unit.at, locate(text, static_cast<std::uint32_t>(from))) << from;
+        ++from;
+    }
+    EXPECT_EQ(batch.units.size(), 5U);
+    EXPECT_EQ(batch.units.back().at, (LineColumn{6, 1})); // five breaks before it
+}
+
 TEST(Compiler, a_table_comes_back_as_it_was_from_what_is_kept_of_it) {
     Books books;
     for (const auto& [name, object] : books.catalog.objects()) {

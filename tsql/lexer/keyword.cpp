@@ -22,17 +22,26 @@ constexpr std::size_t entry_count = sizeof entries / sizeof entries[0];
 static_assert(entry_count < 256, "a keyword is one byte");
 
 constexpr std::size_t longest_word = 17; // CURRENT_TIMESTAMP
-constexpr std::size_t slot_count = 1024;
+constexpr unsigned slot_bits = 10;
+constexpr std::size_t slot_count = std::size_t{1} << slot_bits;
 static_assert(slot_count > 3 * entry_count, "a sparse table keeps the probes short");
 
 constexpr char to_upper(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
 }
 
+// Length and four of its letters tell a keyword from nearly every other word: names are looked up
+// far more often than keywords, and need not be read to their end. Masking a letter's case off is
+// enough for a hash.
 constexpr std::size_t slot_of(std::string_view word) {
-    std::uint32_t hash = 2166136261U;
-    for (const char c : word) hash = (hash ^ static_cast<unsigned char>(to_upper(c))) * 16777619U;
-    return (hash ^ (hash >> 15)) % slot_count;
+    const auto letter = [&](std::size_t at) {
+        return static_cast<std::uint32_t>(static_cast<unsigned char>(word[at])) & 0x1FU;
+    };
+    const std::size_t size = word.size();
+    const std::uint32_t letters = letter(0) | letter(1) << 5 | letter(size / 2) << 10 |
+                                  letter(size - 1) << 15 |
+                                  static_cast<std::uint32_t>(size) << 20;
+    return (letters * 2654435769U) >> (32 - slot_bits);
 }
 
 constexpr std::array<std::uint8_t, slot_count> lay_out() {

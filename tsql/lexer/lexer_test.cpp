@@ -91,6 +91,23 @@ TEST(Lexer, keywords_are_known_in_any_case) {
     EXPECT_FALSE(is_reserved(Keyword::Output));
 }
 
+TEST(Lexer, every_keyword_is_found_and_a_word_beside_it_is_none) {
+    int count = 1; // None
+#define TSQL_KEYWORD(id, word, reserved) ++count;
+#include "tsql/lexer/keywords.inc"
+#undef TSQL_KEYWORD
+    for (int i = 1; i < count; ++i) {
+        const auto keyword = static_cast<Keyword>(i);
+        std::string word(spelling(keyword));
+        EXPECT_EQ(keyword_of(word), keyword) << word;
+        for (char& c : word) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+        EXPECT_EQ(keyword_of(word), keyword) << word;
+        EXPECT_EQ(keyword_of(word + "_"), Keyword::None) << word;
+        word[word.size() / 3] = '9';
+        EXPECT_EQ(keyword_of(word), Keyword::None) << word;
+    }
+}
+
 TEST(Lexer, literals_are_counted_in_the_order_of_the_text) {
     const std::vector<Token> tokens = tokenize("SELECT 1, K, 'x'");
     EXPECT_EQ(tokens[1].literal_ordinal, 0);

@@ -46,9 +46,10 @@ NormalForm normal_form(std::string_view batch) {
     return normal_form(batch, tokenize(batch));
 }
 
-NormalForm normal_form(std::string_view batch, const std::vector<Token>& tokens) {
+NormalForm normal_form(std::string_view batch, std::span<const Token> tokens) {
     NormalForm form;
-    form.key.reserve(batch.size() + tokens.size());
+    if (tokens.empty()) return form;
+    form.key.reserve(tokens.back().at.end - tokens.front().at.begin + tokens.size());
     for (const Token& token : tokens) {
         if (token.kind == TokenKind::End) break;
         if (!form.key.empty()) form.key += ' ';

@@ -3,6 +3,8 @@
 
 #include "tsql/lexer/token.h"
 
+#include <span>
+
 namespace tsql {
 
 // A literal taken out of a text, its marks off; the n-th is the one with ordinal n.
@@ -27,6 +29,6 @@ struct NormalForm {
 NormalForm normal_form(std::string_view batch);
 
 // The same for tokens already cut; they must come from this very text.
-NormalForm normal_form(std::string_view batch, const std::vector<Token>& tokens);
+NormalForm normal_form(std::string_view batch, std::span<const Token> tokens);
 
 } // namespace tsql
