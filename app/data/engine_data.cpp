@@ -20,6 +20,7 @@ public:
         seen_ = true;
         if (!wanted_) return;
         std::vector<host::ColumnDescription> descriptions;
+        descriptions.reserve(columns.size());
         for (const engines::Column& column : columns)
             descriptions.push_back(description_of(column));
         cells_.resize(columns.size());

@@ -14,7 +14,9 @@ std::optional<std::string> ScriptedPerson::next() {
 }
 
 nlohmann::json ScriptedPerson::found_row(const nlohmann::json& cells) {
-    const nlohmann::json& rows = answers_["rows"]["rows"];
+    static const nlohmann::json none = nlohmann::json::array();
+    const nlohmann::json& answer = answer_to("rows");
+    const nlohmann::json& rows = answer.contains("rows") ? answer.at("rows") : none;
     for (std::size_t row = 0; row < rows.size(); ++row) {
         bool same = true;
         for (const auto& [field, text] : cells.items()) same = same && rows[row][field] == text;
@@ -24,11 +26,26 @@ nlohmann::json ScriptedPerson::found_row(const nlohmann::json& cells) {
     return nullptr;
 }
 
+// Most answers say the same as one before, and few are looked at again: an answer is read when its
+// text is new, and kept as text.
 void ScriptedPerson::write(const std::string& line) {
-    nlohmann::json answer = nlohmann::json::parse(line, nullptr, false);
-    if (trouble_.empty() && !(answer.is_object() && answer.value("ok", false)))
+    Answer& answer = answers_[asked_.value("op", "")];
+    answer.line = line;
+    answer.members.reset();
+    if (line == good_line_) return;
+    const nlohmann::json members = nlohmann::json::parse(line, nullptr, false);
+    if (members.is_object() && members.value("ok", false))
+        good_line_ = line;
+    else if (trouble_.empty())
         trouble_ = asked_.dump() + " → " + line;
-    answers_[asked_.value("op", "")] = std::move(answer);
+}
+
+const nlohmann::json& ScriptedPerson::answer_to(const std::string& op) {
+    Answer& answer = answers_[op];
+    if (!answer.members)
+        answer.members = answer.line.empty() ? nlohmann::json()
+                                             : nlohmann::json::parse(answer.line, nullptr, false);
+    return *answer.members;
 }
 
 } // namespace app

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,7 +32,7 @@ public:
     // The request that was refused and why; "" while all went well.
     const std::string& trouble() const { return trouble_; }
     // The last answer to a request of this kind ("rows"); null when there was none.
-    const nlohmann::json& answer_to(const std::string& op) { return answers_[op]; }
+    const nlohmann::json& answer_to(const std::string& op);
 
 private:
     // The number of the first row that holds these cells; none is trouble.
@@ -39,7 +40,12 @@ private:
 
     std::deque<nlohmann::json> waiting_;
     nlohmann::json asked_;
-    std::map<std::string, nlohmann::json> answers_;
+    struct Answer {
+        std::string line;
+        std::optional<nlohmann::json> members; // once somebody looked
+    };
+    std::map<std::string, Answer> answers_; // the last of each kind of request
+    std::string good_line_;                 // the last that was read and found well
     std::function<bool()> go_on_;
     std::string trouble_;
 };

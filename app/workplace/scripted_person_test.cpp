@@ -24,6 +24,20 @@ TEST(ScriptedPerson, a_row_that_is_not_there_is_trouble_and_the_end) {
     EXPECT_NE(person.trouble(), "");
 }
 
+TEST(ScriptedPerson, looks_at_the_last_answer_of_each_kind_also_where_texts_repeat) {
+    ScriptedPerson person({{{"op", "rows"}}, {{"op", "get"}}, {{"op", "rows"}}});
+    for (const char* answer : {R"({"ok":true,"rows":[1]})", R"({"ok":true,"value":"5"})",
+                               R"({"ok":true,"rows":[2]})"}) {
+        person.next();
+        person.write(answer);
+        person.write(answer);
+    }
+    EXPECT_EQ(person.answer_to("rows").at("rows"), json({2}));
+    EXPECT_EQ(person.answer_to("get").at("value"), "5");
+    EXPECT_TRUE(person.answer_to("cell").is_null());
+    EXPECT_EQ(person.trouble(), "");
+}
+
 TEST(ScriptedPerson, stops_without_trouble_when_told_to) {
     int asked = 0;
     ScriptedPerson person({{{"op", "forms"}}, {{"op", "forms"}}}, [&] { return ++asked < 2; });

@@ -18,9 +18,17 @@ std::string names_of(const host::TForm& form) {
     return names.empty() ? "no controls" : names;
 }
 
+// The part as a control of the form; forms in forms are none.
+host::TControl* as_control(const host::TForm& form, host::TComponent& part) {
+    auto* control = dynamic_cast<host::TControl*>(&part);
+    if (control == nullptr || control == &form) return nullptr;
+    return dynamic_cast<host::TForm*>(control) == nullptr ? control : nullptr;
+}
+
 Target find_target(const host::TForm& form, const std::string& name) {
-    for (host::TControl* control : controls_of(form)) {
-        if (host::same_text(control->Name(), name)) return {control, -1};
+    for (host::TComponent* part : form.components()) {
+        if (!host::same_text(part->Name(), name)) continue;
+        if (host::TControl* control = as_control(form, *part)) return {control, -1};
     }
     for (host::TControl* control : controls_of(form)) {
         auto* grid = dynamic_cast<host::TDBGridEh*>(control);
@@ -94,11 +102,8 @@ host::TTreeView& tree_of(const host::TForm& form, const Request& request) {
 
 std::vector<host::TControl*> controls_of(const host::TForm& form) {
     std::vector<host::TControl*> controls;
-    for (host::TComponent* component : form.components()) {
-        auto* control = dynamic_cast<host::TControl*>(component);
-        if (control == nullptr || control == &form) continue;
-        if (dynamic_cast<host::TForm*>(control) == nullptr) controls.push_back(control);
-    }
+    for (host::TComponent* part : form.components())
+        if (host::TControl* control = as_control(form, *part)) controls.push_back(control);
     return controls;
 }
 

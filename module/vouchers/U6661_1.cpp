@@ -286,6 +286,9 @@ void TF6661_1::DBGridEhGetCellParams(TField& field, CellParams& params) {
 }
 
 void TF6661_1::refresh_totals() {
+    const std::pair sums{grid_.debit(), grid_.credit()};
+    if (shown_sums_ == sums) return;
+    shown_sums_ = sums;
     const Amount difference = grid_.difference();
     DebitTotal.Caption = grid_.debit().to_text();
     CreditTotal.Caption = grid_.credit().to_text();

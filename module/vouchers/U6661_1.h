@@ -2,6 +2,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <utility>
 
 #include "host/forms/Base_Entry_Body.h"
 #include "module/host_names.h"
@@ -92,6 +94,7 @@ private:
     bool single_word_ = false; // all vouchers carry one word
     bool opened_anew_ = false; // not merely ready for the next voucher
     std::string as_opened_;    // what was stored when the voucher was opened
+    std::optional<std::pair<Amount, Amount>> shown_sums_; // debit and credit below the lines
     std::unique_ptr<TF6661_2> F6661_2;
     std::unique_ptr<TF6661_3> F6661_3;
     std::unique_ptr<TF6661_4> F6661_4;

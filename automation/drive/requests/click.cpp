@@ -12,8 +12,8 @@ namespace {
 
 // The menu an item stands in is opened first, for it settles there which items can be used.
 void open_menu_of(Driver& driver, const host::TForm& form, const host::TAction& item) {
-    for (host::TControl* control : controls_of(form)) {
-        const auto* menu = dynamic_cast<host::TPopupMenu*>(control);
+    for (host::TComponent* part : form.components()) {
+        const auto* menu = dynamic_cast<host::TPopupMenu*>(part);
         if (menu == nullptr || !menu->OnPopup) continue;
         if (std::find(menu->Items.begin(), menu->Items.end(), &item) == menu->Items.end()) continue;
         act(driver, [&] { menu->OnPopup(); });
