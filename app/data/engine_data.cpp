@@ -139,16 +139,53 @@ void EngineData::query(std::string_view sql, host::RowReceiver& receiver) {
     }
 }
 
-void EngineData::execute(std::string_view batch, const host::LogEntry& entry) {
-    refuse_within_report();
-    Transaction transaction(session_);
+// Inside a transaction. Nothing is written without its row of the log.
+void EngineData::write(std::string_view batch, const host::LogEntry& entry) {
     engines::ResultReceiver nobody;
     {
         const Listening listening(*this, nullptr);
         require(session_.execute_atomically(batch, nobody));
     }
-    require(append_log_row(session_, clock_.now(), user_, entry, batch));
+    const engines::Outcome logged = append_log_row(session_, clock_.now(), user_, entry, batch);
+    if (logged.ok()) return;
+    session_.rollback();
+    raise(*logged.error);
+}
+
+void EngineData::execute(std::string_view batch, const host::LogEntry& entry) {
+    refuse_within_report();
+    if (unit_) {
+        refuse_after_undoing();
+        return write(batch, entry);
+    }
+    Transaction transaction(session_);
+    write(batch, entry);
     transaction.commit();
+}
+
+// ---- many writes as one ----
+
+void EngineData::begin_unit() {
+    require(session_.begin());
+    unit_ = true;
+}
+
+// An error may have ended the transaction that holds the unit together.
+void EngineData::refuse_after_undoing() const {
+    if (session_.transaction_depth() == 0)
+        throw host::DataError("前面的操作出错,这一次录入的全部内容都已撤消,没有保存!",
+                              "the unit of work was undone");
+}
+
+void EngineData::keep_unit() {
+    refuse_after_undoing();
+    unit_ = false;
+    require(session_.commit());
+}
+
+void EngineData::undo_unit() {
+    unit_ = false;
+    session_.rollback();
 }
 
 } // namespace app

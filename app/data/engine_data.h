@@ -30,6 +30,15 @@ public:
     using Progress = std::function<bool(std::int64_t done, std::int64_t total)>;
     void report_progress(Progress progress, std::chrono::milliseconds every);
 
+    // From now on all that is written is one unit of work: others see it, and it is on the disk,
+    // only when keep_unit() returns; this session sees it at once. A batch that is refused has not
+    // happened, the ones before it stay in the unit. Without keep_unit() nothing of it stays.
+    // Others who write wait meanwhile. Throws DataError, as keep_unit() does when the unit could not
+    // be kept or was undone on the way (an error that ends a whole transaction).
+    void begin_unit();
+    void keep_unit();
+    void undo_unit();
+
     // Both throw DataError also when called from inside a progress report.
     void query(std::string_view sql, host::RowReceiver& receiver) override;
     void execute(std::string_view batch, const host::LogEntry& entry) override;
@@ -37,12 +46,15 @@ public:
 private:
     class Listening;
     void refuse_within_report() const;
+    void refuse_after_undoing() const;
+    void write(std::string_view batch, const host::LogEntry& entry);
     engines::Session& session_;
     const host::Clock& clock_;
     std::string user_;
     Progress progress_;
     std::chrono::milliseconds every_{100};
     bool reporting_ = false;
+    bool unit_ = false; // of work is begun and neither kept nor undone
 };
 
 } // namespace app

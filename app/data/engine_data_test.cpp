@@ -212,6 +212,82 @@ TEST_F(Data, a_stopped_query_says_so_and_nothing_may_be_asked_while_it_runs) {
     EXPECT_EQ(calls, 3);
 }
 
+TEST_F(Data, a_unit_is_seen_by_others_when_it_is_kept_and_logged_batch_by_batch) {
+    const auto other = open_books(books_);
+    const auto seen_by_other = [&] {
+        return *automation::rows_of(*other, "SELECT COUNT(*) FROM D6803 WHERE ZY = '摘要'")[0][0];
+    };
+    const int logged = std::stoi(value("SELECT COUNT(*) FROM SYS_LOG"));
+    data_.begin_unit();
+    insert_summary("甲");
+    insert_summary("乙");
+    EXPECT_EQ(value("SELECT COUNT(*) FROM D6803 WHERE ZY = '摘要'"), "2");
+    EXPECT_EQ(seen_by_other(), "0");
+    data_.keep_unit();
+    EXPECT_EQ(seen_by_other(), "2");
+    EXPECT_EQ(value("SELECT COUNT(*) FROM SYS_LOG"), std::to_string(logged + 2));
+    insert_summary("丙");
+    EXPECT_EQ(seen_by_other(), "3");
+    EXPECT_TRUE(automation::check_books(*session_).empty());
+}
+
+TEST_F(Data, of_a_unit_undone_nothing_stays_and_work_goes_on) {
+    const std::string logged = value("SELECT COUNT(*) FROM SYS_LOG");
+    data_.begin_unit();
+    insert_summary("甲");
+    data_.undo_unit();
+    EXPECT_EQ(value("SELECT COUNT(*) FROM SYS_LOG"), logged);
+    insert_summary("甲");
+    EXPECT_EQ(value("SELECT COUNT(*) FROM D6803 WHERE ZY = '摘要'"), "1");
+    EXPECT_TRUE(automation::check_books(*session_).empty());
+}
+
+TEST_F(Data, a_batch_refused_within_a_unit_has_not_happened_and_the_others_stay) {
+    data_.begin_unit();
+    insert_summary("甲");
+    const std::string logged = value("SELECT COUNT(*) FROM SYS_LOG");
+    EXPECT_THROW(data_.execute("INSERT INTO D6803 (GUID, ZY) VALUES ('乙','摘要');"
+                               "INSERT INTO D6803 (GUID, ZY) VALUES ('甲','摘要')",
+                               {"683", "乙", "Add"}),
+                 host::DataError);
+    EXPECT_EQ(value("SELECT COUNT(*) FROM SYS_LOG"), logged);
+    insert_summary("丙");
+    data_.keep_unit();
+    EXPECT_EQ(value("SELECT COUNT(*) FROM D6803 WHERE ZY = '摘要'"), "2");
+    EXPECT_TRUE(automation::check_books(*session_).empty());
+}
+
+TEST_F(Data, a_unit_undone_by_an_error_takes_nothing_more_and_cannot_be_kept) {
+    data_.begin_unit();
+    insert_summary("甲");
+    Rows rows;
+    EXPECT_THROW(data_.query("SELECT CAST('x' AS int)", rows), host::DataError);
+    EXPECT_EQ(session_->transaction_depth(), 1) << "a query that fails undoes nothing";
+    session_->rollback(); // as SQLite does by itself when the disk is full
+    EXPECT_THROW(insert_summary("乙"), host::DataError);
+    EXPECT_THROW(data_.keep_unit(), host::DataError);
+    EXPECT_EQ(value("SELECT COUNT(*) FROM D6803 WHERE ZY = '摘要'"), "0");
+    data_.undo_unit();
+    insert_summary("丙");
+    EXPECT_TRUE(automation::check_books(*session_).empty());
+}
+
+TEST_F(Data, within_a_unit_too_a_number_used_again_inherits_no_allocation) {
+    const std::string head = "INSERT INTO D6601 (NOID, PZQJ, PZZ, PZZ_H, PZZ_Z, BDATE, USER_ID) "
+                             "VALUES ('2024-03记001','2024-03','记',1,0,'2024-03-05','admin');";
+    data_.begin_unit();
+    data_.execute(head + "INSERT INTO D6601B (NOID, D6820ID, J, D) VALUES "
+                         "('2024-03记001','1101',5,0)",
+                  {"661", "2024-03记001", "Add"});
+    EXPECT_EQ(value("SELECT COUNT(*) FROM D6601B"), "1");
+    data_.execute("DELETE FROM D6601 WHERE NOID = '2024-03记001'",
+                  {"661", "2024-03记001", "Delete"});
+    data_.execute(head, {"661", "2024-03记001", "Add"});
+    data_.keep_unit();
+    EXPECT_EQ(value("SELECT COUNT(*) FROM D6601B"), "0");
+    EXPECT_EQ(value("SELECT COUNT(*) FROM D6601"), "1");
+}
+
 TEST_F(Data, two_people_writing_in_turn_keep_one_chain) {
     const auto other_session = open_books(books_);
     EngineData other(*other_session, clock_, "li");

@@ -48,6 +48,7 @@ public:
     SettingsFile& settings() { return settings_; }
     Files& files() { return files_; } // spreadsheets; PDF once a writer was offered
     engines::Session& session() { return *session_; }
+    EngineData& data() { return *data_; } // after the login
 
 private:
     SettingsFile settings_;

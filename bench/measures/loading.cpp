@@ -11,7 +11,6 @@
 #include "automation/drive/request.h"
 #include "bench/hand/connection.h"
 #include "bench/measures/all.h"
-#include "bench/measures/session.h"
 #include "host/ports/host.h"
 #include "host/values/sql_text.h"
 #include "schema/schema.h"
@@ -44,12 +43,18 @@ void create(const ScratchBooks& books, const app::Story& story) {
     app::create_books(wanted, app::SystemClock(story.start.first_day()));
 }
 
-void type(const ScratchBooks& books, host::Date today, std::vector<nlohmann::json> requests) {
+// When what was loaded is on the disk: each voucher when it is answered, or all at the end.
+enum class Saved { Each, Together };
+
+void type(const ScratchBooks& books, host::Date today, std::vector<nlohmann::json> requests,
+          Saved saved) {
     app::Workplace work(books.file, today);
     work.log_in("admin", [] { return std::optional<std::string>(); });
     app::ScriptedPerson person(std::move(requests));
+    if (saved == Saved::Together) work.data().begin_unit();
     app::run_driver(person, person);
     if (!person.trouble().empty()) throw std::runtime_error(person.trouble());
+    if (saved == Saved::Together) work.data().keep_unit();
 }
 
 // A year of vouchers in the first month, so that no month's end comes between.
@@ -64,7 +69,7 @@ app::ToldMonth all_in_one(const std::vector<app::ToldMonth>& months) {
     return all;
 }
 
-void load_by_hand(const ScratchBooks& books, const app::ToldMonth& month) {
+void load_by_hand(const ScratchBooks& books, const app::ToldMonth& month, Saved saved) {
     hand::Connection connection(books.file);
     hand::Statement head(connection, "INSERT INTO D6601 (NOID,PZQJ,PZZ,PZZ_H,PZZ_Z,BDATE,USER_ID,"
                                      "T,D,T_SY) VALUES (?1,?2,'记',?3,?4,?5,'admin',0,0,0)");
@@ -77,6 +82,7 @@ void load_by_hand(const ScratchBooks& books, const app::ToldMonth& month) {
     connection.run("BEGIN IMMEDIATE");
     for (std::size_t i = 0; i < month.vouchers.size(); ++i) {
         const app::ToldVoucher& voucher = month.vouchers[i];
+        if (i > 0 && saved == Saved::Each) connection.run("COMMIT; BEGIN IMMEDIATE");
         const std::string key = period + "记" + std::to_string(10'000 + i);
         const std::int64_t ticks =
             std::int64_t{voucher.date - *host::Date::of(1900, 1, 1)} * 25'920'000;
@@ -102,24 +108,29 @@ struct Unread : host::RowReceiver {
     void row(const std::vector<host::CellView>&) override {}
 };
 
-// The statements that the forms sent, handed to the engine again without a form.
-void replay(const ScratchBooks& books, const std::vector<host::SentStatement>& statements) {
-    OurSession session(books.file);
+// The statements that the forms sent, handed to the data port again without a form.
+void replay(const ScratchBooks& books, host::Date today,
+            const std::vector<host::SentStatement>& statements) {
+    app::Workplace work(books.file, today);
+    work.log_in("admin", [] { return std::optional<std::string>(); });
+    app::EngineData& data = work.data();
+    data.begin_unit();
     Unread unread;
     for (const host::SentStatement& sent : statements) {
         if (sent.call == "opensql")
-            session.data().query(sent.text, unread);
+            data.query(sent.text, unread);
         else
-            session.data().execute(sent.text, {sent.function, sent.key, sent.operation});
+            data.execute(sent.text, {sent.function, sent.key, sent.operation});
     }
+    data.keep_unit();
 }
 
 // What goes over the line between the person and the driver, without the driver.
-void pass_texts(const std::vector<nlohmann::json>& requests) {
+void pass_texts(std::vector<nlohmann::json>& requests) {
     const std::string answer =
         nlohmann::json{{"ok", true}, {"messages", nlohmann::json::array()}, {"active", "TF6661_1"}}
             .dump();
-    app::ScriptedPerson person(requests);
+    app::ScriptedPerson person(std::move(requests));
     while (const auto line = person.next()) {
         automation::Request::parse(*line);
         person.write(nlohmann::json::parse(answer).dump());
@@ -135,25 +146,36 @@ std::vector<Row> loading(const BigBooks& books) {
     const int vouchers = static_cast<int>(year.vouchers.size());
     const host::Date day = story.start.first_day();
     const ScratchBooks scratch(books);
+    std::vector<nlohmann::json> requests = app::typed_month(year);
+    std::vector<nlohmann::json> waiting; // the same, to be used up by the next run
     const auto fresh = [&] {
         create(scratch, story);
-        type(scratch, day, app::typed_start(story));
+        type(scratch, day, app::typed_start(story), Saved::Each);
         host::the_host().statements.clear();
+        waiting = requests;
     };
-    const Way by_hand{[&] { load_by_hand(scratch, year); }, fresh};
+    const auto by_hand = [&](Saved saved) {
+        return Way{[&, saved] { load_by_hand(scratch, year, saved); }, fresh};
+    };
+    const auto by_form = [&](Saved saved) {
+        return Way{[&, saved] { type(scratch, day, std::move(waiting), saved); }, fresh};
+    };
+    Row together = measure("a voucher of a year loaded through the form, saved together", 3,
+                           by_hand(Saved::Together), by_form(Saved::Together), vouchers);
+    together.budget_ratio = 20;
     std::vector<host::SentStatement> statements;
-    Row voucher = measure("a voucher loaded through the form, of a year", 3, by_hand,
-                          {[&] { type(scratch, day, app::typed_month(year)); }, fresh}, vouchers);
-    voucher.budget_ratio = 20;
     statements.swap(host::the_host().statements);
-    Row engine = measure("  of it: its statements, without the form", 3, by_hand,
-                         {[&] { replay(scratch, statements); }, fresh}, vouchers);
-    std::vector<nlohmann::json> requests = app::typed_month(year);
+    const Row engine = measure("  of it: its statements and the log, without the form", 3,
+                               by_hand(Saved::Together),
+                               {[&] { replay(scratch, day, statements); }, fresh}, vouchers);
+    const Row each = measure("  the same, each on the disk when it is answered", 3,
+                             by_hand(Saved::Each), by_form(Saved::Each), vouchers);
     for (nlohmann::json& request : requests)
         if (request.contains("row") && request["row"].is_object()) request["row"] = 0;
-    Row texts = measure_ours("  of it: requests and answers as text", 3,
-                             {[&] { pass_texts(requests); }}, vouchers);
-    return {voucher, engine, texts};
+    const Row texts = measure_ours("  of it: requests and answers as text", 3,
+                                   {[&] { pass_texts(waiting); }, [&] { waiting = requests; }},
+                                   vouchers);
+    return {together, engine, texts, each};
 }
 
 } // namespace bench

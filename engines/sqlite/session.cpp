@@ -177,6 +177,12 @@ Outcome SqliteSession::execute_atomically(std::string_view batch, ResultReceiver
         return started;
     }
     Outcome outcome = compile_and_run(batch, receiver, true);
+    // What waits for the end of a transaction does not wait for the batches after this one.
+    if (outer > 0 && outcome.ok() && transactions_.depth() == outer)
+        if (Outcome settled = guarded([&] { run_before_commit(); }); !settled.ok()) {
+            outcome.error = settled.error;
+            receiver.error(*outcome.error);
+        }
     const int before_commit = outer > 0 ? outer : 1;
     if (outcome.ok() && transactions_.depth() != before_commit) {
         Error error;

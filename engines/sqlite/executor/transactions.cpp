@@ -116,6 +116,7 @@ bool Transactions::rollback_to(const std::string& name) {
         tell(Word::undo, savepoints_[i].number);
         identities_.forget();
         catalog_.restore(savepoints_[i].catalog);
+        if (open_scopes_ == 0) numbers_ = savepoints_[i].number;
         forget_savepoints(i + 1);
         return true;
     }
@@ -126,6 +127,7 @@ void Transactions::release(const std::string& name) {
     for (std::size_t i = savepoints_.size(); i-- > 0;) {
         if (!tsql::same_name(savepoints_[i].name, name)) continue;
         tell(Word::release, savepoints_[i].number);
+        if (open_scopes_ == 0) numbers_ = savepoints_[i].number - 1;
         forget_savepoints(i);
         return;
     }
