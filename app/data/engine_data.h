@@ -33,8 +33,8 @@ public:
     // From now on all that is written is one unit of work: others see it, and it is on the disk,
     // only when keep_unit() returns; this session sees it at once. A batch that is refused has not
     // happened, the ones before it stay in the unit. Without keep_unit() nothing of it stays.
-    // Others who write wait meanwhile. Throws DataError, as keep_unit() does when the unit could not
-    // be kept or was undone on the way (an error that ends a whole transaction).
+    // Others who write wait meanwhile. Throws DataError, as keep_unit() does when the unit could
+    // not be kept or was undone on the way (an error that ends a whole transaction).
     void begin_unit();
     void keep_unit();
     void undo_unit();

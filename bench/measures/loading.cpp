@@ -125,6 +125,21 @@ void replay(const ScratchBooks& books, host::Date today,
     data.keep_unit();
 }
 
+// A load that left something out would be quick for nothing.
+void require_loaded(const ScratchBooks& books, const app::ToldMonth& month) {
+    std::size_t lines = 0;
+    for (const app::ToldVoucher& voucher : month.vouchers) lines += voucher.lines.size();
+    hand::Connection connection(books.file);
+    hand::Statement count(connection, "SELECT (SELECT count(*) FROM D6601),"
+                                      "(SELECT count(*) FROM D6601A),"
+                                      "(SELECT count(*) FROM SYS_LOG WHERE FUNCTION_CODE='661')");
+    const auto vouchers = static_cast<std::int64_t>(month.vouchers.size());
+    const bool all = count.step() && count.integer(0) == vouchers &&
+                     count.integer(1) == static_cast<std::int64_t>(lines) &&
+                     count.integer(2) == vouchers;
+    if (!all) throw std::runtime_error("the year was not loaded whole");
+}
+
 // What goes over the line between the person and the driver, without the driver.
 void pass_texts(std::vector<nlohmann::json>& requests) {
     const std::string answer =
@@ -163,6 +178,7 @@ std::vector<Row> loading(const BigBooks& books) {
     Row together = measure("a voucher of a year loaded through the form, saved together", 3,
                            by_hand(Saved::Together), by_form(Saved::Together), vouchers);
     together.budget_ratio = 20;
+    require_loaded(scratch, year);
     std::vector<host::SentStatement> statements;
     statements.swap(host::the_host().statements);
     const Row engine = measure("  of it: its statements and the log, without the form", 3,
@@ -170,6 +186,7 @@ std::vector<Row> loading(const BigBooks& books) {
                                {[&] { replay(scratch, day, statements); }, fresh}, vouchers);
     const Row each = measure("  the same, each on the disk when it is answered", 3,
                              by_hand(Saved::Each), by_form(Saved::Each), vouchers);
+    require_loaded(scratch, year);
     for (nlohmann::json& request : requests)
         if (request.contains("row") && request["row"].is_object()) request["row"] = 0;
     const Row texts = measure_ours("  of it: requests and answers as text", 3,
