@@ -58,13 +58,16 @@ void StatementForm::FormCreate() {
     Act_Other.Icon = "calculator";
     Act_Other.Right = Act_Save.Right;
     if (kind_.layout_query != nullptr) {
-        CB1 = std::make_unique<TComboBox>(this, "CB1");
+        CB1 = std::make_unique<LayoutBox>(this, "CB1");
         std::vector<std::string> styles;
         for (int layout = 1; layout <= layouts; ++layout)
             styles.push_back("样式" + std::to_string(layout));
         CB1->Items = styles;
         CB1->set_index(0);
-        CB1->OnChange = [this] { CB1CloseUp(); };
+        CB1->OnSameAgain = [this] { CB1CloseUp(); };
+        CB1->OnChange = [this] {
+            if (layout_number() != shown_layout_) CB1CloseUp();
+        };
     }
 }
 
@@ -163,9 +166,14 @@ std::string StatementForm::layout_text() const {
     return CB1 ? std::to_string(layout_number()) : "";
 }
 
+void LayoutBox::enter_text(const std::string& text) {
+    const bool same = text == Text.get();
+    TComboBox::enter_text(text);
+    if (same) OnSameAgain();
+}
+
 // Changes that are not saved would go with the layout shown, so the person is asked.
 void StatementForm::CB1CloseUp() {
-    if (layout_number() == shown_layout_) return;
     const std::string before = SqlText;
     SqlText = kind_.layout_query + layout_text();
     Act_RefreshExecute();

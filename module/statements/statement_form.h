@@ -8,6 +8,14 @@
 
 namespace module {
 
+// The box of the layouts. Opened and closed on the layout that is shown, it has that one read anew.
+class LayoutBox : public TComboBox {
+public:
+    using TComboBox::TComboBox;
+    std::function<void()> OnSameAgain;
+    void enter_text(const std::string& text) override;
+};
+
 // Amounts and formulas are two grids over the same lines, one of them in front. Nothing is reckoned
 // until the person asks for it; the amounts shown are those kept in the books.
 class StatementForm : public TFrm_Base_Inner {
@@ -15,7 +23,7 @@ public:
     // What the user sees, from top to bottom.
     TRadioButton rb1{this, "rb1", "显示数据"}; // amounts
     TRadioButton rb2{this, "rb2", "显示公式"}; // formulas
-    std::unique_ptr<TComboBox> CB1;            // layout, where the statement has several
+    std::unique_ptr<LayoutBox> CB1;            // layout, where the statement has several
     TEdit Edit1{this, "Edit1", "期间:"};       // period to reckon for, as typed
     TLabel CurrentPeriod{this, "CurrentPeriod"}; // of the books, or what to do
     TLabel CellName{this, "CellName"};                    // "D5" of the selected amount
@@ -43,7 +51,6 @@ private:
     void FormCreate();
     void add_columns();
     void arrange();
-    void choose_layout();
     int layout_number() const;
     std::string layout_text() const;
     std::string read_current_period();

@@ -296,6 +296,17 @@ TEST_F(BalanceSheet, the_layout_box_offers_three_layouts) {
                                                            "SELECT * FROM D6830 WHERE G=3"}));
 }
 
+TEST_F(BalanceSheet, the_layout_shown_is_read_anew_when_it_is_chosen_again) {
+    Person& anna = person();
+    anna.mark();
+    anna.set("CB1", "样式1");
+    anna.set("CB1", "样式3");
+    anna.set("CB1", "样式3");
+    EXPECT_EQ(anna.sent_texts(), (std::vector<std::string>{"SELECT * FROM D6830 WHERE G=1",
+                                                           "SELECT * FROM D6830 WHERE G=3",
+                                                           "SELECT * FROM D6830 WHERE G=3"}));
+}
+
 // ---- changing formulas ----
 
 TEST_F(BalanceSheet, a_formula_is_changed_in_place_and_saved_without_being_reckoned) {

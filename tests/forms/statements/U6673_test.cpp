@@ -26,7 +26,11 @@ TEST_F(IncomeStatement, opens_with_the_first_layout_at_the_current_period) {
     EXPECT_EQ(anna.value("Edit1"), "2016-06");
     anna.mark();
     anna.set("CB1", "样式2");
-    EXPECT_EQ(anna.sent_texts(), std::vector<std::string>{"SELECT * FROM D6832 WHERE G=2"});
+    anna.set("CB1", "样式1");
+    anna.set("CB1", "样式1"); // asked for again, without the blank of the opening
+    EXPECT_EQ(anna.sent_texts(), (std::vector<std::string>{"SELECT * FROM D6832 WHERE G=2",
+                                                           "SELECT * FROM D6832 WHERE G=1",
+                                                           "SELECT * FROM D6832 WHERE G=1"}));
 }
 
 TEST_F(IncomeStatement, without_a_current_period_it_says_so) {
