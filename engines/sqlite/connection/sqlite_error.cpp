@@ -139,6 +139,11 @@ Error constraint_error(const SqliteFailure& failure, const tsql::Catalog* catalo
     }
 }
 
+// What SQLite says of expressions beyond its own depth.
+bool too_deep(std::string_view text) {
+    return text == "parser stack overflow" || text.starts_with("Expression tree is too large");
+}
+
 bool no_room(int system_error) {
     return system_error == ENOSPC || system_error == EDQUOT || system_error == EFBIG;
 }
@@ -195,7 +200,11 @@ Error explain(const SqliteFailure& failure, const tsql::Catalog* catalog, Statem
             error = make(8115, ErrorCategory::arithmetic,
                          "Arithmetic overflow error converting expression to data type bigint.");
         else
-            error = make(8624, ErrorCategory::internal, failure.what());
+            error = too_deep(failure.what())
+                        ? make(191, ErrorCategory::syntax,
+                               "Some part of your SQL statement is nested too deeply. Rewrite the "
+                               "query or break it up into smaller queries.")
+                        : make(8624, ErrorCategory::internal, failure.what());
     }
     error.engine_code = failure.code;
     return error;

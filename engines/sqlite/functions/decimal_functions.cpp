@@ -11,6 +11,15 @@ template <auto operation> void binary(const Call& call) {
                              call.number(4), call.number(5)));
 }
 
+// Precision and scale of the result, then scale and value of each term from left to right.
+void sum(const Call& call) {
+    const int precision = call.number(0), scale = call.number(1);
+    Int128 total = 0;
+    for (int i = 2; i + 1 < call.count(); i += 2)
+        total = add(total, scale, call.exact(i + 1), call.number(i), precision, scale);
+    call.give_wide(total);
+}
+
 void cmp(const Call& call) {
     call.give(compare(call.exact(0), call.number(1), call.exact(2), call.number(3)));
 }
@@ -70,6 +79,7 @@ void to_float(const Call& call) {
 constexpr FunctionEntry entries[] = {
     {"zf_dec_add", 6, Nature::pure, binary<add>},
     {"zf_dec_sub", 6, Nature::pure, binary<subtract>},
+    {"zf_dec_sum", -1, Nature::pure, sum},
     {"zf_dec_mul", 6, Nature::pure, binary<multiply>},
     {"zf_dec_div", 6, Nature::pure, binary<divide>},
     {"zf_dec_mod", 6, Nature::pure, binary<modulo>},

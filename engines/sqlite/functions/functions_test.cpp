@@ -77,6 +77,12 @@ TEST_F(Functions, give_what_their_lines_promise) {
         {"zf_rescale(1005,3,2)", "w101"},
         {"zf_int4(2147483648)", "8115"},
         {"zf_int1(255)", "255"},
+        {"zf_sum4(5,-7,3)", "1"},
+        {"zf_sum4(2147483647,1,-1)", "8115"}, // the partial sum counts
+        {"zf_sum4(1,NULL,2)", "NULL"},
+        {"zf_dec_sum(38,2,0,5,2,-125,1,zf_wide(7))", "w445"}, // 5 - 1.25 + 0.7
+        {"zf_dec_sum(3,2,2,999,2,1,2,-1)", "8115"},
+        {"zf_dec_sum(38,2,2,NULL,2,1)", "NULL"},
         {"zf_add8(9223372036854775807,1)", "8115"},
         {"zf_within(-99,100)", "-99"},
         {"zf_within(100,100)", "8115"},

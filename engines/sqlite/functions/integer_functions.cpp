@@ -75,10 +75,21 @@ void round_int(const Call& call) {
 constexpr std::int64_t most = std::numeric_limits<std::int32_t>::max();
 constexpr std::int64_t least = std::numeric_limits<std::int32_t>::min();
 
+// From left to right, each partial sum within an int.
+void sum4(const Call& call) {
+    std::int64_t sum = 0;
+    for (int i = 0; i < call.count(); ++i) {
+        sum += call.integer(i);
+        if (sum < least || sum > most) raise_overflow("int");
+    }
+    call.give(sum);
+}
+
 constexpr FunctionEntry entries[] = {
     {"zf_int1", 1, Nature::pure, within<0, 255>},
     {"zf_int2", 1, Nature::pure, within<-32768, 32767>},
     {"zf_int4", 1, Nature::pure, within<least, most>},
+    {"zf_sum4", -1, Nature::pure, sum4},
     {"zf_within", 2, Nature::pure, below},
     {"zf_add8", 2, Nature::pure, add8},
     {"zf_sub8", 2, Nature::pure, sub8},

@@ -50,6 +50,15 @@ TEST_F(StatementLedger, totals_of_totals_settle_through_five_levels) {
     EXPECT_EQ(amount("A4", 1), "100.00");
 }
 
+TEST_F(StatementLedger, a_formula_as_long_as_its_field_is_reckoned) {
+    std::string formula = "fd(期末,1)";
+    for (int i = 1; i < 99; ++i) formula += i % 3 == 0 ? "-fd(期末,1)" : "+fd(期末,1)";
+    define("INSERT INTO D6830 (ID,G,A2,A6) VALUES (1,1,'1','0.01'),(2,1,'2','" + formula + "')");
+    anna.open(671);
+    anna.click("Act_Other");
+    EXPECT_EQ(amount("A4", 2), "0.35"); // 67 times more, 32 times less
+}
+
 TEST_F(StatementLedger, a_cell_sees_what_the_pass_before_kept) {
     define("INSERT INTO D6830 (ID,G,A2,A4,A6,B2,B6) VALUES "
            "(1,1,'1','7','5','11','fsum(期末,1,2)'),(2,1,'2','8','',NULL,NULL)");

@@ -177,6 +177,7 @@ Fragment Emitter::date_arithmetic(const BoundArithmetic& node, Fragment left, Fr
 }
 
 Fragment Emitter::arithmetic(const BoundArithmetic& node) {
+    if (auto sum = long_sum(node)) return *sum;
     Fragment left = value_of(node.left);
     Fragment right = value_of(node.right);
     if (node.type.is_date()) {

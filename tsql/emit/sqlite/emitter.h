@@ -53,6 +53,7 @@ private:
     Fragment system_value(const BoundValue& node);
     Fragment column(const BoundColumn& node);
     Fragment arithmetic(const BoundArithmetic& node);
+    std::optional<Fragment> long_sum(const BoundArithmetic& node); // long_sum.cpp
     Fragment integer_arithmetic(const BoundArithmetic& node, Fragment left, Fragment right);
     Fragment decimal_arithmetic(const BoundArithmetic& node, Fragment left, Fragment right);
     Fragment money_arithmetic(const BoundArithmetic& node, Fragment left, Fragment right);

@@ -30,11 +30,13 @@
 // Integers
 //   zf_int1(x) zf_int2(x) zf_int4(x)  x when within tinyint, smallint, int; else 8115
 //   zf_add8(a,b) zf_sub8(a,b) zf_mul8(a,b)  64 bits; 8115
+//   zf_sum4(a,b,...)                  added from left to right; 8115 where a partial sum is no int
 //   zf_xor(a,b)                       bits that differ
 //   zf_idiv(a,b) zf_imod(a,b)         towards zero; 8134. x % has the sign of the dividend
 //
 // Decimals
 //   zf_dec_add(a,sa,b,sb,p,s) zf_dec_sub(…)   wide; result of precision p, scale s; 8115
+//   zf_dec_sum(p,s,sa,a,sb,b,...)             wide; added from left to right; 8115
 //   zf_dec_mul(a,sa,b,sb,p,s)                 wide; digits beyond s are rounded half away
 //   zf_dec_div(a,sa,b,sb,p,s)                 wide; cut at s; 8134, 8115
 //   zf_dec_mod(a,sa,b,sb,p,s)                 wide; 8134
