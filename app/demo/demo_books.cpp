@@ -62,11 +62,13 @@ public:
         work.log_in("admin", [] { return std::optional<std::string>(); });
         ScriptedPerson person(std::move(sitting.requests),
                               [&] { return go_on(sitting.what); });
+        work.data().begin_unit(); // what a sitting breaks off is thrown away with the books
         run_driver(person, person);
         if (stopped_) throw Refusal("已取消,没有建立演示帐套。");
         if (!person.trouble().empty())
             throw Refusal("演示数据没有全部录入: " + person.trouble());
         if (sitting.month) verify_month(work.session(), *sitting.month);
+        work.data().keep_unit();
     }
 
 private:

@@ -46,14 +46,53 @@ void create(const ScratchBooks& books, const app::Story& story) {
 // When what was loaded is on the disk: each voucher when it is answered, or all at the end.
 enum class Saved { Each, Together };
 
-void type(const ScratchBooks& books, host::Date today, std::vector<nlohmann::json> requests,
-          Saved saved) {
+using Script = std::vector<std::string>; // requests as lines
+
+// Types and keeps the lines that came to the driver.
+Script type(const ScratchBooks& books, host::Date today, std::vector<nlohmann::json> requests) {
+    struct Overheard : automation::RequestLines {
+        explicit Overheard(app::ScriptedPerson& person) : person(person) {}
+        std::optional<std::string> next() override {
+            auto line = person.next();
+            if (line) lines.push_back(*line);
+            return line;
+        }
+        app::ScriptedPerson& person;
+        Script lines;
+    };
     app::Workplace work(books.file, today);
     work.log_in("admin", [] { return std::optional<std::string>(); });
     app::ScriptedPerson person(std::move(requests));
-    if (saved == Saved::Together) work.data().begin_unit();
-    app::run_driver(person, person);
+    Overheard overheard(person);
+    app::run_driver(overheard, person);
     if (!person.trouble().empty()) throw std::runtime_error(person.trouble());
+    return std::move(overheard.lines);
+}
+
+// A program that sends a script and looks whether each request was carried out.
+class Sender : public automation::RequestLines, public automation::AnswerLines {
+public:
+    explicit Sender(const Script& script) : script_(script) {}
+    std::optional<std::string> next() override {
+        if (sent_ == script_.size()) return std::nullopt;
+        return script_[sent_++];
+    }
+    void write(const std::string& line) override {
+        if (line.find("\"ok\":true") == std::string::npos)
+            throw std::runtime_error(script_[sent_ - 1] + " → " + line);
+    }
+
+private:
+    const Script& script_;
+    std::size_t sent_ = 0;
+};
+
+void play(const ScratchBooks& books, host::Date today, const Script& script, Saved saved) {
+    app::Workplace work(books.file, today);
+    work.log_in("admin", [] { return std::optional<std::string>(); });
+    Sender sender(script);
+    if (saved == Saved::Together) work.data().begin_unit();
+    app::run_driver(sender, sender);
     if (saved == Saved::Together) work.data().keep_unit();
 }
 
@@ -140,17 +179,16 @@ void require_loaded(const ScratchBooks& books, const app::ToldMonth& month) {
     if (!all) throw std::runtime_error("the year was not loaded whole");
 }
 
-// What goes over the line between the person and the driver, without the driver.
-void pass_texts(std::vector<nlohmann::json>& requests) {
-    const std::string answer =
-        nlohmann::json{{"ok", true}, {"messages", nlohmann::json::array()}, {"active", "TF6661_1"}}
-            .dump();
-    app::ScriptedPerson person(std::move(requests));
-    while (const auto line = person.next()) {
+// Reading the requests and writing the answers, without the driver between them.
+void pass_texts(const Script& script) {
+    Sender sender(script);
+    while (const auto line = sender.next()) {
         automation::Request::parse(*line);
-        person.write(nlohmann::json::parse(answer).dump());
+        sender.write(nlohmann::json{{"ok", true},
+                                    {"messages", nlohmann::json::array()},
+                                    {"active", "TF6661_1"}}
+                         .dump());
     }
-    if (!person.trouble().empty()) throw std::runtime_error(person.trouble());
 }
 
 } // namespace
@@ -161,37 +199,33 @@ std::vector<Row> loading(const BigBooks& books) {
     const int vouchers = static_cast<int>(year.vouchers.size());
     const host::Date day = story.start.first_day();
     const ScratchBooks scratch(books);
-    std::vector<nlohmann::json> requests = app::typed_month(year);
-    std::vector<nlohmann::json> waiting; // the same, to be used up by the next run
     const auto fresh = [&] {
         create(scratch, story);
-        type(scratch, day, app::typed_start(story), Saved::Each);
+        type(scratch, day, app::typed_start(story));
         host::the_host().statements.clear();
-        waiting = requests;
     };
+    fresh();
+    const Script script = type(scratch, day, app::typed_month(year));
+    std::vector<host::SentStatement> statements;
+    statements.swap(host::the_host().statements);
     const auto by_hand = [&](Saved saved) {
         return Way{[&, saved] { load_by_hand(scratch, year, saved); }, fresh};
     };
     const auto by_form = [&](Saved saved) {
-        return Way{[&, saved] { type(scratch, day, std::move(waiting), saved); }, fresh};
+        return Way{[&, saved] { play(scratch, day, script, saved); }, fresh};
     };
     Row together = measure("a voucher of a year loaded through the form, saved together", 3,
                            by_hand(Saved::Together), by_form(Saved::Together), vouchers);
     together.budget_ratio = 20;
     require_loaded(scratch, year);
-    std::vector<host::SentStatement> statements;
-    statements.swap(host::the_host().statements);
     const Row engine = measure("  of it: its statements and the log, without the form", 3,
                                by_hand(Saved::Together),
                                {[&] { replay(scratch, day, statements); }, fresh}, vouchers);
     const Row each = measure("  the same, each on the disk when it is answered", 3,
                              by_hand(Saved::Each), by_form(Saved::Each), vouchers);
     require_loaded(scratch, year);
-    for (nlohmann::json& request : requests)
-        if (request.contains("row") && request["row"].is_object()) request["row"] = 0;
     const Row texts = measure_ours("  of it: requests and answers as text", 3,
-                                   {[&] { pass_texts(waiting); }, [&] { waiting = requests; }},
-                                   vouchers);
+                                   {[&] { pass_texts(script); }}, vouchers);
     return {together, engine, texts, each};
 }
 
