@@ -90,6 +90,7 @@ struct Compiler::Parts {
     Catalog& catalog;
     CompilerOptions options;
     PlanCache cache;
+    std::vector<Token> tokens; // of the text being compiled
     Statistics statistics;
     std::map<std::string, std::shared_ptr<const CompiledRoutine>, NameLess> routines;
     std::uint64_t routines_version = 0;
@@ -144,7 +145,8 @@ Compiler::Parts::Planned Compiler::Parts::plan_unit(std::string_view text, int l
 
 CompiledBatch Compiler::compile(std::string_view text) {
     Parts& parts = *parts_;
-    const std::vector<Token> tokens = tokenize(text);
+    std::vector<Token>& tokens = parts.tokens;
+    tokenize(text, tokens);
     const bool exact = parts.options.exact_row_counts || asks_for_counts(text, tokens);
     CompiledBatch batch;
     bool after_definition = false;

@@ -14,7 +14,7 @@ using nlohmann::json;
 
 struct Driver::Unanswered {
     std::int64_t number = 0;
-    json body;
+    json body = json::object(); // what the answer holds beside what every answer holds
 };
 
 Driver::Driver(DriverPorts ports) : ports_(std::move(ports)) {}
@@ -50,11 +50,11 @@ void Driver::serve(host::TForm* modal) {
 
 void Driver::take(const std::string& line) {
     const std::int64_t number = ++requests_taken_;
-    unanswered_ = std::make_unique<Unanswered>(Unanswered{number, json{{"ok", true}}});
+    unanswered_ = std::make_unique<Unanswered>();
+    unanswered_->number = number;
     json body;
     try {
         body = carry_out(*this, Request::parse(line));
-        body["ok"] = true;
     } catch (const Refusal& refusal) {
         body = json{{"ok", false}, {"error", refusal.what()}};
     } catch (const std::exception& failure) {
@@ -68,6 +68,7 @@ void Driver::answer_now() {
     if (!unanswered_) return;
     const std::unique_ptr<Unanswered> request = std::move(unanswered_);
     const host::TForm* active = forms_.active();
+    request->body.emplace("ok", true); // unless it was refused
     request->body["messages"] = std::exchange(messages_, json::array());
     request->body["active"] = active == nullptr ? json() : json(forms_.name_of(*active));
     ports_.answers.write(request->body.dump(-1, ' ', false, json::error_handler_t::replace));

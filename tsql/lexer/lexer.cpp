@@ -12,9 +12,9 @@ constexpr std::size_t longest_name = 128;
 
 class Lexer {
 public:
-    explicit Lexer(std::string_view batch) : text_(batch) { tokens_.reserve(batch.size() / 4 + 4); }
+    Lexer(std::string_view batch, std::vector<Token>& tokens) : text_(batch), tokens_(tokens) {}
 
-    std::vector<Token> run();
+    void run();
 
 private:
     void skip_blanks_and_comments();
@@ -51,13 +51,14 @@ private:
     std::string_view text_;
     std::size_t at_ = 0;
     int literals_ = 0;
-    std::vector<Token> tokens_;
+    std::vector<Token>& tokens_;
 };
 
-std::vector<Token> Lexer::run() {
+void Lexer::run() {
+    tokens_.clear();
+    tokens_.reserve(text_.size() / 4 + 4);
     for (skip_blanks_and_comments(); !done(); skip_blanks_and_comments()) read_token();
     add(TokenKind::End, at_);
-    return std::move(tokens_);
 }
 
 void Lexer::skip_blanks_and_comments() {
@@ -338,7 +339,13 @@ void Lexer::read_sign() {
 } // namespace
 
 std::vector<Token> tokenize(std::string_view batch) {
-    return Lexer(batch).run();
+    std::vector<Token> tokens;
+    tokenize(batch, tokens);
+    return tokens;
+}
+
+void tokenize(std::string_view batch, std::vector<Token>& tokens) {
+    Lexer(batch, tokens).run();
 }
 
 } // namespace tsql

@@ -12,4 +12,7 @@ namespace tsql {
 //     std::vector<Token> tokens = tokenize("SELECT N'借' -- side");   // SELECT, N'借', End
 std::vector<Token> tokenize(std::string_view batch);
 
+// The same into a vector that is used again and again; what it held is gone.
+void tokenize(std::string_view batch, std::vector<Token>& tokens);
+
 } // namespace tsql

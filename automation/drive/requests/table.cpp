@@ -41,11 +41,11 @@ constexpr RequestKind kinds[] = {
 
 nlohmann::json carry_out(Driver& driver, const Request& request) {
     const std::string op = request.text("op");
-    std::string known;
-    for (const RequestKind& kind : kinds) {
+    for (const RequestKind& kind : kinds)
         if (op == kind.op) return kind.carry_out(driver, request);
+    std::string known;
+    for (const RequestKind& kind : kinds)
         known += (known.empty() ? "" : ", ") + std::string(kind.op);
-    }
     throw Refusal("no request is named \"" + op + "\"; known: " + known);
 }
 
