@@ -148,6 +148,7 @@ void TClientDataSet::tell(const std::function<void(DataSetListener&)>& news) {
         reset_due_ = true;
         return;
     }
+    if (listeners_.size() == 1) return news(*listeners_.front());
     for (DataSetListener* listener : std::vector(listeners_))
         if (std::find(listeners_.begin(), listeners_.end(), listener) != listeners_.end())
             news(*listener);

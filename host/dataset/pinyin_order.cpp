@@ -29,7 +29,7 @@ const icu::Collator& collator() {
     return *chinese;
 }
 
-std::string collation_key(char32_t character) {
+std::string made_key(char32_t character) {
     std::string key(32, '\0');
     for (;;) {
         const std::int32_t need = collator().getSortKey(
@@ -41,10 +41,25 @@ std::string collation_key(char32_t character) {
     }
 }
 
+// The same few thousand characters stand in every list.
+const std::string& collation_key(char32_t character) {
+    static std::unordered_map<char32_t, std::string> known;
+    const auto [at, added] = known.try_emplace(character);
+    if (added) at->second = made_key(character);
+    return at->second;
+}
+
 // A number for each character, zero at first; pages are made where characters occur, so that a
-// short list stays cheap.
+// short list stays cheap. One at a time: all share the table of pages.
 class CharacterNumbers {
 public:
+    CharacterNumbers() = default;
+    CharacterNumbers(const CharacterNumbers&) = delete;
+    CharacterNumbers& operator=(const CharacterNumbers&) = delete;
+    ~CharacterNumbers() {
+        for (const std::size_t i : made_) pages_[i].reset();
+    }
+
     std::uint32_t& of(char32_t character) {
         std::unique_ptr<Page>& page = pages_[character / page_size];
         if (!page) {
@@ -65,17 +80,16 @@ public:
 private:
     static constexpr std::size_t page_size = 256;
     using Page = std::array<std::uint32_t, page_size>;
-    std::vector<std::unique_ptr<Page>> pages_{0x110000 / page_size};
+    static inline std::array<std::unique_ptr<Page>, 0x110000 / page_size> pages_;
     std::vector<std::size_t> made_;
 };
 
 // The rank of every character that occurs. Chinese orders character by character, so a long list
 // needs the collator for its few thousand characters only.
-CharacterNumbers character_ranks(const std::vector<std::u32string>& texts) {
-    CharacterNumbers ranks;
+void rank_characters(const std::vector<std::u32string>& texts, CharacterNumbers& ranks) {
     for (const std::u32string& text : texts)
         for (const char32_t character : text) ranks.of(character) = 1;
-    std::vector<std::pair<std::string, char32_t>> keys;
+    std::vector<std::pair<std::string_view, char32_t>> keys;
     ranks.for_each([&](char32_t character, std::uint32_t) {
         keys.emplace_back(collation_key(character), character);
     });
@@ -85,7 +99,6 @@ CharacterNumbers character_ranks(const std::vector<std::u32string>& texts) {
         if (i == 0 || keys[i].first != keys[i - 1].first) ++rank;
         ranks.of(keys[i].second) = rank;
     }
-    return ranks;
 }
 
 // Three bytes a character, most significant first: keys compare as bytes do.
@@ -111,7 +124,8 @@ std::vector<std::uint32_t> pinyin_ranks(const std::vector<std::string_view>& tex
         if (added) different.push_back(to_characters(texts[i]));
         number[i] = at->second;
     }
-    CharacterNumbers characters = character_ranks(different);
+    CharacterNumbers characters;
+    rank_characters(different, characters);
     std::vector<std::string> keys;
     for (std::u32string& text : different) {
         keys.push_back(sort_key(text, characters));

@@ -17,6 +17,12 @@ std::string direction_text(Amount change) {
     return change.is_negative() ? "流出 " + (-change).to_text() : "流入 " + change.to_text();
 }
 
+// Whether an item carries nothing, as most do.
+bool is_blank(const TClientDataSet& items, int row) {
+    const TClientDataSet::Peek peek(items, row);
+    return items.FieldByName("J").IsNull() && items.FieldByName("D").IsNull();
+}
+
 } // namespace
 
 // ---- opening ----
@@ -29,8 +35,9 @@ TF6661_5::TF6661_5(TForm* parent) : TFrm_Base_Detail(parent) {
     // The items are those of the books: none is added here.
     AdoQry_Main.BeforeInsert = [] { Abort(); };
     AdoQry_Main.OnDataChange = [this](TField* field) {
+        if (loading_) return;
         refresh_hint();
-        if (field && !loading_ && save_) save_->Enabled = true;
+        if (field && save_) save_->Enabled = true;
     };
     layout =
         Rows({Control(CashHint), Rest(GRID2),
@@ -74,6 +81,7 @@ void TF6661_5::initnoid(const std::string& NOID, const std::string& mode) {
     as_loaded_ = replace_allocation(NOID, AdoQry_Main);
     const bool adding = mode != "Edit" && mode != "ReadOnly";
     for (int row = 0; adding && row < AdoQry_Main.RecordCount(); ++row) {
+        if (is_blank(AdoQry_Main, row)) continue;
         AdoQry_Main.GotoRow(row);
         AdoQry_Main.Edit();
         AdoQry_Main.FieldByName("J").Clear();
