@@ -67,7 +67,7 @@ public:
             post();
         }
         if (now_and_then(25)) second_thoughts();
-        maybe(20, Act::Red);
+        maybe(35, Act::Red);
         maybe(10, Act::Enter);
         post();
         act(Act::Close);

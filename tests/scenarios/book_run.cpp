@@ -84,6 +84,8 @@ public:
             take(step.act, chance);
             ++verdict.steps;
             verdict.vouchers = typed_;
+            verdict.allocated = allocated_;
+            verdict.reversed = reversed_;
             verdict.figures += compare_books(books_, ledger_);
         }
         verdict.ledger_figures = compare_ledgers(books_, ledger_);
@@ -129,7 +131,7 @@ private:
     NaiveLedger ledger_;
     std::map<std::string, NaiveOpening> typed_openings_;
     std::set<std::string> turned_; // since their opening was typed
-    std::size_t typed_ = 0;
+    std::size_t typed_ = 0, allocated_ = 0, reversed_ = 0;
 };
 
 // One person works at a time.
@@ -273,6 +275,7 @@ void BookRun::enter(std::mt19937& chance) {
         NaiveVoucher voucher = draw_voucher(chance);
         voucher.number = ledger_.next_number(voucher.word);
         voucher.key = voucher_key(voucher);
+        if (!voucher.cash.empty()) ++allocated_;
         papers.push_back(typed(voucher, any_day(chance)));
         ledger_.vouchers().push_back(std::move(voucher));
     }
@@ -375,6 +378,7 @@ void BookRun::reverse(std::mt19937& chance) {
     if (voucher == nullptr || !voucher->posted) return;
     const NaiveVoucher red = ledger_.reversed(*voucher);
     expect("taking back in red", anna_->reverse(voucher->key), {});
+    ++reversed_;
     ledger_.vouchers().push_back(red);
 }
 

@@ -14,6 +14,8 @@ struct BookVerdict {
     std::string difference;   // "" when both agree everywhere
     std::size_t steps = 0;    // carried out until then
     std::size_t vouchers = 0; // typed
+    std::size_t allocated = 0; // of them, to cash-flow items
+    std::size_t reversed = 0; // in red
     std::size_t figures = 0;  // amounts of balances compared
     std::size_t ledger_figures = 0; // amounts of ledgers and functions, at the end
     std::size_t statement_figures = 0; // amounts of statements, the same

@@ -55,12 +55,15 @@ TEST(RandomBooks, hold_in_every_period_and_account_what_plain_addition_gives) {
     const auto first = static_cast<std::uint32_t>(number_from("ZF_RANDOM_SEED", 1));
     const auto count = static_cast<std::uint32_t>(number_from("ZF_RANDOM_BOOKS", usual_books));
     BookVerdict sum;
-    std::size_t audited = 0;
+    std::size_t audited = 0, strict = 0;
     for (std::uint32_t seed = first; seed < first + count; ++seed) {
         const BookPlan plan = plan_books(seed);
         const BookVerdict verdict = keep_books(plan);
         sum.steps += verdict.steps;
         sum.vouchers += verdict.vouchers;
+        sum.allocated += verdict.allocated;
+        sum.reversed += verdict.reversed;
+        if (plan.strict) ++strict;
         sum.figures += verdict.figures;
         if (verdict.audited) ++audited;
         sum.ledger_figures += verdict.ledger_figures;
@@ -74,10 +77,16 @@ TEST(RandomBooks, hold_in_every_period_and_account_what_plain_addition_gives) {
                << text_of(shortest) << "\nends with: " << keep_books(shortest).difference;
     }
     std::cout << "seeds " << first << " to " << first + count - 1 << ": " << sum.steps
-              << " steps, " << sum.vouchers << " vouchers typed, " << sum.figures
+              << " steps, " << sum.vouchers << " vouchers typed, " << sum.allocated
+              << " allocated, " << sum.reversed << " taken back in red, " << sum.figures
               << " amounts of balances and " << sum.ledger_figures << " of ledgers and "
               << sum.statement_figures << " of statements compared, " << audited
-              << " books audited\n";
+              << " books audited, " << strict << " kept strictly\n";
+    if (count >= usual_books) { // enough for each kind of act to have had its chance
+        EXPECT_GT(sum.allocated, 0U);
+        EXPECT_GT(sum.reversed, 0U);
+        EXPECT_GT(strict, 0U);
+    }
     EXPECT_GT(sum.figures, 0U);
     EXPECT_GT(sum.ledger_figures, 0U);
     EXPECT_GT(sum.statement_figures, 0U);
