@@ -108,7 +108,7 @@ TEST_F(Data, a_query_changes_nothing_whatever_was_typed_into_it) {
         } catch (const host::DataError& error) {
             const std::string shown = error.what();
             EXPECT_TRUE(shown.starts_with("这里只能查询,不能更改帐套的数据") ||
-                        shown.starts_with("数据库不能执行这条语句"))
+                        shown.starts_with("算式或语句的写法不对"))
                 << shown;
         }
         EXPECT_EQ(session_->transaction_depth(), 0) << typed;

@@ -30,6 +30,8 @@ TEST(ErrorSentence, a_number_says_more_than_its_category) {
     using engines::ErrorCategory;
     EXPECT_NE(sentence(2627, ErrorCategory::constraint), sentence(0, ErrorCategory::constraint));
     EXPECT_NE(sentence(8152, ErrorCategory::conversion), sentence(245, ErrorCategory::conversion));
+    for (const int number : {102, 105, 156, 174, 191, 195, 207, 313, 4121, 8144})
+        EXPECT_NE(sentence(number, ErrorCategory::syntax), sentence(0, ErrorCategory::syntax));
 }
 
 TEST(ErrorSentence, a_text_raised_on_purpose_is_shown_as_it_is) {

@@ -1,4 +1,5 @@
 // Statements on real books: what is kept of them, and where a recalculation stops.
+#include "host/values/sql_text.h"
 #include "tests/forms/ledger_desk.h"
 
 namespace tests {
@@ -125,31 +126,78 @@ TEST_F(StatementLedger, a_wrong_formula_stops_at_its_cell_and_keeps_the_passes_b
     EXPECT_EQ(amount("A4", 2), "5.00"); // with the next save it is
 }
 
-TEST_F(StatementLedger, words_of_another_statement_are_refused_by_the_database) {
+// What the books answer to a formula they cannot reckon: where it stands, what it says, what is
+// wrong with it in a sentence.
+TEST_F(StatementLedger, a_formula_that_cannot_be_reckoned_says_where_it_stands_and_why) {
     struct Wrong {
         int code;
         const char* table;
         const char* formula;
+        const char* reason;
     };
-    const Wrong formulas[] = {{671, "D6830", "dbo.fsum(期末,1,2)"},
-                              {671, "D6830", "fasc(期末,'1001','1001'"},
-                              {671, "D6830", "fascc(期末,'1001','1001')"},
-                              {671, "D6830", "1/0"},
-                              {673, "D6832", "fasc(期末,'1001','1001')"},
-                              {672, "D6831", "dbo.fxj(本期借方累计,'1','2')"}};
+    const char* const shape = "算式或语句的写法不对,请检查括号、逗号和运算符!";
+    const char* const unknown = "没有这个函数,请核对函数名!";
+    const char* const count = "函数的参数个数不对,请核对!";
+    const Wrong formulas[] = {
+        {671, "D6830", "fasc(期末,'1001','1001'", shape},
+        {671, "D6830", "fasc(期末,'1001','1001'))", shape},
+        {671, "D6830", "fasc（期末，'1001'，'1001'）", shape},
+        {671, "D6830", "1+", shape},
+        {671, "D6830", "1 2", shape},
+        {671, "D6830", "'1001", "引号没有成对,请补齐!"},
+        {671, "D6830", "fascc(期末,'1001','1001')", unknown},
+        {671, "D6830", "FASC(期末,'1001','1001')", unknown},
+        {671, "D6830", "fasc (期末,'1001','1001')", unknown},
+        {671, "D6830", "dbo.fsum(期末,1,2)", unknown}, // the prefix is doubled
+        {673, "D6832", "fasc(期末,'1001','1001')", unknown},
+        {671, "D6830", "fasc(期末,'1001')", count},
+        {672, "D6831", "dbo.fxj(本期借方累计,'1','2')", count}, // a word of the others
+        {671, "D6830", "１２+3", "没有这个名称,请核对写法!"},
+        {671, "D6830", "1/0", "计算中出现了除以零,请检查公式或数据!"},
+        {671, "D6830", "fasc(期末,'1001','1001')/0", "计算中出现了除以零,请检查公式或数据!"},
+        {671, "D6830", "99999999999999999999", "数字太大,超出了可以显示的范围,请核对数据!"},
+        {671, "D6830", "'abc'", "结果“abc”不是数字!"},
+        {671, "D6830", "CAST('2024-01-01' AS datetime)", "结果“2024-01-01”不是数字!"},
+        {671, "D6830", "1 union select 2", "公式只能是一个算式,不能含有“select”!"},
+        {671, "D6830", "1 -- 2", "公式只能是一个算式,不能含有“--”!"},
+    };
     for (const Wrong& wrong : formulas) {
         const std::string table = wrong.table;
-        define("INSERT INTO " + table + " (ID,A1,A6" + (table == "D6831" ? "" : ",G") +
-               ") VALUES (1,'x',N'" +
-               [&] {
-                   std::string doubled;
-                   for (const char* c = wrong.formula; *c; ++c)
-                       doubled += *c == '\'' ? "''" : std::string(1, *c);
-                   return doubled;
-               }() +
-               "'" + (table == "D6831" ? "" : ",1") + ")");
+        const bool layouts = table != "D6831";
+        define("INSERT INTO " + table + " (ID,A1,A6" + (layouts ? ",G" : "") + ") VALUES (1,'x'," +
+               host::quoted(wrong.formula) + (layouts ? ",1" : "") + ")");
         const std::string message = recalculation_stops(wrong.code);
-        EXPECT_EQ(message.substr(0, message.find("”的“D")), "重算停在第 1 行“x") << message;
+        EXPECT_TRUE(message.starts_with("重算停在第 1 行“x”的“D ")) << message;
+        EXPECT_NE(message.find(std::string("\n") + wrong.formula + "\n" + wrong.reason),
+                  std::string::npos)
+            << message << "\n" << wrong.reason;
+        EXPECT_EQ(amount("A4", 1, table), "<null>") << wrong.formula;
+        anna.close();
+    }
+}
+
+// Odd and yet right: what stands between the words does not matter to the books.
+TEST_F(StatementLedger, a_formula_may_be_written_loosely) {
+    struct Loose {
+        const char* formula;
+        const char* amount;
+    };
+    const Loose formulas[] = {{" ( (1 + 2) ) * 3 ", "9.00"},
+                              {"fasc( 期末 , '1001' , '1009' )", "0.00"},
+                              {"-fasc(期末,'1001','1009')+(1+2)*3", "9.00"},
+                              {"CASE WHEN 1>0 THEN 5 END", "5.00"},
+                              {"(SELECT COUNT(*) FROM D6830)", "1.00"},
+                              {"10/4", "2.00"}, // of whole numbers
+                              {"10.0/4", "2.50"},
+                              {"1/3.0", "0.33"},
+                              {"2.34495*1", "2.34"},
+                              {"' 12.5 '", "12.50"},
+                              {"NULL", "0.00"}};
+    for (const Loose& loose : formulas) {
+        define("INSERT INTO D6830 (ID,G,A6) VALUES (1,1," + host::quoted(loose.formula) + ")");
+        anna.open(671);
+        anna.click("Act_Other");
+        EXPECT_EQ(amount("A4", 1), loose.amount) << loose.formula;
         anna.close();
     }
 }
