@@ -26,7 +26,7 @@ public:
         setObjectName("login");
         setFixedWidth(400);
         auto* column = new QVBoxLayout;
-        column->setContentsMargins(24, 20, 24, 12);
+        column->setContentsMargins(24, 20, 24, 20);
         column->setSpacing(12);
         user_ = add_field(*column, QStringLiteral("用户"));
         password_ = add_field(*column, QStringLiteral("密码"));
@@ -42,6 +42,7 @@ public:
         refusal_->hide();
         column->addWidget(refusal_);
         body()->addLayout(column);
+        add_rule();
         add_buttons();
         (last_user.empty() ? user_ : password_)->setFocus();
     }

@@ -44,13 +44,7 @@ public:
         words->setFixedHeight(std::max(icon, text_box.height() + 4));
         row->addWidget(words, 1);
         body()->addLayout(row);
-        auto* rule = new QFrame(this);
-        rule->setFixedHeight(1);
-        rule->setAutoFillBackground(true);
-        QPalette line = rule->palette();
-        line.setColor(QPalette::Window, token::rule_1);
-        rule->setPalette(line);
-        body()->addWidget(rule);
+        add_rule();
         buttons_ = new QHBoxLayout;
         buttons_->setContentsMargins(14, 10, 14, 10);
         buttons_->setSpacing(8);

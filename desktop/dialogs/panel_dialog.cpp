@@ -2,6 +2,7 @@
 #include "desktop/dialogs/panel_dialog.h"
 
 #include <QApplication>
+#include <QFrame>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -37,6 +38,16 @@ int PanelDialog::run() {
     // Not every window system hands the focus back by itself.
     if (parentWidget()) parentWidget()->window()->activateWindow();
     return result;
+}
+
+void PanelDialog::add_rule() {
+    auto* rule = new QFrame(this);
+    rule->setFixedHeight(1);
+    rule->setAutoFillBackground(true);
+    QPalette line = rule->palette();
+    line.setColor(QPalette::Window, token::rule_1);
+    rule->setPalette(line);
+    body_->addWidget(rule);
 }
 
 void PanelDialog::reject() { QDialog::reject(); }

@@ -19,6 +19,7 @@ public:
     int run();
 
 protected:
+    void add_rule(); // below what is said, above the buttons
     // The cross and Esc; dialogs that ask first override it.
     virtual void leave() { reject(); }
     void reject() override;

@@ -161,7 +161,7 @@ bool GridView::row_edited(int row) const {
            shows_focus();
 }
 
-// Widths as the form gives them; what is left goes to the column that asks for it.
+// Widths as the form gives them, but no amount is cut; what is left goes to the column that asks for it.
 void GridView::lay_columns_out() {
     if (!grid_ || laying_out_ || !isVisible()) return;
     laying_out_ = true;
@@ -174,7 +174,7 @@ void GridView::lay_columns_out() {
         else if (column.RuledAmount) setColumnWidth(i, token::digit_box * digit_boxes::count);
         else if (!laid_out_ && column.Width <= 0) setColumnWidth(i, content_width(i));
         else if (!laid_out_)
-            setColumnWidth(i, std::max(column.Width * digit + 18, header_->needed_width(i)));
+            setColumnWidth(i, std::max(column.Width * digit + 18, least_width(i)));
     }
     if (!laid_out_) restore_columns();
     if (filler >= 0) {
@@ -188,6 +188,11 @@ void GridView::lay_columns_out() {
     tell_columns();
 }
 
+int GridView::least_width(int column) const {
+    const auto& shown = grid_->Columns[static_cast<std::size_t>(column)];
+    return is_amount_column(*grid_, shown) ? content_width(column) : header_->needed_width(column);
+}
+
 int GridView::content_width(int column) const {
     const QFontMetrics metrics(fonts::body());
     int width = header_->needed_width(column);
@@ -198,6 +203,11 @@ int GridView::content_width(int column) const {
                                                  : metrics.horizontalAdvance(text);
         width = std::max(width, wide + 2 * token::cell_padding + 2);
     }
+    // The sum below an amount is longer than what it adds up, and bold.
+    const QString sum = qt(grid_->footer_text(column));
+    const QFontMetrics bold(fonts::body(true));
+    if (looks_like_amount(sum))
+        width = std::max(width, amount_width(sum, bold) + 2 * token::cell_padding + 2);
     return std::min(width, widest_by_content);
 }
 

@@ -52,6 +52,7 @@ private:
     void connect_header();
     void lay_columns_out();
     int content_width(int column) const;
+    int least_width(int column) const; // for its title and for whole amounts
     void refresh();       // the control changed
     void sync_cursor();   // the current cell, the editor and the scroll position
     void cursor_due();

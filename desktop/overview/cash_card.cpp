@@ -42,6 +42,7 @@ QString CashCard::hint() const { return QStringLiteral("本期"); }
 void CashCard::paint_body(QPainter& painter, const QRect& body) {
     const QRect inner = body.adjusted(16, 0, -16, 0);
     if (figures().money.empty()) {
+        painter.setFont(fonts::body());
         painter.setPen(token::ink_3);
         painter.drawText(inner, Qt::AlignCenter,
                          figures().may_see_money ? QStringLiteral("没有现金和银行科目")

@@ -15,17 +15,45 @@
 namespace desktop {
 namespace {
 
-constexpr int head = 48;
+constexpr int head = 48, middle_height = 256, least_plot = 260;
+constexpr int narrow = 900; // the amounts of the cash card and a list beside them need more
 
 } // namespace
 
-OverviewPage::OverviewPage(QWidget* parent) : QWidget(parent), todo_(new TodoCard(this)) {
+// What scrolls: the head and the cards on the ground of a document.
+class OverviewPage::Sheet : public QWidget {
+public:
+    explicit Sheet(OverviewPage& page) : page_(page) {}
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(rect(), token::paper_1);
+        page_.paint_head(painter, QRect(16, 0, width() - 32, head));
+    }
+
+private:
+    OverviewPage& page_;
+};
+
+OverviewPage::OverviewPage(QWidget* parent)
+    : QScrollArea(parent), sheet_(new Sheet(*this)),
+      middle_(new QBoxLayout(QBoxLayout::LeftToRight)), todo_(new TodoCard(sheet_)) {
     setFocusPolicy(Qt::StrongFocus);
-    auto* column = new QVBoxLayout(this);
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    lay_out();
+    setWidget(sheet_);
+    refresh();
+}
+
+void OverviewPage::lay_out() {
+    auto* column = new QVBoxLayout(sheet_);
     column->setContentsMargins(16, 0, 16, 16);
     column->setSpacing(0);
     auto* top = new QHBoxLayout;
-    auto* refresh_button = new HintedButton(this, ButtonLook::Tool);
+    auto* refresh_button = new HintedButton(sheet_, ButtonLook::Tool);
     refresh_button->set_drawing("refresh-cw");
     refresh_button->set_texts(QStringLiteral("刷新"), "F5");
     refresh_button->setFocusPolicy(Qt::NoFocus);
@@ -34,24 +62,28 @@ OverviewPage::OverviewPage(QWidget* parent) : QWidget(parent), todo_(new TodoCar
     top->addWidget(refresh_button);
     top->setContentsMargins(0, 10, 0, 10);
     column->addLayout(top);
-    auto* steps = new StepsCard(this);
-    auto* cash = new CashCard(this);
-    auto* profit = new ProfitCard(this);
-    cash->setFixedHeight(256);
-    todo_->setFixedHeight(256);
+    auto* steps = new StepsCard(sheet_);
+    auto* cash = new CashCard(sheet_);
+    auto* profit = new ProfitCard(sheet_);
+    cash->setFixedHeight(middle_height);
+    todo_->setFixedHeight(middle_height);
+    profit->setMinimumHeight(least_plot);
     column->addWidget(steps);
     column->addSpacing(16);
-    auto* middle = new QHBoxLayout;
-    middle->setSpacing(16);
-    middle->addWidget(cash, 5);
-    middle->addWidget(todo_, 4);
-    column->addLayout(middle);
+    middle_->setSpacing(16);
+    middle_->addWidget(cash, 5);
+    middle_->addWidget(todo_, 4);
+    column->addLayout(middle_);
     column->addSpacing(16);
     column->addWidget(profit, 1);
     for (Card* card : {static_cast<Card*>(steps), static_cast<Card*>(cash),
                        static_cast<Card*>(profit), static_cast<Card*>(todo_)})
         add(card);
-    refresh();
+}
+
+void OverviewPage::resizeEvent(QResizeEvent* event) {
+    QScrollArea::resizeEvent(event);
+    middle_->setDirection(width() < narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
 void OverviewPage::add(Card* card) {
@@ -64,14 +96,11 @@ void OverviewPage::add(Card* card) {
 void OverviewPage::refresh() {
     figures_ = read_figures();
     for (Card* card : cards_) card->show_figures(figures_);
-    update();
+    sheet_->update();
 }
 
-void OverviewPage::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.fillRect(rect(), token::paper_1);
+void OverviewPage::paint_head(QPainter& painter, const QRect& line) const {
     const QString period = qt(figures_.period);
-    const QRect line(16, 0, width() - 32, head);
     painter.setFont(fonts::key_figure());
     painter.setPen(token::ink_1);
     const QString title =
@@ -90,11 +119,11 @@ void OverviewPage::paintEvent(QPaintEvent*) {
 
 void OverviewPage::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F5) return refresh();
-    QWidget::keyPressEvent(event);
+    QScrollArea::keyPressEvent(event);
 }
 
 void OverviewPage::focusInEvent(QFocusEvent* event) {
-    QWidget::focusInEvent(event);
+    QScrollArea::focusInEvent(event);
     todo_->setFocus();
 }
 

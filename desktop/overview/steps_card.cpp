@@ -22,7 +22,7 @@ struct Step {
 constexpr Step steps[] = {{"录入", "录入凭证", 661}, {"审核", "审核凭证", 662},
                           {"登帐", "凭证登帐", 663}, {"结转", "结转损溢", 667},
                           {"结帐", "期末结帐", 668}};
-constexpr int count = 5;
+constexpr int count = 5, words_beside = 150;
 
 QString state_of(int step, const Figures& figures) {
     const auto period = host::Period::parse(figures.period);
@@ -63,7 +63,6 @@ StepsCard::StepsCard(QWidget* parent)
 void StepsCard::show_figures(const Figures& figures) {
     next_ = first_open(figures);
     button_->set_texts(QString::fromUtf8(steps[next_].action), QString::number(steps[next_].code));
-    button_->setVisible(!figures.period.empty());
     Card::show_figures(figures);
     place_button();
 }
@@ -79,6 +78,8 @@ QRect StepsCard::step_rect(int step) const {
 void StepsCard::place_button() {
     const QRect box = step_rect(next_);
     const QSize size = button_->sizeHint();
+    // Where it would cover the words, pressing the step itself does as well.
+    button_->setVisible(!figures().period.empty() && box.width() > size.width() + words_beside);
     button_->setGeometry(box.right() - size.width() - 20, box.y() + (56 - size.height()) / 2,
                          size.width(), size.height());
 }
@@ -129,8 +130,10 @@ void StepsCard::paint_step(QPainter& painter, int step) {
     painter.drawText(words, Qt::AlignTop | Qt::AlignLeft, QString::fromUtf8(steps[step].name));
     painter.setFont(fonts::small());
     painter.setPen(next || done ? token::ink_2 : token::ink_3);
-    painter.drawText(words, Qt::AlignBottom | Qt::AlignLeft, state_of(step, figures()));
-    if (!next) {
+    const QString state = state_of(step, figures());
+    painter.drawText(words, Qt::AlignBottom | Qt::AlignLeft,
+                     painter.fontMetrics().elidedText(state, Qt::ElideRight, words.width()));
+    if (!next && painter.fontMetrics().horizontalAdvance(state) + 40 < words.width()) {
         painter.setFont(fonts::tiny());
         painter.setPen(token::ink_3);
         painter.drawText(box.adjusted(0, 0, -8, 0), Qt::AlignRight | Qt::AlignVCenter,

@@ -98,6 +98,8 @@ void add_cell_band(const LayoutNode& node, QVBoxLayout& bands, FormView& view) {
         add_node(part, *row, place);
         if (&part != &node.children.front()) continue;
         if (auto* name = qobject_cast<QLabel*>(row->itemAt(0)->widget())) {
+            name->setProperty("keeps room", true); // also of a cell that has no formula
+            name->show();
             name->setFixedWidth(token::row_numbers - 1);
             name->setAlignment(Qt::AlignCenter);
         }

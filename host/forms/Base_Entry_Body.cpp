@@ -75,6 +75,7 @@ void Tfrm_Base_Entry_Body::prepare(const std::string& key) {
             OpenNoid(key);
         }
         RefreshData();
+        DBGridEh.set_column(0); // not where the document before it was left
     } catch (...) {
         preparing_ = false;
         throw;

@@ -118,6 +118,33 @@ TEST(ModuleForms, a_voucher_is_typed_from_the_menu_to_the_books_without_the_mous
     EXPECT_NE(batch.find("'收货款','1133'"), std::string::npos) << batch;
 }
 
+TEST(ModuleForms, the_next_voucher_begins_at_the_summary_of_its_first_line) {
+    BooksDesk desk;
+    desk.keys({"Ctrl+G", "6", "6", "1", "Enter", "Insert"});
+    host::TForm& form = *host::the_host().active;
+    auto& grid = *dynamic_cast<host::TDBGridEh*>(form.FindComponent("DBGridEh"));
+    const auto type_voucher = [&](const std::string& summary) {
+        for (int i = 0; i < 5 && form.ActiveControl() != &grid; ++i) desk.keys({"Enter"});
+        desk.type(summary);
+        desk.keys({"Enter"});
+        desk.type("1001");
+        desk.keys({"Enter"});
+        desk.type("100");
+        desk.keys({"Enter", "Enter", "Enter"}); // over the credit side; the summary is repeated
+        desk.type("1133");
+        desk.keys({"Enter", "Enter"});
+        desk.type("100");
+        desk.keys({"F2"});
+    };
+    type_voucher("收货款");
+    type_voucher("还借款");
+    EXPECT_EQ(desk.messages, std::vector<std::string>());
+    ASSERT_EQ(desk.data.executed().size(), 2u);
+    const std::string& second = desk.data.executed().back().batch;
+    EXPECT_NE(second.find("'还借款','1001'"), std::string::npos) << second;
+    EXPECT_NE(second.find("'还借款','1133'"), std::string::npos) << second;
+}
+
 TEST(ModuleForms, a_summary_stays_as_typed_and_an_account_is_chosen_from_the_list) {
     BooksDesk desk;
     desk.keys({"Ctrl+G", "6", "6", "1", "Enter", "Insert"});

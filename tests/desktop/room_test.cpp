@@ -4,12 +4,15 @@
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTimer>
 
 #include "desktop/frame/few_colours.h"
 #include "desktop/renderers/hinted_button.h"
 #include "desktop/theme/amount_text.h"
+#include "desktop/theme/fonts.h"
 #include "desktop/theme/text.h"
 #include "desktop/theme/tokens.h"
 #include "tests/desktop/desk.h"
@@ -135,6 +138,44 @@ TEST(Room, a_row_is_tinted_to_the_edge_of_its_grid) {
     const QImage picture = table->viewport()->grab().toImage();
     EXPECT_EQ(picture.pixelColor(picture.width() - 3, 8), desktop::token::tint_open);
     EXPECT_EQ(picture.pixelColor(4, 4), desktop::token::tint_open);
+}
+
+TEST(Room, a_column_of_amounts_is_as_wide_as_its_longest_amount_and_its_sum) {
+    Desk desk;
+    auto* form = new TListForm(3);
+    form->Heads.GotoRow(1);
+    form->Heads.Edit();
+    form->Heads.FieldByName("C1").SetValue(Amount::from_cents(-123456789012345));
+    form->Heads.Post();
+    form->Show();
+    desk.settle();
+    auto* table = desk.window().findChild<QTableView*>("grid");
+    const QFontMetrics bold(desktop::fonts::body(true));
+    const int column = form->DBGridEh.column_index("C1");
+    const QString sum = desktop::qt(form->DBGridEh.footer_text(column));
+    EXPECT_GE(table->columnWidth(column), desktop::amount_width(sum, bold) + 16);
+    // The others keep the width the form gave them.
+    EXPECT_LT(table->columnWidth(form->DBGridEh.column_index("C2")), table->columnWidth(column));
+}
+
+TEST(Room, the_overview_of_a_small_window_scrolls_and_stacks_its_cards) {
+    Desk desk;
+    auto* area = desk.window().findChild<QScrollArea*>();
+    const auto card = [&desk](const char* name) {
+        for (QWidget* widget : desk.window().findChildren<QWidget*>())
+            if (widget->accessibleName() == QString::fromUtf8(name)) return widget;
+        return static_cast<QWidget*>(nullptr);
+    };
+    ASSERT_TRUE(area && card("现金与银行") && card("待办") && card("利润"));
+    EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(card("现金与银行")->y(), card("待办")->y());
+    desk.window().resize(960, 600);
+    desk.settle();
+    desk.keep("overview_small");
+    EXPECT_GT(area->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
+    EXPECT_LT(card("现金与银行")->geometry().bottom(), card("待办")->y());
+    EXPECT_GE(card("利润")->height(), 200);
 }
 
 TEST(Room, the_calendar_of_a_date_is_opened_and_answered_by_keys) {
