@@ -161,7 +161,8 @@ bool GridView::row_edited(int row) const {
            shows_focus();
 }
 
-// Widths as the form gives them, but no amount is cut; what is left goes to the column that asks for it.
+// Widths as the form gives them, but no amount is cut; what is left goes to the column that asks
+// for it.
 void GridView::lay_columns_out() {
     if (!grid_ || laying_out_ || !isVisible()) return;
     laying_out_ = true;
