@@ -9,8 +9,11 @@ std::string quoted(std::string_view text) {
     std::string literal;
     literal.reserve(text.size() + 2);
     literal += '\'';
-    for (const char c : text) literal.append(c == '\'' ? 2 : 1, c);
-    literal += '\'';
+    for (auto quote = text.find('\''); quote != text.npos; quote = text.find('\'')) {
+        literal.append(text.substr(0, quote + 1)) += '\'';
+        text.remove_prefix(quote + 1);
+    }
+    literal.append(text) += '\'';
     return literal;
 }
 

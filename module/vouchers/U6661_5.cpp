@@ -17,6 +17,18 @@ std::string direction_text(Amount change) {
     return change.is_negative() ? "流出 " + (-change).to_text() : "流入 " + change.to_text();
 }
 
+// While rows are loaded no person changes them, whatever way the loading ends.
+class Loading {
+public:
+    explicit Loading(bool& mark) : mark_(mark) { mark_ = true; }
+    ~Loading() { mark_ = false; }
+    Loading(const Loading&) = delete;
+    Loading& operator=(const Loading&) = delete;
+
+private:
+    bool& mark_;
+};
+
 // Whether an item carries nothing, as most do.
 bool is_blank(const TClientDataSet& items, int row) {
     const TClientDataSet::Peek peek(items, row);
@@ -72,7 +84,7 @@ void TF6661_5::build_columns() {
 }
 
 void TF6661_5::initnoid(const std::string& NOID, const std::string& mode) {
-    loading_ = true;
+    const Loading loading(loading_);
     opensql(AdoQry_Main, FunctionCode, select_allocation(NOID));
     AdoQry_Main.SortBy("ID", false);
     Mode = mode;
@@ -91,7 +103,6 @@ void TF6661_5::initnoid(const std::string& NOID, const std::string& mode) {
     AdoQry_Main.First();
     AdoQry_Main.MarkSaved();
     GRID2.ReadOnly = mode == "ReadOnly";
-    loading_ = false;
 }
 
 void TF6661_5::forget() {
@@ -126,7 +137,7 @@ bool TF6661_5::allocate(Amount cash_change) {
 
 // What was typed and then not wanted is gone; what was typed before stays.
 void TF6661_5::put_back(const TClientDataSet& before) {
-    loading_ = true;
+    const Loading loading(loading_);
     AdoQry_Main.Cancel();
     for (int row = 0; row < before.RecordCount(); ++row) {
         const TClientDataSet::Peek peek(before, row);
@@ -138,7 +149,6 @@ void TF6661_5::put_back(const TClientDataSet& before) {
     }
     AdoQry_Main.First();
     AdoQry_Main.MarkSaved();
-    loading_ = false;
 }
 
 bool TF6661_5::has_unsaved_work() const {

@@ -28,9 +28,15 @@ std::string voucher(int number) {
     return batch + "UPDATE TOTAL SET N=N+1";
 }
 
+// Whether each save is a transaction of its own, or all of them are one that never ends.
+enum class Saves { Apart, AsOneUnit };
+
 // Saves vouchers until it is killed; each answered number goes into the pipe.
-[[noreturn]] void save_for_ever(const std::string& path, int first, int pipe) {
-    const auto session = open(path);
+[[noreturn]] void save_for_ever(const std::string& path, int first, int pipe, Saves saves) {
+    engines::OpenOptions options;
+    if (saves == Saves::AsOneUnit) options.cache_bytes = 1 << 16; // so that much goes to the disk
+    const auto session = open(path, options);
+    if (saves == Saves::AsOneUnit && !session->begin().ok()) _exit(2);
     for (int number = first;; ++number) {
         if (!run_atomically(*session, voucher(number)).ok()) _exit(3);
         if (write(pipe, &number, sizeof number) != sizeof number) _exit(4);
@@ -39,13 +45,13 @@ std::string voucher(int number) {
 
 // Runs a child for so long and gives the last number it answered, or what came before.
 int last_answer_of_killed_child(const std::string& path, int answered,
-                                std::chrono::microseconds life) {
+                                std::chrono::microseconds life, Saves saves = Saves::Apart) {
     int ends[2] = {-1, -1};
     EXPECT_EQ(pipe(ends), 0);
     const pid_t child = fork();
     if (child == 0) {
         close(ends[0]);
-        save_for_ever(path, answered + 1, ends[1]);
+        save_for_ever(path, answered + 1, ends[1], saves);
     }
     close(ends[1]);
     std::this_thread::sleep_for(life);
@@ -60,23 +66,26 @@ int last_answer_of_killed_child(const std::string& path, int answered,
     return answered;
 }
 
+// Empty books of heads, lines and a count of both.
+void create_books(const std::string& path) {
+    engines::OpenOptions options;
+    options.create = true;
+    const auto session = open(path, options);
+    ASSERT_TRUE(run(*session,
+                    "CREATE TABLE HEAD (N int NOT NULL PRIMARY KEY, QJ varchar(7));"
+                    "CREATE TABLE LINE (N int NOT NULL, L int NOT NULL, KM varchar(20),"
+                    " J decimal(18,2), PRIMARY KEY (N,L));"
+                    "CREATE INDEX IX_LINE ON LINE(KM);"
+                    "CREATE TABLE TOTAL (N int); INSERT INTO TOTAL VALUES (0)")
+                    .ok());
+}
+
 } // namespace
 
 TEST(Crash, every_answered_voucher_is_there_and_none_is_half_done) {
     const TemporaryFolder folder;
     const std::string path = folder.file("a.zf");
-    {
-        engines::OpenOptions options;
-        options.create = true;
-        const auto session = open(path, options);
-        ASSERT_TRUE(run(*session,
-                        "CREATE TABLE HEAD (N int NOT NULL PRIMARY KEY, QJ varchar(7));"
-                        "CREATE TABLE LINE (N int NOT NULL, L int NOT NULL, KM varchar(20),"
-                        " J decimal(18,2), PRIMARY KEY (N,L));"
-                        "CREATE INDEX IX_LINE ON LINE(KM);"
-                        "CREATE TABLE TOTAL (N int); INSERT INTO TOTAL VALUES (0)")
-                        .ok());
-    }
+    create_books(path);
     std::mt19937 random(20240131);
     std::uniform_int_distribution<int> lives(500, 45000);
     int answered = 0;
@@ -102,6 +111,23 @@ TEST(Crash, every_answered_voucher_is_there_and_none_is_half_done) {
     }
     // Enough was saved for the kills to have met saves under way.
     EXPECT_GT(answered, kills / 4);
+}
+
+TEST(Crash, of_a_unit_of_work_that_was_not_kept_nothing_is_left) {
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.zf");
+    create_books(path);
+    int answered = 0;
+    for (int round = 0; round < 20; ++round) {
+        const auto life = std::chrono::milliseconds(20 + 15 * round);
+        answered += last_answer_of_killed_child(path, 0, life, Saves::AsOneUnit);
+        const auto session = open(path);
+        ASSERT_EQ(cell(*session, "SELECT COUNT(*) FROM HEAD"), "0");
+        ASSERT_EQ(cell(*session, "SELECT COUNT(*) FROM LINE"), "0");
+        ASSERT_EQ(cell(*session, "SELECT N FROM TOTAL"), "0");
+        ASSERT_TRUE(session->check_integrity().empty());
+    }
+    EXPECT_GT(answered, 200) << "too little was saved for the kills to mean anything";
 }
 
 } // namespace tests
