@@ -3,43 +3,9 @@
 
 #include <stdexcept>
 
+#include "host/values/text.h"
+
 namespace tests {
-
-namespace {
-
-std::string with(std::string text, const std::string& what, const std::string& instead) {
-    for (std::size_t at = text.find(what); at != std::string::npos;
-         at = text.find(what, at + instead.size())) {
-        text.replace(at, what.size(), instead);
-    }
-    return text;
-}
-
-// "a+b(c,d)-e" → "a", "+b(c,d)", "-e": signs inside brackets part nothing.
-std::vector<std::string> terms_of(const std::string& formula) {
-    std::vector<std::string> terms(1);
-    int depth = 0;
-    for (const char letter : formula) {
-        if (letter == '(') ++depth;
-        if (letter == ')') --depth;
-        if (depth == 0 && (letter == '+' || letter == '-') && !terms.back().empty()) {
-            terms.emplace_back();
-        }
-        if (letter != ' ') terms.back() += letter;
-    }
-    return terms;
-}
-
-// The whole numbers behind the first comma of "fsum(年初,1,24)".
-std::vector<int> numbers_in(const std::string& call) {
-    std::vector<int> numbers;
-    for (std::size_t at = call.find(','); at != std::string::npos; at = call.find(',', at + 1)) {
-        numbers.push_back(std::stoi(call.substr(at + 1)));
-    }
-    return numbers;
-}
-
-} // namespace
 
 StatementSheet::StatementSheet(Books& books, int layout, std::string period)
     : books_(books), period_(std::move(period)) {
@@ -60,7 +26,7 @@ void StatementSheet::take_half(const Row& row, const char* line, const char* yea
 }
 
 void StatementSheet::replace(const std::string& line, const std::string& formula) {
-    for (auto& [column, cell] : lines_.at(line)) cell = {with(formula, "%C", column)};
+    for (auto& [column, cell] : lines_.at(line)) cell = {host::replaced(formula, "%C", column)};
 }
 
 Cents StatementSheet::value(const std::string& line, const std::string& column) {
@@ -75,24 +41,17 @@ Cents StatementSheet::value(const std::string& line, const std::string& column) 
 }
 
 Cents StatementSheet::evaluate(const std::string& formula) {
-    Cents sum = 0;
-    for (const std::string& text : terms_of(formula)) {
-        if (text.empty()) continue;
-        const bool sign = text[0] == '+' || text[0] == '-';
-        const Cents amount = term(sign ? text.substr(1) : text);
-        sum += text[0] == '-' ? -amount : amount;
-    }
-    return sum;
+    return reckon(formula, [this](const FormulaCall& call) { return amount_of(call); });
 }
 
-Cents StatementSheet::term(const std::string& text) {
-    if (text.find('(') == std::string::npos) return cents_of(text);
-    const std::string column = text.find("年初") != std::string::npos ? "年初" : "期末";
-    if (text.starts_with("fd(")) return value(std::to_string(numbers_in(text).at(0)), column);
-    if (text.starts_with("fsum(")) {
-        return sum_of_lines(column, numbers_in(text).at(0), numbers_in(text).at(1));
+Cents StatementSheet::amount_of(const FormulaCall& call) {
+    const std::string& column = call.arguments.at(0); // the word stands for it
+    if (call.name == "fd") return value(call.arguments.at(1), column);
+    if (call.name == "fsum") {
+        return sum_of_lines(column, std::stoi(call.arguments.at(1)),
+                            std::stoi(call.arguments.at(2)));
     }
-    return from_ledger(text);
+    return from_ledger(call);
 }
 
 Cents StatementSheet::sum_of_lines(const std::string& column, int from, int to) {
@@ -104,10 +63,13 @@ Cents StatementSheet::sum_of_lines(const std::string& column, int from, int to) 
     return sum;
 }
 
-Cents StatementSheet::from_ledger(std::string call) {
-    call = with(call, "年初", "1,'" + period_.substr(0, 5) + "00'");
-    call = with(call, "期末", "0,'" + period_ + "'");
-    return cents_of(books_.value("select dbo." + call + " as a "));
+Cents StatementSheet::from_ledger(const FormulaCall& call) {
+    const std::string period = call.arguments.at(0) == "年初"
+                                   ? "1,'" + period_.substr(0, 5) + "00'"
+                                   : "0,'" + period_ + "'";
+    return cents_of(books_.value("select dbo." + call.name + "(" + period + ",'" +
+                                 call.arguments.at(1) + "','" + call.arguments.at(2) +
+                                 "') as a "));
 }
 
 } // namespace tests

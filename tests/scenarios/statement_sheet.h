@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 
+#include "tests/scenarios/formula_reckoning.h"
 #include "tests/scenarios/naive_ledger.h"
 #include "tests/support/books.h"
 
@@ -31,9 +32,9 @@ private:
     };
     void take_half(const Row& row, const char* line, const char* year_begin, const char* closing);
     Cents evaluate(const std::string& formula);
-    Cents term(const std::string& text);
+    Cents amount_of(const FormulaCall& call);
     Cents sum_of_lines(const std::string& column, int from, int to);
-    Cents from_ledger(std::string call);
+    Cents from_ledger(const FormulaCall& call);
 
     Books& books_;
     std::string period_;
