@@ -36,11 +36,12 @@ std::int64_t narrowed(Int128 value) {
 
 // Any scale to ten-thousandths; digits beyond are rounded half away from zero.
 std::int64_t ten_thousandths(Int128 unscaled, int scale) {
-    for (; scale < amount_decimals; ++scale) {
-        unscaled *= 10;
-        narrowed(unscaled);
+    if (scale <= amount_decimals) {
+        static constexpr std::int64_t factors[amount_decimals + 1] = {10'000, 1'000, 100, 10, 1};
+        std::int64_t value = 0;
+        if (__builtin_mul_overflow(narrowed(unscaled), factors[scale], &value)) out_of_range();
+        return value;
     }
-    if (scale == amount_decimals) return narrowed(unscaled);
     Int128 divisor = 1;
     for (; scale > amount_decimals; --scale) divisor *= 10;
     Int128 quotient = unscaled / divisor;

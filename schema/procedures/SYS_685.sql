@@ -4,30 +4,27 @@
 -- The opening is the closing balance of the period before @P_month1, whatever @P_year says.
 -- inx is -1 on rows that are no line. @p_show '1' leaves unposted vouchers out; @p_xj 1 names the
 -- accounts on the other side of each line.
--- Accounts and months are numbered before the lines are sorted: whole numbers sort fast. PLACE puts
--- the rows of an account in order: the opening, then by month its lines, its sum, the year's sum.
--- The rows are shown in the order in which the balance runs, so that they are sorted once. The outer
--- joins fix the way of looking things up, from the few accounts to their lines.
+-- KIND: 0 the opening, 1 a line, 2 the sum of a period, 3 the sum of the year. The opening stands in
+-- the period 00 and brings what the year had moved before @P_month1, so that all sums are sums of
+-- the rows above. Those windows follow the order of the rows, which are sorted once for all. The
+-- order of the joins is the way of looking things up: from the few accounts to their lines.
 CREATE PROCEDURE SYS_685 @P_year nvarchar(7), @p_show nvarchar(5) = '0', @KM_ID1 nvarchar(50),
     @KM_ID2 nvarchar(50) = NULL, @P_month1 nvarchar(7), @P_month2 nvarchar(7), @p_xj int = 0 AS
 BEGIN
     SET NOCOUNT ON;
     DECLARE @last nvarchar(50), @before nvarchar(7), @after nvarchar(7), @year nvarchar(5);
-    DECLARE @month1 int, @month2 int;
+    DECLARE @posted int;
     SET @last = ISNULL(@KM_ID2, @KM_ID1);
     SET @before = CONVERT(nvarchar(7), DATEADD(month, -1, CAST(@P_month1 + '-01' AS datetime)), 120);
     SET @after = CONVERT(nvarchar(7), DATEADD(month, 1, CAST(@P_month2 + '-01' AS datetime)), 120);
     SET @year = LEFT(@P_month1, 5);
-    SET @month1 = RIGHT(@P_month1, 2);
-    SET @month2 = RIGHT(@P_month2, 2);
+    SET @posted = CASE @p_show WHEN '1' THEN 1 ELSE 0 END;
 
-    DECLARE @TOP TABLE (N int NOT NULL PRIMARY KEY, KM_ID nvarchar(50), KM_NAME nvarchar(610),
-                        FX nvarchar(2), SIGN int, OPENING decimal(18,2),
-                        J decimal(18,2), D decimal(18,2));
-    INSERT INTO @TOP (N, KM_ID, KM_NAME, FX, SIGN, OPENING, J, D)
-    SELECT ROW_NUMBER() OVER (ORDER BY A.KM_ID), A.KM_ID, A.KM_NAME2, A.FX,
-           CASE A.FX WHEN '借' THEN 1 ELSE -1 END,
-           ISNULL((SELECT B.J - B.D FROM D6602 B
+    DECLARE @TOP TABLE (KM_ID nvarchar(50), KM_NAME nvarchar(610), FX nvarchar(2), SIGN int,
+                        OPENING decimal(18,2), J decimal(18,2), D decimal(18,2));
+    INSERT INTO @TOP (KM_ID, KM_NAME, FX, SIGN, OPENING, J, D)
+    SELECT A.KM_ID, A.KM_NAME2, A.FX, CASE A.FX WHEN '借' THEN 1 ELSE -1 END,
+           ISNULL((SELECT CASE A.FX WHEN '借' THEN B.J - B.D ELSE B.D - B.J END FROM D6602 B
                    WHERE B.KM_ID = A.KM_ID AND B.QJ = @before AND B.INX = 1), 0.00),
            ISNULL((SELECT SUM(B.J) FROM D6602 B WHERE B.KM_ID = A.KM_ID AND B.INX = 0
                    AND B.QJ >= @year + '00' AND B.QJ < @P_month1), 0.00),
@@ -37,51 +34,38 @@ BEGIN
     WHERE A.KM_ID >= @KM_ID1 AND A.KM_ID <= @last
       AND (@KM_ID1 = @last OR NOT EXISTS (SELECT * FROM D6801 C WHERE C.OID = A.KM_ID));
 
+    DECLARE @KINDS TABLE (KIND int, QJ nvarchar(7), ZY nvarchar(100));
+    INSERT INTO @KINDS (KIND, QJ, ZY)
+    SELECT V.KIND, @year + V.M,
+           CASE V.KIND WHEN 0 THEN CASE @P_month1 WHEN @year + '01' THEN '上年结转'
+                                                  ELSE '期初余额' END
+                       WHEN 2 THEN '本期合计' WHEN 3 THEN '本年累计' END
+    FROM (VALUES (0, '00'), (1, '00'),
+                 (2, '01'), (2, '02'), (2, '03'), (2, '04'), (2, '05'), (2, '06'),
+                 (2, '07'), (2, '08'), (2, '09'), (2, '10'), (2, '11'), (2, '12'),
+                 (3, '01'), (3, '02'), (3, '03'), (3, '04'), (3, '05'), (3, '06'),
+                 (3, '07'), (3, '08'), (3, '09'), (3, '10'), (3, '11'), (3, '12')) V (KIND, M)
+    WHERE V.KIND < 2 OR V.M >= RIGHT(@P_month1, 2) AND V.M <= RIGHT(@P_month2, 2);
+
     WITH MEMBER AS (
-        SELECT T.N, T.SIGN, T.FX, T.KM_ID AS TOP_ID, T.KM_NAME, T.KM_ID FROM @TOP T
-        UNION ALL
-        SELECT M.N, M.SIGN, M.FX, M.TOP_ID, M.KM_NAME, C.KM_ID
-        FROM D6801 C INNER JOIN MEMBER M ON C.OID = M.KM_ID),
-    LINE AS (
-        SELECT M.N, CAST(RIGHT(H.PZQJ, 2) AS int) AS MONTH, H.BDATE, H.PZZ, H.PZZ_H,
-               L.INX, L.NOID, L.ZY, L.J, L.D,
-               CASE M.SIGN WHEN 1 THEN L.J - L.D ELSE L.D - L.J END AS CHANGE,
-               M.FX, M.TOP_ID, M.KM_NAME
-        FROM MEMBER M
-        LEFT JOIN D6601A L ON L.KM_ID = M.KM_ID AND L.NOID >= @P_month1 AND L.NOID < @after
-        LEFT JOIN D6601 H ON H.NOID = L.NOID
-        WHERE ISNULL(L.NOID, '') <> '' AND (@p_show <> '1' OR H.D = 1)),
-    MONTHS AS (
-        SELECT V.M
-        FROM (VALUES (1), (2), (3), (4), (5), (6), (7), (8), (9), (10), (11), (12)) V (M)
-        WHERE V.M >= @month1 AND V.M <= @month2),
-    MOVED AS (
-        SELECT N, MONTH, SUM(J) AS J, SUM(D) AS D FROM LINE GROUP BY N, MONTH),
-    SHOWN AS (
-        SELECT T.N, @month1 * 4 AS PLACE, NULL AS BDATE, NULL AS PZZ, NULL AS PZZ_H,
-               -1 AS INX, NULL AS NOID,
-               CASE @month1 WHEN 1 THEN '上年结转' ELSE '期初余额' END AS ZY,
-               0.00 AS J, 0.00 AS D,
-               CASE T.SIGN WHEN 1 THEN T.OPENING ELSE 0.00 - T.OPENING END AS CHANGE,
-               T.FX, T.KM_ID, T.KM_NAME
+        SELECT T.KM_ID AS TOP_ID, T.KM_NAME, T.FX, T.SIGN, T.OPENING, T.J, T.D, T.KM_ID
         FROM @TOP T
         UNION ALL
-        SELECT N, MONTH * 4 + 1, BDATE, PZZ, PZZ_H, INX, NOID, ZY, J, D, CHANGE,
-               FX, TOP_ID, KM_NAME
-        FROM LINE
-        UNION ALL
-        SELECT T.N, Q.M * 4 + 2, NULL, NULL, NULL, -1, NULL, '本期合计',
-               CAST(ISNULL(M.J, 0.00) AS decimal(18,2)), CAST(ISNULL(M.D, 0.00) AS decimal(18,2)),
-               0.00, T.FX, T.KM_ID, T.KM_NAME
-        FROM @TOP T CROSS JOIN MONTHS Q LEFT JOIN MOVED M ON M.N = T.N AND M.MONTH = Q.M
-        UNION ALL
-        SELECT T.N, Q.M * 4 + 3, NULL, NULL, NULL, -1, NULL, '本年累计',
-               CAST(T.J + ISNULL((SELECT SUM(M.J) FROM MOVED M
-                                  WHERE M.N = T.N AND M.MONTH <= Q.M), 0.00) AS decimal(18,2)),
-               CAST(T.D + ISNULL((SELECT SUM(M.D) FROM MOVED M
-                                  WHERE M.N = T.N AND M.MONTH <= Q.M), 0.00) AS decimal(18,2)),
-               0.00, T.FX, T.KM_ID, T.KM_NAME
-        FROM @TOP T CROSS JOIN MONTHS Q)
+        SELECT M.TOP_ID, M.KM_NAME, M.FX, M.SIGN, M.OPENING, M.J, M.D, C.KM_ID
+        FROM MEMBER M INNER JOIN D6801 C ON C.OID = M.KM_ID),
+    SHOWN AS (
+        SELECT M.TOP_ID AS KM_ID, K.KIND, ISNULL(H.PZQJ, K.QJ) AS QJ, H.BDATE, H.PZZ, H.PZZ_H,
+               ISNULL(L.INX, -1) AS INX, L.NOID, ISNULL(L.ZY, K.ZY) AS ZY,
+               ISNULL(L.J, CASE K.KIND WHEN 0 THEN M.J ELSE 0.00 END) AS J,
+               ISNULL(L.D, CASE K.KIND WHEN 0 THEN M.D ELSE 0.00 END) AS D,
+               ISNULL(CASE M.SIGN WHEN 1 THEN L.J - L.D ELSE L.D - L.J END,
+                      CASE K.KIND WHEN 0 THEN M.OPENING ELSE 0.00 END) AS CHANGE,
+               M.FX, M.KM_NAME
+        FROM MEMBER M CROSS JOIN @KINDS K
+        LEFT JOIN D6601A L ON K.KIND = 1 AND L.KM_ID = M.KM_ID
+                              AND L.NOID >= @P_month1 AND L.NOID < @after
+        LEFT JOIN D6601 H ON H.NOID = L.NOID AND H.D >= @posted
+        WHERE H.NOID IS NOT NULL OR K.KIND <> 1 AND M.KM_ID = M.TOP_ID)
     SELECT X.BDATE, X.PZZ + '-' + CONVERT(nvarchar(10), X.PZZ_H) AS PZZ, X.ZY,
            CASE WHEN @p_xj = 1 AND X.NOID IS NOT NULL
                 THEN (SELECT STRING_AGG(O.KM_NAME2, ',') WITHIN GROUP (ORDER BY O.KM_ID)
@@ -90,15 +74,27 @@ BEGIN
                             WHERE L.NOID = X.NOID AND (X.J <> 0 AND L.D <> 0
                                                        OR X.D <> 0 AND L.J <> 0)) O)
                 ELSE NULL END AS KM_ID_DF,
-           X.J, X.D,
-           CASE SUM(X.CHANGE) OVER (PARTITION BY X.N
-                                    ORDER BY X.PLACE, X.BDATE, X.PZZ, X.PZZ_H, X.INX
+           CASE X.KIND WHEN 1 THEN X.J
+                       WHEN 2 THEN CAST(SUM(X.J) OVER (PARTITION BY X.KM_ID, X.QJ ORDER BY X.KIND
+                                                       ROWS UNBOUNDED PRECEDING) AS decimal(18,2))
+                       WHEN 3 THEN CAST(SUM(X.J) OVER (PARTITION BY X.KM_ID ORDER BY X.QJ, X.KIND
+                                                       ROWS UNBOUNDED PRECEDING) AS decimal(18,2))
+                       ELSE 0.00 END AS J,
+           CASE X.KIND WHEN 1 THEN X.D
+                       WHEN 2 THEN CAST(SUM(X.D) OVER (PARTITION BY X.KM_ID, X.QJ ORDER BY X.KIND
+                                                       ROWS UNBOUNDED PRECEDING) AS decimal(18,2))
+                       WHEN 3 THEN CAST(SUM(X.D) OVER (PARTITION BY X.KM_ID ORDER BY X.QJ, X.KIND
+                                                       ROWS UNBOUNDED PRECEDING) AS decimal(18,2))
+                       ELSE 0.00 END AS D,
+           CASE SUM(X.CHANGE) OVER (PARTITION BY X.KM_ID
+                                    ORDER BY X.QJ, X.KIND, X.BDATE, X.PZZ, X.PZZ_H, X.INX
                                     ROWS UNBOUNDED PRECEDING)
                 WHEN 0 THEN '平' ELSE X.FX END AS FX,
-           CAST(SUM(X.CHANGE) OVER (PARTITION BY X.N
-                                    ORDER BY X.PLACE, X.BDATE, X.PZZ, X.PZZ_H, X.INX
+           CAST(SUM(X.CHANGE) OVER (PARTITION BY X.KM_ID
+                                    ORDER BY X.QJ, X.KIND, X.BDATE, X.PZZ, X.PZZ_H, X.INX
                                     ROWS UNBOUNDED PRECEDING) AS decimal(18,2)) AS E,
            X.KM_ID, X.KM_NAME, X.INX AS inx, X.NOID
     FROM SHOWN X
-    ORDER BY X.N, X.PLACE, X.BDATE, X.PZZ, X.PZZ_H, X.INX;
+    ORDER BY X.KM_ID, X.QJ, X.KIND, X.BDATE, X.PZZ, X.PZZ_H, X.INX
+    OPTION (FORCE ORDER);
 END

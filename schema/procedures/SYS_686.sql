@@ -3,32 +3,32 @@
 -- the year to there. @p_show '1' leaves out accounts without turnover in the range.
 -- The opening of a period is the closing balance of the one before, whatever @P_year says. A period
 -- that was not posted has its opening row only.
--- Each period's figures of an account are read once and make its three rows. Accounts and months
--- are numbered before: whole numbers sort fast. The outer joins fix the way of looking things up,
--- from the few accounts to their balances.
+-- STEP: 0 the opening, 1 the sum of the period, 2 the sum of the year. The first opening brings what
+-- the year had moved before, so that the year's sum is the sum of the rows above. The windows
+-- follow the order of the rows. The order of the joins is the way of looking things up: from the few
+-- accounts to their balances, which are read once for all steps.
 CREATE PROCEDURE SYS_686 @P_year nvarchar(7), @p_show nvarchar(5) = '0', @KM_ID1 nvarchar(50),
     @KM_ID2 nvarchar(50) = NULL, @P_month1 nvarchar(7), @P_month2 nvarchar(7),
     @p_kmjb int = 5 AS
 BEGIN
     SET NOCOUNT ON;
-    DECLARE @last nvarchar(50), @before nvarchar(7), @year nvarchar(5);
+    DECLARE @last nvarchar(50), @before nvarchar(7), @year nvarchar(5), @month1 int;
     SET @last = ISNULL(@KM_ID2, @KM_ID1);
     SET @before = CONVERT(nvarchar(7), DATEADD(month, -1, @P_month1 + '-01'), 120);
     SET @year = LEFT(@P_month1, 5);
+    SET @month1 = RIGHT(@P_month1, 2);
 
-    DECLARE @MONTHS TABLE (M int NOT NULL PRIMARY KEY, QJ nvarchar(7));
+    DECLARE @MONTHS TABLE (M int, QJ nvarchar(7));
     INSERT INTO @MONTHS (M, QJ)
-    SELECT CAST(V.M AS int), @year + V.M
-    FROM (VALUES ('01'), ('02'), ('03'), ('04'), ('05'), ('06'),
-                 ('07'), ('08'), ('09'), ('10'), ('11'), ('12')) V (M)
-    WHERE @year + V.M >= @P_month1 AND @year + V.M <= @P_month2;
+    SELECT V.M, @year + V.T
+    FROM (VALUES (1, '01'), (2, '02'), (3, '03'), (4, '04'), (5, '05'), (6, '06'), (7, '07'),
+                 (8, '08'), (9, '09'), (10, '10'), (11, '11'), (12, '12')) V (M, T)
+    WHERE @year + V.T >= @P_month1 AND @year + V.T <= @P_month2;
 
-    DECLARE @ACCOUNTS TABLE (N int NOT NULL PRIMARY KEY, KM_ID nvarchar(50), KM_NAME nvarchar(100),
-                             FX nvarchar(2), SIGN int, OPENING decimal(18,2),
-                             J decimal(18,2), D decimal(18,2));
-    INSERT INTO @ACCOUNTS (N, KM_ID, KM_NAME, FX, SIGN, OPENING, J, D)
-    SELECT ROW_NUMBER() OVER (ORDER BY A.KM_ID), A.KM_ID, A.KM_NAME, A.FX,
-           CASE A.FX WHEN '借' THEN 1 ELSE -1 END,
+    DECLARE @ACCOUNTS TABLE (KM_ID nvarchar(50), KM_NAME nvarchar(100), FX nvarchar(2), SIGN int,
+                             OPENING decimal(18,2), J decimal(18,2), D decimal(18,2));
+    INSERT INTO @ACCOUNTS (KM_ID, KM_NAME, FX, SIGN, OPENING, J, D)
+    SELECT A.KM_ID, A.KM_NAME, A.FX, CASE A.FX WHEN '借' THEN 1 ELSE -1 END,
            ISNULL((SELECT CASE A.FX WHEN '借' THEN B.J - B.D ELSE B.D - B.J END FROM D6602 B
                    WHERE B.KM_ID = A.KM_ID AND B.QJ = @before AND B.INX = 1), 0.00),
            ISNULL((SELECT SUM(Y.J) FROM D6602 Y WHERE Y.KM_ID = A.KM_ID AND Y.INX = 0
@@ -40,31 +40,42 @@ BEGIN
       AND (@p_show <> '1'
            OR EXISTS (SELECT * FROM D6602 B
                       WHERE B.KM_ID = A.KM_ID AND B.INX = 0 AND (B.J <> 0 OR B.D <> 0)
-                        AND B.QJ >= @P_month1 AND B.QJ <= @P_month2));
+                        AND B.QJ >= @P_month1 AND B.QJ <= @P_month2))
+    ORDER BY A.KM_ID;
 
-    WITH PERIOD AS (
-        SELECT A.N, Q.M, A.KM_ID, A.KM_NAME, A.FX, Q.QJ, P.J, P.D,
-               LAG(CASE A.SIGN WHEN 1 THEN ISNULL(B.J - B.D, 0.00)
-                               ELSE ISNULL(B.D - B.J, 0.00) END, 1, A.OPENING)
-                   OVER (PARTITION BY A.N ORDER BY Q.M) AS OPENING,
+    WITH SHOWN AS (
+        SELECT A.KM_ID, A.KM_NAME, A.FX, Q.M, Q.QJ, S.STEP, A.OPENING,
                CASE A.SIGN WHEN 1 THEN ISNULL(B.J - B.D, 0.00)
                            ELSE ISNULL(B.D - B.J, 0.00) END AS CLOSING,
-               A.J + SUM(P.J) OVER (PARTITION BY A.N ORDER BY Q.M
-                                    ROWS UNBOUNDED PRECEDING) AS YEAR_J,
-               A.D + SUM(P.D) OVER (PARTITION BY A.N ORDER BY Q.M
-                                    ROWS UNBOUNDED PRECEDING) AS YEAR_D
+               CASE S.STEP WHEN 1 THEN P.J
+                           WHEN 0 THEN CASE Q.M WHEN @month1 THEN A.J END END AS J,
+               CASE S.STEP WHEN 1 THEN P.D
+                           WHEN 0 THEN CASE Q.M WHEN @month1 THEN A.D END END AS D
         FROM @ACCOUNTS A CROSS JOIN @MONTHS Q
         LEFT JOIN D6602 P ON P.KM_ID = A.KM_ID AND P.QJ = Q.QJ AND P.INX = 0
-        LEFT JOIN D6602 B ON B.KM_ID = A.KM_ID AND B.QJ = Q.QJ AND B.INX = 1)
-    SELECT P.KM_ID, P.KM_NAME, P.QJ,
-           CASE S.STEP WHEN 1 THEN '本期合计' WHEN 2 THEN '本年累计'
-                       ELSE CASE P.M WHEN 1 THEN '上年结转' ELSE '期初余额' END END AS ZY,
-           CASE S.STEP WHEN 1 THEN P.J WHEN 2 THEN P.YEAR_J ELSE 0.00 END AS J,
-           CASE S.STEP WHEN 1 THEN P.D WHEN 2 THEN P.YEAR_D ELSE 0.00 END AS D,
-           CASE CASE S.STEP WHEN 0 THEN P.OPENING ELSE P.CLOSING END
-                WHEN 0 THEN '平' ELSE P.FX END AS FX,
-           CASE S.STEP WHEN 0 THEN P.OPENING ELSE P.CLOSING END AS E, P.QJ AS QJ_MONTH
-    FROM PERIOD P CROSS JOIN (VALUES (0), (1), (2)) S (STEP)
-    WHERE S.STEP = 0 OR P.J IS NOT NULL
-    ORDER BY P.N, P.M, S.STEP;
+        LEFT JOIN D6602 B ON B.KM_ID = A.KM_ID AND B.QJ = Q.QJ AND B.INX = 1
+        CROSS JOIN (VALUES (0), (1), (2)) S (STEP)
+        WHERE S.STEP = 0 OR P.J IS NOT NULL)
+    SELECT X.KM_ID, X.KM_NAME, X.QJ,
+           CASE X.STEP WHEN 1 THEN '本期合计' WHEN 2 THEN '本年累计'
+                       ELSE CASE X.M WHEN 1 THEN '上年结转' ELSE '期初余额' END END AS ZY,
+           CASE X.STEP WHEN 1 THEN X.J
+                       WHEN 2 THEN SUM(X.J) OVER (PARTITION BY X.KM_ID ORDER BY X.M, X.STEP
+                                                  ROWS UNBOUNDED PRECEDING)
+                       ELSE 0.00 END AS J,
+           CASE X.STEP WHEN 1 THEN X.D
+                       WHEN 2 THEN SUM(X.D) OVER (PARTITION BY X.KM_ID ORDER BY X.M, X.STEP
+                                                  ROWS UNBOUNDED PRECEDING)
+                       ELSE 0.00 END AS D,
+           CASE CASE X.STEP WHEN 0 THEN LAG(X.CLOSING, 1, X.OPENING)
+                                        OVER (PARTITION BY X.KM_ID ORDER BY X.M, X.STEP)
+                            ELSE X.CLOSING END
+                WHEN 0 THEN '平' ELSE X.FX END AS FX,
+           CASE X.STEP WHEN 0 THEN LAG(X.CLOSING, 1, X.OPENING)
+                                   OVER (PARTITION BY X.KM_ID ORDER BY X.M, X.STEP)
+                       ELSE X.CLOSING END AS E,
+           X.QJ AS QJ_MONTH
+    FROM SHOWN X
+    ORDER BY X.KM_ID, X.M, X.STEP
+    OPTION (FORCE ORDER);
 END

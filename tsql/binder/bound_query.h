@@ -102,6 +102,7 @@ struct BoundQuery {
     BoundPtr offset;
     BoundPtr fetch;
     bool correlated = false;
+    bool force_order = false; // tables are joined in the order they are written
 };
 
 // A call in FROM of a function that fills a table: the copy its rows are read from.

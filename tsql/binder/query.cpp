@@ -26,6 +26,7 @@ std::unique_ptr<BoundQuery> Binder::bind_query(const Query& query, Scope* around
     result->body = bind_body(*query.body, scope, &query, *result);
     bind_limits(query, scope, *result);
     result->correlated = scope.reached_out;
+    result->force_order = query.force_order;
     return result;
 }
 

@@ -76,7 +76,8 @@ void parse_page(TokenCursor& cursor, Query& query) {
     cursor.expect(Keyword::Only);
 }
 
-// OPTION (…): MAXRECURSION bounds a recursive query; other hints are for the server's planner.
+// OPTION (…): MAXRECURSION bounds a recursive query, FORCE ORDER keeps the order of the joins as it
+// is written; other hints are for the server's planner.
 void parse_options(TokenCursor& cursor, Query& query) {
     if (!cursor.accept(Keyword::Option)) return;
     cursor.expect(TokenKind::LeftParenthesis);
@@ -84,6 +85,10 @@ void parse_options(TokenCursor& cursor, Query& query) {
         if (cursor.accept(Keyword::Maxrecursion)) {
             query.max_recursion =
                 static_cast<int>(std::min<std::int64_t>(parse_signed_integer(cursor), 32767));
+        } else if (cursor.at_word("FORCE")) {
+            cursor.take();
+            cursor.expect(Keyword::Order);
+            query.force_order = true;
         } else if (cursor.at(TokenKind::Word) || cursor.at(TokenKind::Integer) ||
                    cursor.at(TokenKind::Comma)) {
             cursor.take();

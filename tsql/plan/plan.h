@@ -6,6 +6,7 @@
 #include "tsql/types/type.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -90,6 +91,54 @@ struct PlanColumn {
     bool nullable = true;
 };
 
+// ---- Rows the engine puts in order itself ----------------------------------------------------
+
+// A value that runs along with the ordered rows and begins anew where one of the first `partition`
+// keys changes.
+struct RunningValue {
+    enum class Kind : std::uint8_t {
+        Sum,    // of the cell so far, NULL while all were NULL; 8115 beyond 64 bits
+        Count,  // of the cells so far that are not NULL
+        Number, // of the rows so far
+        Before, // the cell of the row before, `otherwise` of this row where there is none
+    };
+    Kind kind = Kind::Sum;
+    int partition = 0;
+    int cell = 0;
+    int otherwise = 0;
+    friend bool operator==(const RunningValue&, const RunningValue&) = default;
+};
+
+// What a shown column is made of, as a tree whose nodes lie in RowOrder::values.
+struct ShownValue {
+    enum class Kind : std::uint8_t {
+        Null,
+        Cell,     // place: a column of the text, from 0; behind them the running values
+        Constant, // place: of RowOrder::constants
+        Choice,   // the first branch whose two sides are equal whole numbers, else `otherwise`
+        Within,   // the value `otherwise` when its magnitude is below `limit`, else 8115
+    };
+    struct Branch {
+        int left = 0, right = 0, then = 0;
+    };
+    Kind kind = Kind::Null;
+    int place = 0;
+    std::vector<Branch> branches;
+    int otherwise = 0;
+    std::int64_t limit = 0;
+};
+
+// The text gives its rows in any order, the keys first. The engine orders them (NULL first, texts
+// by the database's collation, rows with equal keys as they came), lets the values run and shows
+// for each column the value of that number.
+struct RowOrder {
+    std::vector<bool> descending; // by key
+    std::vector<RunningValue> running;
+    std::vector<PlanParameter> constants;
+    std::vector<ShownValue> values;
+    std::vector<int> shown; // by column
+};
+
 // ---- Steps -----------------------------------------------------------------------------------
 
 struct Step;
@@ -98,7 +147,8 @@ using Steps = std::vector<Step>;
 // A query: rows for the client.
 struct SqlQuery {
     SqlText sql;
-    std::vector<PlanColumn> columns; // as many as the text selects
+    std::vector<PlanColumn> columns; // as many as the text selects, or as `order` shows
+    std::optional<RowOrder> order = std::nullopt;
 };
 
 // SELECT @a = x, @b = y FROM …: for each row, the cells are stored into the slots, already in the
@@ -166,7 +216,7 @@ struct Ddl {
 // DECLARE @t TABLE: makes the table when this connection does not have it and empties it.
 struct PrepareTable {
     std::string create; // CREATE TEMP TABLE IF NOT EXISTS …
-    std::string clear;  // DELETE FROM …
+    SqlText clear;      // DELETE FROM …
 };
 
 // The rows of a function that returns @r TABLE, called in FROM with arguments that do not depend

@@ -31,20 +31,72 @@ private:
         return "";
     }
 
-    void sql(const std::string& word, const SqlText& statement) {
-        line(word + " " + statement.text);
-        ++depth_;
-        for (std::size_t i = 0; i < statement.parameters.size(); ++i) {
-            const PlanParameter& parameter = statement.parameters[i];
+    void parameters(const std::string& mark, const std::vector<PlanParameter>& all) {
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            const PlanParameter& parameter = all[i];
             std::string shown =
-                "?" + std::to_string(i + 1) + " " + source(parameter) + " " + parameter.type.text();
+                mark + std::to_string(i + 1) + " " + source(parameter) + " " + parameter.type.text();
             if (parameter.how != Conversion::None) {
                 shown +=
                     (parameter.how == Conversion::Assign ? " into " : " as ") + parameter.to.text();
             }
             line(shown);
         }
+    }
+
+    void sql(const std::string& word, const SqlText& statement) {
+        line(word + " " + statement.text);
+        ++depth_;
+        parameters("?", statement.parameters);
         --depth_;
+    }
+
+    static std::string running(const RunningValue& value) {
+        const std::string cell = " " + std::to_string(value.cell);
+        const std::string otherwise = cell + " else " + std::to_string(value.otherwise);
+        const std::string within = " within " + std::to_string(value.partition);
+        switch (value.kind) {
+        case RunningValue::Kind::Sum: return "sum" + cell + within;
+        case RunningValue::Kind::Count: return "count" + cell + within;
+        case RunningValue::Kind::Number: return "number" + within;
+        case RunningValue::Kind::Before: return "before" + otherwise + within;
+        }
+        return "";
+    }
+
+    static std::string shown(const RowOrder& order, int number) {
+        const ShownValue& value = order.values[static_cast<std::size_t>(number)];
+        switch (value.kind) {
+        case ShownValue::Kind::Null: return "NULL";
+        case ShownValue::Kind::Cell: return std::to_string(value.place);
+        case ShownValue::Kind::Constant: return "!" + std::to_string(value.place + 1);
+        case ShownValue::Kind::Within: return "within(" + shown(order, value.otherwise) + ")";
+        case ShownValue::Kind::Choice: break;
+        }
+        std::string text = "(";
+        for (const ShownValue::Branch& branch : value.branches) {
+            text += shown(order, branch.left) + "=" + shown(order, branch.right) + " ? " +
+                    shown(order, branch.then) + " : ";
+        }
+        return text + shown(order, value.otherwise) + ")";
+    }
+
+    // Cells are numbered from 0, running values behind them; constants are marked !1, !2 …
+    void order(const RowOrder& order) {
+        std::string keys = "in order of";
+        for (std::size_t i = 0; i < order.descending.size(); ++i) {
+            keys += " " + std::to_string(i) + (order.descending[i] ? " down" : "");
+        }
+        line(keys);
+        for (const RunningValue& value : order.running) {
+            line("running " + running(value));
+        }
+        parameters("!", order.constants);
+        std::string columns = "showing";
+        for (const int number : order.shown) {
+            columns += " " + shown(order, number);
+        }
+        line(columns);
     }
 
     void inner(const std::string& word, const Steps& body) {
@@ -57,6 +109,9 @@ private:
     void write(const SqlQuery& query) {
         sql("query", query.sql);
         ++depth_;
+        if (query.order) {
+            order(*query.order);
+        }
         for (const PlanColumn& column : query.columns) {
             line((column.name.empty() ? "(no name)" : column.name) + " " + column.type.text());
         }

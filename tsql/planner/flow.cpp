@@ -50,7 +50,7 @@ PrepareTable Planner::declare_table(const std::string& name, const TableDefiniti
     const auto table = binder.bind_table(name, definition, from);
     PrepareTable step;
     step.create = sqlite::create_table(*table, binder, true);
-    step.clear = "DELETE FROM temp." + quoted_name(table->stored_name);
+    step.clear.text = "DELETE FROM temp." + quoted_name(table->stored_name);
     variables_.tables[name] = table;
     return step;
 }

@@ -51,7 +51,7 @@ std::vector<int> all_columns(const CatalogTable& table) {
 
 SqlQuery Planner::query_of(const BoundQuery& query) {
     SqlQuery result;
-    result.sql = emitter().query(query);
+    result.sql = emitter().query(query, result.order);
     for (const RangeColumn& column : query.columns) {
         result.columns.push_back(
             {column.name, column.type.is_null() ? Type::integer() : column.type, column.nullable});

@@ -131,14 +131,16 @@ Form with_form(const std::vector<CommonTable>& tables) {
 
 Form form_of(const Query& query) {
     Form body = form_of(*query.body);
-    const bool plain = query.with.empty() && query.order.empty() && !query.max_recursion;
+    const bool plain = query.with.empty() && query.order.empty() && !query.max_recursion &&
+                       !query.force_order;
     if (plain) return body;
     return list_of(
         "query", {with_form(query.with), std::move(body), form_of(query.order),
                   wrapped("offset", form_of(query.offset)), wrapped("fetch", form_of(query.fetch)),
                   query.max_recursion
                       ? wrapped("max-recursion", Form::atom(std::to_string(*query.max_recursion)))
-                      : Form{}});
+                      : Form{},
+                  query.force_order ? Form::atom("force-order") : Form{}});
 }
 
 } // namespace tsql

@@ -24,6 +24,7 @@ struct Query {
     ExpressionPtr offset;             // OFFSET n ROWS, null when none
     ExpressionPtr fetch;              // FETCH NEXT n ROWS ONLY, null when none
     std::optional<int> max_recursion; // OPTION (MAXRECURSION n)
+    bool force_order = false;         // OPTION (FORCE ORDER)
     SourceRange at;
 };
 

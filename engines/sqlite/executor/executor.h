@@ -3,6 +3,7 @@
 
 #include <atomic>
 #include <deque>
+#include <functional>
 #include <map>
 
 #include "engines/session.h"
@@ -13,6 +14,7 @@
 #include "engines/sqlite/executor/cursors.h"
 #include "engines/sqlite/executor/frame.h"
 #include "engines/sqlite/executor/kept_copies.h"
+#include "engines/sqlite/executor/ordered_rows.h"
 #include "engines/sqlite/executor/progress_meter.h"
 #include "engines/sqlite/executor/sink.h"
 #include "engines/sqlite/executor/transactions.h"
@@ -84,8 +86,11 @@ private:
     bool propagates() const { return catchers_ > 0; }
 
     // run_query.cpp
+    std::int64_t run_query(const tsql::SqlQuery& query, RowSink& sink);
     std::int64_t run_query(const tsql::SqlText& text, std::span<const tsql::PlanColumn> columns,
                            RowSink& sink);
+    // The same for rows that are ordered here and not by SQLite.
+    std::int64_t run_ordered(const tsql::SqlQuery& query, RowSink& sink);
     // Runs a text that gives no rows wanted and returns the rows it changed.
     std::int64_t run_text(const tsql::SqlText& text, StatementVerb verb);
     // The single cell of a text, null when there is no row.
@@ -94,6 +99,9 @@ private:
     int step(sqlite3_stmt* statement, StatementVerb verb);
     void bind(sqlite3_stmt* statement, const tsql::SqlText& text);
     void bind_parameter(sqlite3_stmt* statement, int index, const tsql::PlanParameter& parameter);
+    // Hands over the parameter's value, converted as it asks for, for the time of the call.
+    void use_parameter(const tsql::PlanParameter& parameter,
+                       const std::function<void(const Stored&, const tsql::Type&)>& use);
     Stored parameter_value(const tsql::PlanParameter& parameter, tsql::Type& type);
     Stored system_value(const tsql::PlanParameter& parameter, std::string& buffer);
     std::int64_t now();
@@ -196,6 +204,9 @@ private:
     std::optional<Unchanged> unchanged_;
     std::int64_t changed_rows_ = 0; // by the main text of the last writing statement
     tsql::SqlText pending_rows_;    // see has_rows
+    // The memory of the last ordered rows, so that a ledger opened again asks the system for none.
+    static constexpr std::size_t most_spare_bytes = 4 << 20;
+    std::unique_ptr<OrderedRows> spare_rows_;
 };
 
 // Puts a frame in place for the time of a scope.

@@ -53,7 +53,7 @@ Flow Executor::open_cursor(const tsql::OpenCursorStep& step) {
         declared.literals = &cursor.literals;
         declared.plan = cursor.plan;
         const FrameScope scope(frame_, declared);
-        run_query(cursor.query->sql, cursor.query->columns, kept);
+        run_query(*cursor.query, kept);
     }
     cursor.rows = std::move(kept.rows);
     cursor.place = -1;

@@ -114,11 +114,11 @@ std::int64_t Executor::run_main(const tsql::SqlDml& dml, StatementVerb verb) {
 
 void Executor::output_rows(const tsql::SqlDml& dml) {
     if (dml.assigned_slots.empty()) {
-        run_query(dml.output->sql, dml.output->columns, sink());
+        run_query(*dml.output, sink());
         return;
     }
     KeepingSink kept;
-    run_query(dml.output->sql, dml.output->columns, kept);
+    run_query(*dml.output, kept);
     if (kept.rows.empty()) return;
     const auto& last = kept.rows.back();
     for (std::size_t i = 0; i < dml.assigned_slots.size() && i < last.size(); ++i)

@@ -2,6 +2,7 @@
 #include "engines/sqlite/conversion/convert.h"
 #include "engines/sqlite/executor/executor.h"
 #include "engines/sqlite/executor/literal.h"
+#include "engines/sqlite/executor/shown_row.h"
 #include "engines/sqlite/functions/call.h"
 #include "engines/sqlite/raise.h"
 
@@ -26,6 +27,14 @@ void Executor::bind(sqlite3_stmt* statement, const tsql::SqlText& text) {
 
 void Executor::bind_parameter(sqlite3_stmt* statement, int index,
                               const tsql::PlanParameter& parameter) {
+    use_parameter(parameter, [&](const Stored& value, const tsql::Type& type) {
+        bind_stored(statement, index, value, type);
+    });
+}
+
+void Executor::use_parameter(
+    const tsql::PlanParameter& parameter,
+    const std::function<void(const Stored&, const tsql::Type&)>& use) {
     tsql::Type type = parameter.type;
     std::string raw;
     Stored value;
@@ -42,13 +51,12 @@ void Executor::bind_parameter(sqlite3_stmt* statement, int index,
     default: value = parameter_value(parameter, type); break;
     }
     if (parameter.how == tsql::Conversion::None) {
-        bind_stored(statement, index, value, type);
+        use(value, type);
         return;
     }
     std::string buffer;
     const Fit fit = parameter.how == tsql::Conversion::Assign ? Fit::refuse : Fit::cut;
-    bind_stored(statement, index, convert(value, type, parameter.to, parameter.style, fit, buffer),
-                parameter.to);
+    use(convert(value, type, parameter.to, parameter.style, fit, buffer), parameter.to);
 }
 
 Stored Executor::parameter_value(const tsql::PlanParameter& parameter, tsql::Type& type) {
@@ -63,19 +71,86 @@ Stored Executor::parameter_value(const tsql::PlanParameter& parameter, tsql::Typ
     }
 }
 
+std::int64_t Executor::run_query(const tsql::SqlQuery& query, RowSink& sink) {
+    return query.order ? run_ordered(query, sink) : run_query(query.sql, query.columns, sink);
+}
+
 std::int64_t Executor::run_query(const tsql::SqlText& text,
                                  std::span<const tsql::PlanColumn> columns, RowSink& sink) {
     const StatementLease lease = parts_.statements.lease(text, frame_->owner);
     bind(lease.get(), text);
+    std::vector<Stored> cells(columns.size());
     std::int64_t rows = 0;
     int code = step(lease.get(), StatementVerb::other);
     sink.begin(columns);
     for (; code == SQLITE_ROW; code = step(lease.get(), StatementVerb::other)) {
         ++rows;
-        if (!sink.row(lease.get())) break;
+        for (std::size_t i = 0; i < cells.size(); ++i)
+            cells[i] = read_column(lease.get(), static_cast<int>(i), columns[i].type);
+        if (!sink.row(cells)) break;
     }
     sink.end();
     return rows;
+}
+
+namespace {
+
+// The connection has no mutex, so that a value may be looked at where it lies.
+void take_row(sqlite3_stmt* statement, int columns, OrderedRows& rows) {
+    for (int i = 0; i < columns; ++i) {
+        sqlite3_value* const value = sqlite3_column_value(statement, i);
+        switch (sqlite3_value_type(value)) {
+        case SQLITE_NULL: rows.add_null(); break;
+        case SQLITE_INTEGER: rows.add(sqlite3_value_int64(value)); break;
+        case SQLITE_FLOAT: rows.add_real(sqlite3_value_double(value)); break;
+        case SQLITE_TEXT: {
+            const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+            const auto size = static_cast<std::size_t>(sqlite3_value_bytes(value));
+            rows.add_text(RowCell::Kind::text, {text, size});
+            break;
+        }
+        default: {
+            const auto* bytes = static_cast<const char*>(sqlite3_value_blob(value));
+            const auto size = static_cast<std::size_t>(sqlite3_value_bytes(value));
+            rows.add_text(RowCell::Kind::bytes, {bytes, size});
+        }
+        }
+    }
+    rows.end_row();
+}
+
+} // namespace
+
+std::int64_t Executor::run_ordered(const tsql::SqlQuery& query, RowSink& sink) {
+    std::unique_ptr<OrderedRows> rows =
+        spare_rows_ ? std::move(spare_rows_) : std::make_unique<OrderedRows>();
+    {
+        const StatementLease lease = parts_.statements.lease(query.sql, frame_->owner);
+        bind(lease.get(), query.sql);
+        const int columns = sqlite3_column_count(lease.get());
+        rows->begin(*query.order, static_cast<std::size_t>(columns));
+        while (step(lease.get(), StatementVerb::other) == SQLITE_ROW)
+            take_row(lease.get(), columns, *rows);
+    }
+    rows->finish();
+    std::vector<OwnedValue> constants;
+    for (const tsql::PlanParameter& parameter : query.order->constants)
+        use_parameter(parameter, [&](const Stored& value, const tsql::Type&) {
+            constants.emplace_back(value);
+        });
+    const ShownRow shown(*query.order, *rows, constants);
+    std::vector<Stored> cells(query.columns.size());
+    sink.begin(query.columns);
+    std::size_t row = 0;
+    for (; row < rows->rows(); ++row) {
+        check_interrupted();
+        for (std::size_t i = 0; i < cells.size(); ++i)
+            cells[i] = shown.value(row, i, query.columns[i].type);
+        if (!sink.row(cells)) break;
+    }
+    sink.end();
+    if (rows->bytes() <= most_spare_bytes) spare_rows_ = std::move(rows);
+    return static_cast<std::int64_t>(row);
 }
 
 std::int64_t Executor::run_text(const tsql::SqlText& text, StatementVerb verb) {
@@ -104,7 +179,7 @@ bool Executor::is_true(const tsql::SqlText& condition) {
 }
 
 Flow Executor::query(const tsql::SqlQuery& query) {
-    row_count_ = run_query(query.sql, query.columns, sink());
+    row_count_ = run_query(query, sink());
     last_error_ = 0;
     return Flow::next;
 }

@@ -1,8 +1,6 @@
 // Rows to receivers without an allocation a row.
 #include "engines/sqlite/executor/sink.h"
 
-#include "engines/sqlite/functions/call.h"
-
 namespace engines {
 namespace {
 
@@ -56,9 +54,8 @@ void ClientSink::begin(std::span<const tsql::PlanColumn> columns) {
     receiver_.begin_set(columns_);
 }
 
-bool ClientSink::row(sqlite3_stmt* statement) {
-    for (std::size_t i = 0; i < types_.size(); ++i)
-        cells_[i] = cell_of(read_column(statement, static_cast<int>(i), types_[i]), types_[i]);
+bool ClientSink::row(std::span<const Stored> cells) {
+    for (std::size_t i = 0; i < types_.size(); ++i) cells_[i] = cell_of(cells[i], types_[i]);
     return receiver_.row(cells_);
 }
 
@@ -67,11 +64,11 @@ void KeepingSink::begin(std::span<const tsql::PlanColumn> columns) {
     for (const auto& column : columns) types_.push_back(column.type);
 }
 
-bool KeepingSink::row(sqlite3_stmt* statement) {
+bool KeepingSink::row(std::span<const Stored> cells) {
     std::vector<TypedValue> kept(types_.size());
     for (std::size_t i = 0; i < types_.size(); ++i) {
         kept[i].type = types_[i];
-        kept[i].value.set(read_column(statement, static_cast<int>(i), types_[i]));
+        kept[i].value.set(cells[i]);
     }
     rows.push_back(std::move(kept));
     return true;

@@ -1,8 +1,6 @@
 // Where the rows of a query go.
 #pragma once
 
-#include <sqlite3.h>
-
 #include <span>
 #include <vector>
 
@@ -16,8 +14,8 @@ class RowSink {
 public:
     virtual ~RowSink() = default;
     virtual void begin(std::span<const tsql::PlanColumn> columns) = 0;
-    // The statement stands on a row. false: no more rows are wanted.
-    virtual bool row(sqlite3_stmt* statement) = 0;
+    // One row, a cell a column. false: no more rows are wanted.
+    virtual bool row(std::span<const Stored> cells) = 0;
     virtual void end() = 0;
 };
 
@@ -26,7 +24,7 @@ class ClientSink : public RowSink {
 public:
     explicit ClientSink(ResultReceiver& receiver) : receiver_(receiver) {}
     void begin(std::span<const tsql::PlanColumn> columns) override;
-    bool row(sqlite3_stmt* statement) override;
+    bool row(std::span<const Stored> cells) override;
     void end() override { receiver_.end_set(); }
 
 private:
@@ -40,7 +38,7 @@ private:
 class KeepingSink : public RowSink {
 public:
     void begin(std::span<const tsql::PlanColumn> columns) override;
-    bool row(sqlite3_stmt* statement) override;
+    bool row(std::span<const Stored> cells) override;
     void end() override {}
 
     std::size_t columns() const { return types_.size(); }

@@ -38,20 +38,19 @@ std::string_view characters(const void* data, int size) {
     return {static_cast<const char*>(data), static_cast<std::size_t>(size)};
 }
 
-// A blob under a type of numbers is a decimal in its 16 bytes.
-Stored read_bytes(std::string_view bytes, const tsql::Type& type) {
-    if (type.is_exact()) {
-        if (const auto value = from_wide(bytes)) return Stored::of(*value);
-    }
-    return Stored::of_bytes(bytes);
-}
-
 bool fits_64_bits(Int128 value) {
     return value >= std::numeric_limits<std::int64_t>::min() &&
            value <= std::numeric_limits<std::int64_t>::max();
 }
 
 } // namespace
+
+Stored stored_bytes(std::string_view bytes, const tsql::Type& type) {
+    if (type.is_exact()) {
+        if (const auto value = from_wide(bytes)) return Stored::of(*value);
+    }
+    return Stored::of_bytes(bytes);
+}
 
 Stored read_stored(sqlite3_value* value, const tsql::Type& type) {
     switch (sqlite3_value_type(value)) {
@@ -63,7 +62,7 @@ Stored read_stored(sqlite3_value* value, const tsql::Type& type) {
     }
     case SQLITE_BLOB: {
         const void* data = sqlite3_value_blob(value);
-        return read_bytes(characters(data, sqlite3_value_bytes(value)), type);
+        return stored_bytes(characters(data, sqlite3_value_bytes(value)), type);
     }
     default: return Stored::null();
     }
@@ -79,7 +78,7 @@ Stored read_column(sqlite3_stmt* statement, int column, const tsql::Type& type) 
     }
     case SQLITE_BLOB: {
         const void* data = sqlite3_column_blob(statement, column);
-        return read_bytes(characters(data, sqlite3_column_bytes(statement, column)), type);
+        return stored_bytes(characters(data, sqlite3_column_bytes(statement, column)), type);
     }
     default: return Stored::null();
     }

@@ -14,6 +14,8 @@ namespace engines {
 // The value of an argument or column; the type tells decimals in their 16 bytes from other bytes.
 Stored read_stored(sqlite3_value* value, const tsql::Type& type);
 Stored read_column(sqlite3_stmt* statement, int column, const tsql::Type& type);
+// Bytes under a type of exact numbers are a decimal in its 16 bytes.
+Stored stored_bytes(std::string_view bytes, const tsql::Type& type);
 // Binds a value of the type to parameter index, from 1; texts are copied.
 void bind_stored(sqlite3_stmt* statement, int index, const Stored& value, const tsql::Type& type);
 

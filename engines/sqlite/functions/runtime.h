@@ -38,6 +38,8 @@ public:
         return value;
     }
     bool is_null() const { return value_.is_null(); }
+    // Of a text or bytes; lives as long as this value.
+    std::string_view characters() const { return characters_; }
 
 private:
     Stored value_;

@@ -36,6 +36,31 @@ Fragment plain(std::string text, const Type& to) {
     return fragment;
 }
 
+// A whole number is written as SQLite writes it. Where the text may be too short for a few of them a
+// column is looked at first; anything else would be worked out twice.
+std::string whole_as_text(const Fragment& value, const Type& from, const Type& to, int style) {
+    const bool known = from.is_integer() && style == 0 &&
+                       (to.kind == TypeKind::VarChar || to.kind == TypeKind::NVarChar);
+    if (!known || value.is_parameter) {
+        return "";
+    }
+    const std::string text = "CAST(" + value.text + " AS TEXT)";
+    const double needed = bound_of(from) * 10; // the sign takes a place, too
+    if (to.length == Type::max_length || power_of_ten(to.length) >= needed) {
+        return text;
+    }
+    if (to.length < 2 || value.text.find_first_of("( ") != std::string::npos) {
+        return "";
+    }
+    std::string limit = "1" + std::string(static_cast<std::size_t>(to.length) - 1, '0');
+    std::string fits = value.text + ">-" + limit;
+    if (power_of_ten(to.length) < bound_of(from)) {
+        fits += " AND " + value.text + "<" + limit + "0";
+    }
+    return "(CASE WHEN " + fits + " THEN " + text + " ELSE " +
+           cast_call("zf_cast", value.text, from, to, style) + " END)";
+}
+
 } // namespace
 
 // Both exact, neither bit nor money-to-whole (which rounds): moves the point and checks the size.
@@ -114,6 +139,10 @@ Fragment Emitter::converted(Fragment value, const Type& from, const Type& to, Co
     }
     if (from.kind == TypeKind::SmallDateTime && to.kind == TypeKind::DateTime) {
         return value;
+    }
+    if (std::string text = whole_as_text(value, from, to, style);
+        mode == ConvertMode::Cast && !text.empty()) {
+        return plain(std::move(text), to);
     }
     if (mode == ConvertMode::Assign) {
         return plain("zf_assign(" + value.text + "," + std::to_string(from.packed()) + "," +

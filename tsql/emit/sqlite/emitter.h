@@ -5,7 +5,9 @@
 #include "tsql/emit/sqlite/fragment.h"
 #include "tsql/plan/plan.h"
 
+#include <functional>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -18,6 +20,8 @@ struct ColumnForm {
     double bound = 0;
 };
 
+struct RunningRows;
+
 class Emitter {
 public:
     // The ordinals of literals that become parameters are added to `passed`. Without it literals
@@ -27,6 +31,9 @@ public:
 
     // ---- whole texts
     SqlText query(const BoundQuery& query);
+    // The same for a query whose rows are shown: where its windows follow its order, the text gives
+    // rows without order and `order` says what becomes of them.
+    SqlText query(const BoundQuery& query, std::optional<RowOrder>& order);
     // SELECT of values without tables; conditions give 1, 0 or NULL.
     SqlText values(const std::vector<BoundPtr>& values);
     SqlText insert(const BoundInsert& insert, bool into_copy);
@@ -135,6 +142,20 @@ private:
                                std::vector<ColumnForm>& forms);
     std::string apply_text(const BoundSource& source);
 
+    // ---- rows put in order by the engine (running.cpp, shown.cpp)
+    bool running_query(const BoundQuery& query, RowOrder& order, std::string& text);
+    // Each answers the number of the value or cell, -1 when it cannot be made this way.
+    int shown_value(const BoundPtr& value, RunningRows& rows);
+    int shown_choice(const BoundCase& node, RunningRows& rows);
+    int shown_plain_choice(const BoundPtr& value, RunningRows& rows);
+    int shown_conversion(const BoundConvert& node, RunningRows& rows);
+    int shown_constant(const BoundPtr& value, RunningRows& rows);
+    int shown_operand(const BoundPtr& value, int scale, RunningRows& rows);
+    int taken_constant(RunningRows& rows, const std::function<Fragment()>& emit);
+    int shown_window(const BoundAggregate& node, RunningRows& rows);
+    int narrow_cell(const BoundPtr& value, RunningRows& rows);
+    int cell_of(const BoundPtr& value, RunningRows& rows);
+
     // ---- changes (insert.cpp, update.cpp, delete.cpp)
     std::string rows_of(const BoundChange& change, const std::vector<BoundSourcePtr>& from,
                         bool target_in_from, const BoundPtr& where);
@@ -149,6 +170,7 @@ private:
     bool inline_literals_;
     std::set<int>* passed_;
     bool volatile_ = false;
+    bool force_order_ = false; // tables are joined as they are written
     bool gathers_ = false; // the table being emitted is read as a whole, whatever is asked of it
     int conditional_ = 0;  // inside branches that may not be reached
     std::vector<PlanParameter> parameters_;

@@ -111,6 +111,8 @@ Fragment Emitter::literal(const BoundLiteral& node, const Type& to, Conversion h
     value.style = style;
     if (node.constant < 0) {
         passed_->insert(node.ordinal);
+    } else if (node.literal == LiteralKind::Integer && to.is_integer() && node.digits() < 10) {
+        fragment.bound = std::stod(node.text) + 1; // a constant of the plan is never another
     }
     fragment.text = parameter(value);
     return fragment;

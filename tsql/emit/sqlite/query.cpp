@@ -47,6 +47,7 @@ SqlText Emitter::values(const std::vector<BoundPtr>& values) {
 
 std::string Emitter::query_text(const BoundQuery& query, const std::vector<bool>* used,
                                 std::vector<ColumnForm>& forms, bool named) {
+    force_order_ = force_order_ || query.force_order;
     const bool limited = !query.order.empty() || query.offset || query.fetch;
     const std::string with = with_clause(query.with);
     return with + body_text(*query.body, &query, limited ? nullptr : used, forms, named);

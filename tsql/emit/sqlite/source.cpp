@@ -14,12 +14,19 @@ bool has_outer_right(const BoundSource& source) {
             has_outer_right(*source.left) || has_outer_right(*source.right));
 }
 
+// SQLite takes the tables of a CROSS JOIN in the order they are written, those of others as it likes.
+constexpr const char* fixed_join = " CROSS JOIN ";
+
+bool is_inner(JoinKind kind) {
+    return kind == JoinKind::Inner || kind == JoinKind::Cross;
+}
+
 const char* join_word(JoinKind kind) {
     switch (kind) {
     case JoinKind::Left: return " LEFT JOIN ";
     case JoinKind::Right: return " RIGHT JOIN ";
     case JoinKind::Full: return " FULL JOIN ";
-    default: return " JOIN "; // CROSS JOIN would fix the order of the tables
+    default: return " JOIN ";
     }
 }
 
@@ -29,7 +36,7 @@ std::string Emitter::from_text(const std::vector<BoundSourcePtr>& from) {
     std::string text;
     for (const BoundSourcePtr& source : from) {
         const bool enclosed = from.size() > 1 && has_outer_right(*source);
-        text += (text.empty() ? " FROM " : ", ") +
+        text += (text.empty() ? " FROM " : force_order_ ? fixed_join : ", ") +
                 (enclosed ? "(" + source_text(*source) + ")" : source_text(*source));
     }
     return text;
@@ -47,7 +54,8 @@ std::string Emitter::source_text(const BoundSource& source) {
     if (source.right->kind == SourceKind::Join) {
         right = "(" + right + ")";
     }
-    std::string text = std::move(left) + join_word(source.join) + right;
+    const bool fixed = force_order_ && is_inner(source.join);
+    std::string text = std::move(left) + (fixed ? fixed_join : join_word(source.join)) + right;
     if (source.on) {
         text += " ON " + condition(source.on);
     }

@@ -1,0 +1,248 @@
+// Windows that follow the order in which the rows are shown. SQLite would keep every row of a
+// partition in a table of its own and sort once more; here the text gives the rows as it finds them
+// and the engine orders them once and lets the values run along.
+#include "tsql/emit/sqlite/running.h"
+
+#include "tsql/binder/same_expression.h"
+#include "tsql/emit/sqlite/emitter.h"
+
+#include <algorithm>
+
+namespace tsql::sqlite {
+
+namespace {
+
+bool same_column(const BoundPtr& left, const BoundPtr& right) {
+    const auto& a = static_cast<const BoundColumn&>(*left);
+    const auto& b = static_cast<const BoundColumn&>(*right);
+    return a.table == b.table && a.ordinal == b.ordinal;
+}
+
+// Columns whose order the engine knows: whole numbers, dates and texts of the database's collation.
+bool may_be_key(const BoundPtr& value) {
+    if (!value || value->kind != BoundKind::Column) {
+        return false;
+    }
+    const Type& type = value->type;
+    const bool known = type.is_exact() || type.is_date() ||
+                       (type.is_text() && value->collation == Collation::Database);
+    return known && static_cast<const BoundColumn&>(*value).table->kind != RangeKind::Inline;
+}
+
+int place_of(const BoundPtr& column, const std::vector<RunningKey>& keys) {
+    const auto found = std::find_if(keys.begin(), keys.end(), [&](const RunningKey& key) {
+        return same_column(key.column, column);
+    });
+    return found == keys.end() ? -1 : static_cast<int>(found - keys.begin());
+}
+
+// The order of the query; a column named again changes nothing.
+bool keys_of(const BoundQuery& query, const BoundSelect& select, std::vector<RunningKey>& keys) {
+    for (const BoundOrder& order : query.order) {
+        const BoundPtr& value =
+            order.item >= 0 ? select.items[static_cast<std::size_t>(order.item)].expression
+                            : order.expression;
+        if (!may_be_key(value)) {
+            return false;
+        }
+        if (place_of(value, keys) < 0) {
+            keys.push_back({value, order.descending});
+        }
+    }
+    return true;
+}
+
+// The first keys must be the columns of the partition in any order; where there are fewer keys the
+// partition adds its own behind them, which any order of the rows allows.
+bool join_partition(const BoundWindow& window, std::vector<RunningKey>& keys) {
+    std::size_t count = 0;
+    std::vector<BoundPtr> missing;
+    std::vector<RunningKey> seen;
+    for (const BoundPtr& column : window.partition) {
+        if (!may_be_key(column)) {
+            return false;
+        }
+        if (place_of(column, seen) >= 0) {
+            continue;
+        }
+        seen.push_back({column, false});
+        ++count;
+        if (place_of(column, keys) < 0) {
+            missing.push_back(column);
+        }
+    }
+    const std::size_t known = keys.size();
+    for (const BoundPtr& column : missing) {
+        keys.push_back({column, false});
+    }
+    if (!missing.empty() && known + missing.size() != count) {
+        return false;
+    }
+    return partition_keys(window, keys) >= 0;
+}
+
+// The order within the partition must go on where the partition's keys end.
+bool join_order(const BoundWindow& window, std::vector<RunningKey>& keys) {
+    auto place = static_cast<std::size_t>(partition_keys(window, keys));
+    for (const BoundOrder& order : window.order) {
+        if (order.expression->kind == BoundKind::Subquery) {
+            continue; // a constant says that the order does not matter
+        }
+        if (!may_be_key(order.expression)) {
+            return false;
+        }
+        const int known = place_of(order.expression, keys);
+        if (known >= 0 && static_cast<std::size_t>(known) < place) {
+            continue;
+        }
+        if (place == keys.size()) {
+            keys.push_back({order.expression, order.descending});
+        } else if (static_cast<std::size_t>(known) != place ||
+                   keys[place].descending != order.descending) {
+            return false;
+        }
+        ++place;
+    }
+    return true;
+}
+
+bool runs_to_here(const BoundAggregate& node) {
+    const auto& frame = node.window->frame;
+    return frame && frame->unit == FrameUnit::Rows &&
+           frame->start == FrameBoundKind::UnboundedPreceding &&
+           frame->end == FrameBoundKind::CurrentRow;
+}
+
+// Functions that need nothing but the rows before. LAG by another number of rows does not.
+bool runs_along(const BoundAggregate& node) {
+    if (node.distinct) {
+        return false;
+    }
+    if (node.name == "ROW_NUMBER") {
+        return true;
+    }
+    if (node.name == "LAG") {
+        if (node.arguments.size() < 2) {
+            return true;
+        }
+        const BoundPtr& rows = node.arguments[1];
+        const auto* literal = rows->kind == BoundKind::Literal
+                                  ? static_cast<const BoundLiteral*>(rows.get())
+                                  : nullptr;
+        return literal != nullptr && literal->constant >= 0 && literal->text == "1";
+    }
+    if (node.name == "COUNT" || node.name == "COUNT_BIG") {
+        return runs_to_here(node);
+    }
+    return node.name == "SUM" && node.arguments[0]->type.is_exact() &&
+           node.type.kind != TypeKind::Int && runs_to_here(node);
+}
+
+bool is_plain(const BoundQuery& query) {
+    if (query.body->kind != BoundBodyKind::Select || query.offset || query.fetch) {
+        return false;
+    }
+    const auto& select = static_cast<const BoundSelect&>(*query.body);
+    return !select.distinct && !select.top && !select.grouped && !select.from.empty();
+}
+
+} // namespace
+
+void collect_windows(const BoundPtr& value, std::vector<const BoundAggregate*>& out) {
+    if (!value) {
+        return;
+    }
+    if (value->kind == BoundKind::Aggregate) {
+        const auto& node = static_cast<const BoundAggregate&>(*value);
+        if (node.window) {
+            out.push_back(&node);
+            return;
+        }
+    }
+    for (const BoundPtr& part : parts_of(*value)) {
+        collect_windows(part, out);
+    }
+}
+
+int partition_keys(const BoundWindow& window, const std::vector<RunningKey>& keys) {
+    int last = -1;
+    std::vector<RunningKey> seen;
+    for (const BoundPtr& column : window.partition) {
+        const int place = place_of(column, keys);
+        if (place < 0) {
+            return -1;
+        }
+        last = std::max(last, place);
+        if (place_of(column, seen) < 0) {
+            seen.push_back({column, false});
+        }
+    }
+    return last + 1 == static_cast<int>(seen.size()) ? last + 1 : -1;
+}
+
+bool Emitter::running_query(const BoundQuery& query, RowOrder& order, std::string& text) {
+    if (!is_plain(query)) {
+        return false;
+    }
+    const auto& select = static_cast<const BoundSelect&>(*query.body);
+    std::vector<const BoundAggregate*> windows;
+    for (const BoundItem& item : select.items) {
+        collect_windows(item.expression, windows);
+    }
+    RunningRows rows;
+    if (windows.empty() || !keys_of(query, select, rows.keys)) {
+        return false;
+    }
+    for (const BoundAggregate* node : windows) {
+        if (!runs_along(*node) || !join_partition(*node->window, rows.keys) ||
+            !join_order(*node->window, rows.keys)) {
+            return false;
+        }
+    }
+    force_order_ = query.force_order;
+    // Tables first: what derived tables give decides how their columns are read.
+    const std::string with = with_clause(query.with);
+    const std::string tail =
+        from_text(select.from) + (select.where ? " WHERE " + condition(select.where) : "");
+    for (const RunningKey& key : rows.keys) {
+        if (narrow_cell(key.column, rows) < 0) {
+            return false;
+        }
+        rows.order.descending.push_back(key.descending);
+    }
+    for (const BoundItem& item : select.items) {
+        const int number = shown_value(item.expression, rows);
+        if (number < 0) {
+            return false;
+        }
+        rows.order.shown.push_back(number);
+    }
+    std::string list;
+    for (const Fragment& cell : rows.cells) {
+        list += (list.empty() ? "SELECT " : ", ") + cell.text;
+    }
+    for (ShownValue& value : rows.order.values) {
+        if (value.kind == ShownValue::Kind::Cell && value.place < 0) {
+            value.place = static_cast<int>(rows.cells.size()) - 1 - value.place;
+        }
+    }
+    order = std::move(rows.order);
+    text = with + list + tail;
+    return true;
+}
+
+SqlText Emitter::query(const BoundQuery& query, std::optional<RowOrder>& order) {
+    RowOrder found;
+    std::string text;
+    if (!inline_literals_ && running_query(query, found, text)) {
+        order = std::move(found);
+        return finish(std::move(text));
+    }
+    parameters_.clear();
+    forms_.clear();
+    force_order_ = false;
+    order.reset();
+    return this->query(query);
+}
+
+} // namespace tsql::sqlite
