@@ -1,9 +1,9 @@
 // Our side: the data port that forms write through, over an open set of books.
 #pragma once
 
-#include <array>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "app/data/engine_data.h"
 #include "app/settings/surroundings.h"
@@ -11,10 +11,18 @@
 
 namespace bench {
 
-// A ledger's rows, and the sums of its columns J, D and E in cents.
-struct LedgerRead {
-    int rows = 0;
-    std::array<std::int64_t, 3> sums{};
+// Looks at every cell; the sum keeps the compiler from leaving the work out.
+struct SummingReceiver : host::RowReceiver {
+    std::int64_t sum = 0;
+    void columns(const std::vector<host::ColumnDescription>&) override {}
+    void row(const std::vector<host::CellView>& cells) override;
+};
+
+// Every row as one text, to hold two ways against each other.
+struct CollectingReceiver : host::RowReceiver {
+    std::vector<std::string> rows;
+    void columns(const std::vector<host::ColumnDescription>&) override {}
+    void row(const std::vector<host::CellView>& cells) override;
 };
 
 // Opens the books as the program does. Statements go through the same adapter as a form's.
@@ -23,9 +31,8 @@ public:
     explicit OurSession(const std::string& file);
     host::DataPort& data() { return *data_; }
     engines::Session& session() { return *session_; }
-    // Runs a query and reads every cell; the sum keeps the compiler from leaving the work out.
+    // Runs a query and reads every cell.
     std::int64_t read(const std::string& query);
-    LedgerRead read_ledger(const std::string& call);
 
 private:
     app::SystemClock clock_;

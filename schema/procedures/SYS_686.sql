@@ -3,10 +3,10 @@
 -- the year to there. @p_show '1' leaves out accounts without turnover in the range.
 -- The opening of a period is the closing balance of the one before, whatever @P_year says. A period
 -- that was not posted has its opening row only.
--- STEP: 0 the opening, 1 the sum of the period, 2 the sum of the year. The first opening brings what
--- the year had moved before, so that the year's sum is the sum of the rows above. The windows
--- follow the order of the rows. The order of the joins is the way of looking things up: from the few
--- accounts to their balances, which are read once for all steps.
+-- Each period's figures of an account are read once and make its three rows: STEP 0 the opening, 1
+-- the sum of the period, 2 the sum of the year, to which the first period adds what the year had
+-- moved before. The windows follow the order of the rows. The order of the joins is the way of
+-- looking things up: from the few accounts to their balances.
 CREATE PROCEDURE SYS_686 @P_year nvarchar(7), @p_show nvarchar(5) = '0', @KM_ID1 nvarchar(50),
     @KM_ID2 nvarchar(50) = NULL, @P_month1 nvarchar(7), @P_month2 nvarchar(7),
     @p_kmjb int = 5 AS
@@ -43,39 +43,31 @@ BEGIN
                         AND B.QJ >= @P_month1 AND B.QJ <= @P_month2))
     ORDER BY A.KM_ID;
 
-    WITH SHOWN AS (
-        SELECT A.KM_ID, A.KM_NAME, A.FX, Q.M, Q.QJ, S.STEP, A.OPENING,
-               CASE A.SIGN WHEN 1 THEN ISNULL(B.J - B.D, 0.00)
-                           ELSE ISNULL(B.D - B.J, 0.00) END AS CLOSING,
-               CASE S.STEP WHEN 1 THEN P.J
-                           WHEN 0 THEN CASE Q.M WHEN @month1 THEN A.J END END AS J,
-               CASE S.STEP WHEN 1 THEN P.D
-                           WHEN 0 THEN CASE Q.M WHEN @month1 THEN A.D END END AS D
-        FROM @ACCOUNTS A CROSS JOIN @MONTHS Q
-        LEFT JOIN D6602 P ON P.KM_ID = A.KM_ID AND P.QJ = Q.QJ AND P.INX = 0
-        LEFT JOIN D6602 B ON B.KM_ID = A.KM_ID AND B.QJ = Q.QJ AND B.INX = 1
-        CROSS JOIN (VALUES (0), (1), (2)) S (STEP)
-        WHERE S.STEP = 0 OR P.J IS NOT NULL)
-    SELECT X.KM_ID, X.KM_NAME, X.QJ,
-           CASE X.STEP WHEN 1 THEN '本期合计' WHEN 2 THEN '本年累计'
-                       ELSE CASE X.M WHEN 1 THEN '上年结转' ELSE '期初余额' END END AS ZY,
-           CASE X.STEP WHEN 1 THEN X.J
-                       WHEN 2 THEN SUM(X.J) OVER (PARTITION BY X.KM_ID ORDER BY X.M, X.STEP
-                                                  ROWS UNBOUNDED PRECEDING)
-                       ELSE 0.00 END AS J,
-           CASE X.STEP WHEN 1 THEN X.D
-                       WHEN 2 THEN SUM(X.D) OVER (PARTITION BY X.KM_ID ORDER BY X.M, X.STEP
-                                                  ROWS UNBOUNDED PRECEDING)
-                       ELSE 0.00 END AS D,
-           CASE CASE X.STEP WHEN 0 THEN LAG(X.CLOSING, 1, X.OPENING)
-                                        OVER (PARTITION BY X.KM_ID ORDER BY X.M, X.STEP)
-                            ELSE X.CLOSING END
-                WHEN 0 THEN '平' ELSE X.FX END AS FX,
-           CASE X.STEP WHEN 0 THEN LAG(X.CLOSING, 1, X.OPENING)
-                                   OVER (PARTITION BY X.KM_ID ORDER BY X.M, X.STEP)
-                       ELSE X.CLOSING END AS E,
-           X.QJ AS QJ_MONTH
-    FROM SHOWN X
-    ORDER BY X.KM_ID, X.M, X.STEP
+    WITH PERIOD AS (
+        SELECT Y.KM_ID, Y.KM_NAME, Y.FX, Y.M, Y.QJ, Y.J, Y.D, Y.CLOSING,
+               LAG(Y.CLOSING, 1, Y.OPENING) OVER (PARTITION BY Y.KM_ID ORDER BY Y.M) AS OPENING,
+               SUM(Y.ADDED_J) OVER (PARTITION BY Y.KM_ID ORDER BY Y.M
+                                    ROWS UNBOUNDED PRECEDING) AS YEAR_J,
+               SUM(Y.ADDED_D) OVER (PARTITION BY Y.KM_ID ORDER BY Y.M
+                                    ROWS UNBOUNDED PRECEDING) AS YEAR_D
+        FROM (SELECT A.KM_ID, A.KM_NAME, A.FX, A.OPENING, Q.M, Q.QJ, P.J, P.D,
+                     CASE A.SIGN WHEN 1 THEN ISNULL(B.J - B.D, 0.00)
+                                 ELSE ISNULL(B.D - B.J, 0.00) END AS CLOSING,
+                     CASE Q.M WHEN @month1 THEN A.J + ISNULL(P.J, 0.00) ELSE P.J END AS ADDED_J,
+                     CASE Q.M WHEN @month1 THEN A.D + ISNULL(P.D, 0.00) ELSE P.D END AS ADDED_D
+              FROM @ACCOUNTS A CROSS JOIN @MONTHS Q
+              LEFT JOIN D6602 P ON P.KM_ID = A.KM_ID AND P.QJ = Q.QJ AND P.INX = 0
+              LEFT JOIN D6602 B ON B.KM_ID = A.KM_ID AND B.QJ = Q.QJ AND B.INX = 1) Y)
+    SELECT P.KM_ID, P.KM_NAME, P.QJ,
+           CASE S.STEP WHEN 1 THEN '本期合计' WHEN 2 THEN '本年累计'
+                       ELSE CASE P.M WHEN 1 THEN '上年结转' ELSE '期初余额' END END AS ZY,
+           CASE S.STEP WHEN 1 THEN P.J WHEN 2 THEN P.YEAR_J ELSE 0.00 END AS J,
+           CASE S.STEP WHEN 1 THEN P.D WHEN 2 THEN P.YEAR_D ELSE 0.00 END AS D,
+           CASE CASE S.STEP WHEN 0 THEN P.OPENING ELSE P.CLOSING END
+                WHEN 0 THEN '平' ELSE P.FX END AS FX,
+           CASE S.STEP WHEN 0 THEN P.OPENING ELSE P.CLOSING END AS E, P.QJ AS QJ_MONTH
+    FROM PERIOD P CROSS JOIN (VALUES (0), (1), (2)) S (STEP)
+    WHERE S.STEP = 0 OR P.J IS NOT NULL
+    ORDER BY P.KM_ID, P.M, S.STEP
     OPTION (FORCE ORDER);
 END

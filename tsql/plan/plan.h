@@ -115,6 +115,8 @@ struct ShownValue {
         Null,
         Cell,     // place: a column of the text, from 0; behind them the running values
         Constant, // place: of RowOrder::constants
+        Number,   // place: the number itself
+        Step,     // the number of the step
         Choice,   // the first branch whose two sides are equal whole numbers, else `otherwise`
         Within,   // the value `otherwise` when its magnitude is below `limit`, else 8115
     };
@@ -137,6 +139,10 @@ struct RowOrder {
     std::vector<PlanParameter> constants;
     std::vector<ShownValue> values;
     std::vector<int> shown; // by column
+    // Every row is shown once a step, in this order; rows with equal keys take each step together.
+    // Without steps every row is shown once.
+    std::vector<std::int64_t> steps;
+    int condition = -1; // the value that is 1 for a row to be shown; -1: all are
 };
 
 // ---- Steps -----------------------------------------------------------------------------------

@@ -34,8 +34,8 @@ private:
     void parameters(const std::string& mark, const std::vector<PlanParameter>& all) {
         for (std::size_t i = 0; i < all.size(); ++i) {
             const PlanParameter& parameter = all[i];
-            std::string shown =
-                mark + std::to_string(i + 1) + " " + source(parameter) + " " + parameter.type.text();
+            std::string shown = mark + std::to_string(i + 1) + " " + source(parameter) + " " +
+                                parameter.type.text();
             if (parameter.how != Conversion::None) {
                 shown +=
                     (parameter.how == Conversion::Assign ? " into " : " as ") + parameter.to.text();
@@ -70,6 +70,8 @@ private:
         case ShownValue::Kind::Null: return "NULL";
         case ShownValue::Kind::Cell: return std::to_string(value.place);
         case ShownValue::Kind::Constant: return "!" + std::to_string(value.place + 1);
+        case ShownValue::Kind::Number: return "#" + std::to_string(value.place);
+        case ShownValue::Kind::Step: return "step";
         case ShownValue::Kind::Within: return "within(" + shown(order, value.otherwise) + ")";
         case ShownValue::Kind::Choice: break;
         }
@@ -92,6 +94,16 @@ private:
             line("running " + running(value));
         }
         parameters("!", order.constants);
+        if (!order.steps.empty()) {
+            std::string steps = "in steps";
+            for (const std::int64_t step : order.steps) {
+                steps += " " + std::to_string(step);
+            }
+            line(steps);
+        }
+        if (order.condition >= 0) {
+            line("where " + shown(order, order.condition) + "=#1");
+        }
         std::string columns = "showing";
         for (const int number : order.shown) {
             columns += " " + shown(order, number);

@@ -91,6 +91,8 @@ private:
                            RowSink& sink);
     // The same for rows that are ordered here and not by SQLite.
     std::int64_t run_ordered(const tsql::SqlQuery& query, RowSink& sink);
+    std::int64_t show_rows(const tsql::SqlQuery& query, const OrderedRows& rows,
+                           const std::vector<OwnedValue>& constants, RowSink& sink);
     // Runs a text that gives no rows wanted and returns the rows it changed.
     std::int64_t run_text(const tsql::SqlText& text, StatementVerb verb);
     // The single cell of a text, null when there is no row.

@@ -261,6 +261,11 @@ RowCell OrderedRows::cell(std::size_t row, std::size_t column) const {
     return cell;
 }
 
+bool OrderedRows::continues(std::size_t row) const {
+    return row > 0 &&
+           compare_rows(shown_[row - 1], shown_[row], order_->descending.size()) == 0;
+}
+
 std::size_t OrderedRows::bytes() const {
     return kinds_.capacity() + values_.capacity() * sizeof(std::int64_t) + texts_.capacity() +
            shown_.capacity() * sizeof(std::uint32_t) + run_kinds_.capacity() +

@@ -41,6 +41,8 @@ public:
     std::size_t rows() const { return rows_; }
     // Columns from `cells` on are the running values.
     RowCell cell(std::size_t row, std::size_t column) const;
+    // Whether the keys of a row are those of the row before.
+    bool continues(std::size_t row) const;
     std::size_t bytes() const;
 
 private:

@@ -138,19 +138,37 @@ std::int64_t Executor::run_ordered(const tsql::SqlQuery& query, RowSink& sink) {
         use_parameter(parameter, [&](const Stored& value, const tsql::Type&) {
             constants.emplace_back(value);
         });
-    const ShownRow shown(*query.order, *rows, constants);
-    std::vector<Stored> cells(query.columns.size());
     sink.begin(query.columns);
-    std::size_t row = 0;
-    for (; row < rows->rows(); ++row) {
-        check_interrupted();
-        for (std::size_t i = 0; i < cells.size(); ++i)
-            cells[i] = shown.value(row, i, query.columns[i].type);
-        if (!sink.row(cells)) break;
-    }
+    const std::int64_t count = show_rows(query, *rows, constants, sink);
     sink.end();
     if (rows->bytes() <= most_spare_bytes) spare_rows_ = std::move(rows);
-    return static_cast<std::int64_t>(row);
+    return count;
+}
+
+std::int64_t Executor::show_rows(const tsql::SqlQuery& query, const OrderedRows& rows,
+                                 const std::vector<OwnedValue>& constants, RowSink& sink) {
+    ShownRow shown(*query.order, rows, constants);
+    std::vector<Stored> cells(query.columns.size());
+    std::vector<std::int64_t> steps = query.order->steps;
+    if (steps.empty()) steps.push_back(0);
+    std::int64_t count = 0;
+    for (std::size_t first = 0, last = 0; first < rows.rows(); first = last) {
+        // Rows with equal keys take each step together.
+        for (last = first + 1; steps.size() > 1 && last < rows.rows() && rows.continues(last);)
+            ++last;
+        for (const std::int64_t step : steps) {
+            shown.take(step);
+            for (std::size_t row = first; row < last; ++row) {
+                if (!shown.is_wanted(row)) continue;
+                check_interrupted();
+                for (std::size_t i = 0; i < cells.size(); ++i)
+                    cells[i] = shown.value(row, i, query.columns[i].type);
+                ++count;
+                if (!sink.row(cells)) return count;
+            }
+        }
+    }
+    return count;
 }
 
 std::int64_t Executor::run_text(const tsql::SqlText& text, StatementVerb verb) {

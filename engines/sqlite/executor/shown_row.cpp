@@ -14,6 +14,13 @@ bool equal_numbers(const RowCell& left, const RowCell& right) {
            left.integer == right.integer;
 }
 
+RowCell cell_of_number(std::int64_t number) {
+    RowCell cell;
+    cell.kind = Kind::integer;
+    cell.integer = number;
+    return cell;
+}
+
 RowCell cell_of_constant(const OwnedValue& constant) {
     const Stored value = constant.get();
     RowCell cell;
@@ -51,6 +58,8 @@ RowCell ShownRow::evaluate(std::size_t row, int number) const {
     case tsql::ShownValue::Kind::Cell:
         return rows_.cell(row, static_cast<std::size_t>(value.place));
     case tsql::ShownValue::Kind::Constant: return constants_[static_cast<std::size_t>(value.place)];
+    case tsql::ShownValue::Kind::Number: return cell_of_number(value.place);
+    case tsql::ShownValue::Kind::Step: return cell_of_number(step_);
     case tsql::ShownValue::Kind::Choice:
         for (const tsql::ShownValue::Branch& branch : value.branches)
             if (equal_numbers(evaluate(row, branch.left), evaluate(row, branch.right)))
@@ -65,6 +74,11 @@ RowCell ShownRow::evaluate(std::size_t row, int number) const {
     }
     }
     return {};
+}
+
+bool ShownRow::is_wanted(std::size_t row) const {
+    return order_.condition < 0 ||
+           equal_numbers(evaluate(row, order_.condition), cell_of_number(1));
 }
 
 Stored ShownRow::value(std::size_t row, std::size_t column, const tsql::Type& type) const {

@@ -15,7 +15,11 @@ public:
     ShownRow(const tsql::RowOrder& order, const OrderedRows& rows,
              const std::vector<OwnedValue>& constants);
 
-    // The value of a shown column at a row, read as the type says. Error 8115 where it is too large.
+    // The step that is being taken.
+    void take(std::int64_t step) { step_ = step; }
+    // Whether the row is shown at this step.
+    bool is_wanted(std::size_t row) const;
+    // The value of a shown column at a row, read as the type says. Error 8115 when too large.
     Stored value(std::size_t row, std::size_t column, const tsql::Type& type) const;
 
 private:
@@ -27,6 +31,7 @@ private:
     const tsql::RowOrder& order_;
     const OrderedRows& rows_;
     std::vector<RowCell> constants_;
+    std::int64_t step_ = 0;
 };
 
 } // namespace engines

@@ -36,8 +36,8 @@ Fragment plain(std::string text, const Type& to) {
     return fragment;
 }
 
-// A whole number is written as SQLite writes it. Where the text may be too short for a few of them a
-// column is looked at first; anything else would be worked out twice.
+// A whole number is written as SQLite writes it. Where the text may be too short for a few of them
+// a column is looked at first; anything else would be worked out twice.
 std::string whole_as_text(const Fragment& value, const Type& from, const Type& to, int style) {
     const bool known = from.is_integer() && style == 0 &&
                        (to.kind == TypeKind::VarChar || to.kind == TypeKind::NVarChar);

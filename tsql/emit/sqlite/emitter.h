@@ -145,7 +145,11 @@ private:
     // ---- rows put in order by the engine (running.cpp, shown.cpp)
     bool running_query(const BoundQuery& query, RowOrder& order, std::string& text);
     // Each answers the number of the value or cell, -1 when it cannot be made this way.
+    bool shown_columns(const BoundSelect& select, RunningRows& rows);
     int shown_value(const BoundPtr& value, RunningRows& rows);
+    int shown_outside(const BoundColumn& column, const BoundPtr& value, RunningRows& rows);
+    int shown_condition(const BoundPtr& condition, RunningRows& rows);
+    int shown_logical(const BoundLogical& node, RunningRows& rows);
     int shown_choice(const BoundCase& node, RunningRows& rows);
     int shown_plain_choice(const BoundPtr& value, RunningRows& rows);
     int shown_conversion(const BoundConvert& node, RunningRows& rows);

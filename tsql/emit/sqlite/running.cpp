@@ -7,6 +7,7 @@
 #include "tsql/emit/sqlite/emitter.h"
 
 #include <algorithm>
+#include <string>
 
 namespace tsql::sqlite {
 
@@ -36,20 +37,32 @@ int place_of(const BoundPtr& column, const std::vector<RunningKey>& keys) {
     return found == keys.end() ? -1 : static_cast<int>(found - keys.begin());
 }
 
-// The order of the query; a column named again changes nothing.
-bool keys_of(const BoundQuery& query, const BoundSelect& select, std::vector<RunningKey>& keys) {
+bool is_column_of(const BoundPtr& value, const RangeTable* table) {
+    return value && value->kind == BoundKind::Column &&
+           static_cast<const BoundColumn&>(*value).table == table;
+}
+
+// The order of the query; a column named again changes nothing. Steps come last and upwards.
+bool keys_of(const BoundQuery& query, const BoundSelect& select, RunningRows& rows) {
     for (const BoundOrder& order : query.order) {
-        const BoundPtr& value =
+        const BoundPtr& named =
             order.item >= 0 ? select.items[static_cast<std::size_t>(order.item)].expression
                             : order.expression;
+        if (rows.steps != nullptr && &order == &query.order.back()) {
+            return is_column_of(named, rows.steps) && !order.descending;
+        }
+        if (rows.steps != nullptr && !is_column_of(named, rows.table)) {
+            return false;
+        }
+        const BoundPtr& value = behind(named, rows.table);
         if (!may_be_key(value)) {
             return false;
         }
-        if (place_of(value, keys) < 0) {
-            keys.push_back({value, order.descending});
+        if (place_of(value, rows.keys) < 0) {
+            rows.keys.push_back({value, order.descending});
         }
     }
-    return true;
+    return rows.steps == nullptr;
 }
 
 // The first keys must be the columns of the partition in any order; where there are fewer keys the
@@ -138,6 +151,28 @@ bool runs_along(const BoundAggregate& node) {
            node.type.kind != TypeKind::Int && runs_to_here(node);
 }
 
+// A list of numbers that grow from row to row and are the plan's own.
+bool are_steps(const RangeTable& table, std::vector<std::int64_t>& steps) {
+    if (table.kind != RangeKind::Values || table.columns.size() != 1) {
+        return false;
+    }
+    for (const auto& row : table.rows) {
+        const auto* literal = row[0]->kind == BoundKind::Literal
+                                  ? static_cast<const BoundLiteral*>(row[0].get())
+                                  : nullptr;
+        if (literal == nullptr || literal->constant < 0 || literal->digits() > 9 ||
+            literal->literal != LiteralKind::Integer) {
+            return false;
+        }
+        const std::int64_t step = std::stoll(literal->text);
+        if (!steps.empty() && step <= steps.back()) {
+            return false;
+        }
+        steps.push_back(step);
+    }
+    return true;
+}
+
 bool is_plain(const BoundQuery& query) {
     if (query.body->kind != BoundBodyKind::Select || query.offset || query.fetch) {
         return false;
@@ -146,7 +181,52 @@ bool is_plain(const BoundQuery& query) {
     return !select.distinct && !select.top && !select.grouped && !select.from.empty();
 }
 
+const BoundQuery* query_behind(const RangeTable& table) {
+    if (table.kind == RangeKind::Query) {
+        return table.query.get();
+    }
+    return table.kind == RangeKind::Common && !table.common->recursive ? table.common->query.get()
+                                                                       : nullptr;
+}
+
+// FROM a table with windows CROSS JOIN a list of steps: answers the query of the table. The table
+// must be the only one of its statement, since its text is not read as a table any more.
+const BoundQuery* stepped_query(const BoundQuery& query, RunningRows& rows) {
+    const auto& select = static_cast<const BoundSelect&>(*query.body);
+    const BoundSource& source = *select.from[0];
+    if (select.from.size() != 1 || source.kind != SourceKind::Join ||
+        source.join != JoinKind::Cross || source.left->kind != SourceKind::Table ||
+        source.right->kind != SourceKind::Table) {
+        return nullptr;
+    }
+    const RangeTable& table = *source.left->table;
+    const BoundQuery* inner = query_behind(table);
+    const std::size_t named = table.kind == RangeKind::Common ? 1 : 0;
+    if (inner == nullptr || query.with.size() != named || !inner->with.empty() ||
+        !inner->order.empty() || !is_plain(*inner) ||
+        !are_steps(*source.right->table, rows.order.steps)) {
+        return nullptr;
+    }
+    rows.table = &table;
+    rows.steps = source.right->table.get();
+    return inner;
+}
+
+void windows_of(const BoundSelect& select, std::vector<const BoundAggregate*>& out) {
+    for (const BoundItem& item : select.items) {
+        collect_windows(item.expression, out);
+    }
+}
+
 } // namespace
+
+const BoundPtr& behind(const BoundPtr& value, const RangeTable* table) {
+    if (table == nullptr || !is_column_of(value, table)) {
+        return value;
+    }
+    const auto place = static_cast<std::size_t>(static_cast<const BoundColumn&>(*value).ordinal);
+    return static_cast<const BoundSelect&>(*query_behind(*table)->body).items[place].expression;
+}
 
 void collect_windows(const BoundPtr& value, std::vector<const BoundAggregate*>& out) {
     if (!value) {
@@ -184,13 +264,18 @@ bool Emitter::running_query(const BoundQuery& query, RowOrder& order, std::strin
     if (!is_plain(query)) {
         return false;
     }
-    const auto& select = static_cast<const BoundSelect&>(*query.body);
-    std::vector<const BoundAggregate*> windows;
-    for (const BoundItem& item : select.items) {
-        collect_windows(item.expression, windows);
-    }
     RunningRows rows;
-    if (windows.empty() || !keys_of(query, select, rows.keys)) {
+    const auto& shown = static_cast<const BoundSelect&>(*query.body);
+    const BoundQuery* inner = stepped_query(query, rows);
+    const auto& select =
+        inner == nullptr ? shown : static_cast<const BoundSelect&>(*inner->body);
+    std::vector<const BoundAggregate*> outside;
+    std::vector<const BoundAggregate*> windows;
+    windows_of(shown, inner == nullptr ? windows : outside);
+    if (inner != nullptr) {
+        windows_of(select, windows);
+    }
+    if (windows.empty() || !outside.empty() || !keys_of(query, shown, rows)) {
         return false;
     }
     for (const BoundAggregate* node : windows) {
@@ -201,21 +286,11 @@ bool Emitter::running_query(const BoundQuery& query, RowOrder& order, std::strin
     }
     force_order_ = query.force_order;
     // Tables first: what derived tables give decides how their columns are read.
-    const std::string with = with_clause(query.with);
+    const std::string with = inner == nullptr ? with_clause(query.with) : "";
     const std::string tail =
         from_text(select.from) + (select.where ? " WHERE " + condition(select.where) : "");
-    for (const RunningKey& key : rows.keys) {
-        if (narrow_cell(key.column, rows) < 0) {
-            return false;
-        }
-        rows.order.descending.push_back(key.descending);
-    }
-    for (const BoundItem& item : select.items) {
-        const int number = shown_value(item.expression, rows);
-        if (number < 0) {
-            return false;
-        }
-        rows.order.shown.push_back(number);
+    if (!shown_columns(shown, rows)) {
+        return false;
     }
     std::string list;
     for (const Fragment& cell : rows.cells) {
@@ -228,6 +303,28 @@ bool Emitter::running_query(const BoundQuery& query, RowOrder& order, std::strin
     }
     order = std::move(rows.order);
     text = with + list + tail;
+    return true;
+}
+
+bool Emitter::shown_columns(const BoundSelect& select, RunningRows& rows) {
+    for (const RunningKey& key : rows.keys) {
+        if (narrow_cell(key.column, rows) < 0) {
+            return false;
+        }
+        rows.order.descending.push_back(key.descending);
+    }
+    rows.outside = rows.table != nullptr;
+    for (const BoundItem& item : select.items) {
+        const int number = shown_value(item.expression, rows);
+        if (number < 0) {
+            return false;
+        }
+        rows.order.shown.push_back(number);
+    }
+    if (rows.outside && select.where) {
+        rows.order.condition = shown_condition(select.where, rows);
+        return rows.order.condition >= 0;
+    }
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include "tsql/plan/plan.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tsql::sqlite {
@@ -20,6 +21,12 @@ struct RunningKey {
 // gathered a running value goes by -1, -2 … in place of its column, since the columns before it are
 // not counted yet.
 struct RunningRows {
+    // Of a query that joins a table with windows to a list of steps: these two. Then `outside` says
+    // whether what is looked at belongs to the query around that table.
+    const RangeTable* table = nullptr;
+    const RangeTable* steps = nullptr;
+    bool outside = false;
+
     std::vector<RunningKey> keys;
     std::vector<BoundPtr> values; // by column of the text
     std::vector<Fragment> cells;  // likewise
@@ -36,7 +43,27 @@ struct RunningRows {
         value.place = place;
         return add(std::move(value));
     }
+    // Whether a value is a column of the text that holds decimals in their 16 bytes.
+    bool is_wide(int number) const {
+        const ShownValue& value = order.values[static_cast<std::size_t>(number)];
+        return value.kind == ShownValue::Kind::Cell && value.place >= 0 &&
+               cells[static_cast<std::size_t>(value.place)].form == Form::Wide;
+    }
+    // left = right ? then : otherwise; -1 when one of them could not be made.
+    int choose(int left, int right, int then, int otherwise) {
+        if (left < 0 || right < 0 || then < 0 || otherwise < 0) {
+            return -1;
+        }
+        ShownValue choice;
+        choice.kind = ShownValue::Kind::Choice;
+        choice.branches.push_back({left, right, then});
+        choice.otherwise = otherwise;
+        return add(std::move(choice));
+    }
 };
+
+// What a column of the table with windows stands for; anything else as it is.
+const BoundPtr& behind(const BoundPtr& value, const RangeTable* table);
 
 // The windows of an expression, those of its subqueries left out.
 void collect_windows(const BoundPtr& value, std::vector<const BoundAggregate*>& out);

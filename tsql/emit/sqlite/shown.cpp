@@ -103,12 +103,16 @@ int Emitter::shown_value(const BoundPtr& value, RunningRows& rows) {
     if (const int constant = shown_constant(value, rows); constant >= 0) {
         return constant;
     }
+    if (rows.outside && value->kind == BoundKind::Column) {
+        return shown_outside(static_cast<const BoundColumn&>(*value), value, rows);
+    }
     if (value->kind == BoundKind::Aggregate && has_window(value)) {
         return shown_window(static_cast<const BoundAggregate&>(*value), rows);
     }
-    if (!has_window(value)) {
+    if (!rows.outside && !has_window(value)) {
         if (rows.conditional == 0) {
-            const int choice = value->kind == BoundKind::Case ? shown_plain_choice(value, rows) : -1;
+            const bool chosen = value->kind == BoundKind::Case;
+            const int choice = chosen ? shown_plain_choice(value, rows) : -1;
             return choice >= 0 ? choice : rows.add(ShownValue::Kind::Cell, cell_of(value, rows));
         }
         // A branch that is not reached must not be worked out, lest it fail; a column cannot.
@@ -126,6 +130,61 @@ int Emitter::shown_value(const BoundPtr& value, RunningRows& rows) {
         return shown_conversion(static_cast<const BoundConvert&>(*value), rows);
     }
     return -1;
+}
+
+// A column as the query around the table with windows names it. The table's rows are worked out
+// whole, so that nothing depends on which branch asks for the column.
+int Emitter::shown_outside(const BoundColumn& column, const BoundPtr& value, RunningRows& rows) {
+    if (column.table == rows.steps) {
+        return rows.add(ShownValue::Kind::Step, 0);
+    }
+    if (column.table != rows.table) {
+        return -1;
+    }
+    const int conditional = std::exchange(rows.conditional, 0);
+    rows.outside = false;
+    const int number = shown_value(behind(value, rows.table), rows);
+    rows.outside = true;
+    rows.conditional = conditional;
+    // Choices compare whole numbers; one in its 16 bytes is none.
+    return number >= 0 && rows.is_wide(number) ? -1 : number;
+}
+
+// 1 where the condition holds; where it is unknown the row is left out like where it is false.
+int Emitter::shown_condition(const BoundPtr& condition, RunningRows& rows) {
+    if (condition->kind == BoundKind::Logical) {
+        return shown_logical(static_cast<const BoundLogical&>(*condition), rows);
+    }
+    const int yes = rows.add(ShownValue::Kind::Number, 1);
+    const int no = rows.add(ShownValue::Kind::Number, 0);
+    if (condition->kind == BoundKind::Comparison) {
+        const auto& node = static_cast<const BoundComparison&>(*condition);
+        if (node.op != ComparisonOperator::Equal || !are_numbers(node.left, node.right)) {
+            return -1;
+        }
+        const int scale = std::max(node.left->type.stored_scale(), node.right->type.stored_scale());
+        return rows.choose(shown_operand(node.left, scale, rows),
+                           shown_operand(node.right, scale, rows), yes, no);
+    }
+    if (condition->kind == BoundKind::IsNull) {
+        // Only NULL is not equal to itself.
+        const auto& node = static_cast<const BoundUnary&>(*condition);
+        const int operand = node.operand->type.is_exact() ? shown_value(node.operand, rows) : -1;
+        return rows.choose(operand, operand, node.negated ? yes : no, node.negated ? no : yes);
+    }
+    return -1;
+}
+
+int Emitter::shown_logical(const BoundLogical& node, RunningRows& rows) {
+    const bool all = node.op == LogicalOperator::And;
+    const int yes = rows.add(ShownValue::Kind::Number, 1);
+    const int no = rows.add(ShownValue::Kind::Number, 0);
+    int rest = all ? yes : no;
+    for (std::size_t i = node.operands.size(); i-- > 0;) {
+        const int one = shown_condition(node.operands[i], rows);
+        rest = rows.choose(one, yes, all ? rest : yes, all ? no : rest);
+    }
+    return rest;
 }
 
 int Emitter::shown_choice(const BoundCase& node, RunningRows& rows) {

@@ -14,7 +14,7 @@ bool has_outer_right(const BoundSource& source) {
             has_outer_right(*source.left) || has_outer_right(*source.right));
 }
 
-// SQLite takes the tables of a CROSS JOIN in the order they are written, those of others as it likes.
+// SQLite takes the tables of a CROSS JOIN in the order they are written, others as it likes.
 constexpr const char* fixed_join = " CROSS JOIN ";
 
 bool is_inner(JoinKind kind) {
