@@ -44,7 +44,7 @@ void press(const std::string& name) {
 void press_from(std::shared_ptr<std::vector<std::string>> keys, std::size_t at,
                 const std::function<void()>& then) {
     QTimer::singleShot(settle, qApp, [keys, at, then] {
-        if (at == keys->size()) return then();
+        if (at == keys->size()) return QTimer::singleShot(settle, qApp, then);
         press_from(keys, at + 1, then); // first: the key may open a modal loop
         press((*keys)[at]);
     });

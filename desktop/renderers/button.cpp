@@ -12,7 +12,8 @@ namespace {
 // "F2" of "确定 F2": a caption that names its key has it drawn as every other button has.
 QString key_at_end(const QString& caption) {
     static const QRegularExpression key(QStringLiteral(" (F\\d{1,2}|ESC)$"));
-    return key.match(caption).captured(1);
+    const QString found = key.match(caption).captured(1);
+    return found == "ESC" ? QStringLiteral("Esc") : found;
 }
 
 } // namespace
@@ -27,7 +28,8 @@ QWidget* draw_button(host::TButton& button, FormView& view) {
         QString hint = qt(button.KeyHint);
         if (hint.isEmpty()) hint = key_at_end(caption);
         // A caption that already ends with its key ("登帐 F2") shows it once.
-        if (!hint.isEmpty() && caption.endsWith(" " + hint)) caption.chop(hint.size() + 1);
+        if (!hint.isEmpty() && caption.endsWith(" " + hint, Qt::CaseInsensitive))
+            caption.chop(hint.size() + 1);
         // The button that does what the dialog is for stands out, also where Enter goes on instead.
         const bool filled = button.Default || button.Name() == "btn_ok";
         widget->set_look(filled ? ButtonLook::Primary : ButtonLook::Plain);

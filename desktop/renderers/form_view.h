@@ -22,6 +22,8 @@ namespace desktop {
 
 // What a widget does with a key: leaves it to the form, takes it, or has already acted on it.
 enum class OwnKey { No, Yes, Used };
+// A label in a row of fields; beside conditions or in the line at the bottom; holding a formula.
+enum class LabelLook { Plain, Quiet, Formula };
 inline OwnKey own_when(bool takes) {
     return takes ? OwnKey::Yes : OwnKey::No;
 }
@@ -47,9 +49,9 @@ public:
     // Widgets that take keys for themselves (text, lists) say which; absent: none.
     using OwnKeys = std::function<OwnKey(const host::Key&)>;
     void set_own_keys(const host::TWinControl& control, OwnKeys own);
-    // Labels drawn while this is on stand beside conditions or in the line at the bottom.
-    void set_quiet(bool quiet) { quiet_ = quiet; }
-    bool quiet() const { return quiet_; }
+    // How the labels look that are drawn from now on.
+    void set_label_look(LabelLook look) { label_look_ = look; }
+    LabelLook label_look() const { return label_look_; }
     // Run once when the form goes, before the view does.
     void at_release(std::function<void()> action) { release_actions_.push_back(std::move(action)); }
     // Run after every event, before the focus is looked at.
@@ -88,7 +90,7 @@ private:
     std::vector<std::pair<host::TComponent*, int>> handles_;
     std::vector<std::function<void()>> release_actions_, after_actions_;
     bool syncing_ = false, replaying_ = false;
-    bool quiet_ = false;
+    LabelLook label_look_ = LabelLook::Plain;
 };
 
 } // namespace desktop

@@ -57,13 +57,14 @@ protected:
 };
 
 // Labels beside a line of conditions or at the bottom of a form are as small as those are.
-QFont font_of(const host::TLabel& label, bool quiet) {
-    return quiet ? fonts::small(label.Bold) : fonts::body(label.Bold);
+QFont font_of(const host::TLabel& label, LabelLook look) {
+    if (look == LabelLook::Formula) return fonts::formula();
+    return look == LabelLook::Quiet ? fonts::small(label.Bold) : fonts::body(label.Bold);
 }
 
-QColor ink_of(const host::TLabel& label, bool quiet) {
+QColor ink_of(const host::TLabel& label, LabelLook look) {
     if (label.OnClick) return token::indigo_1;
-    return quiet ? token::ink_2 : token::ink_1;
+    return look == LabelLook::Quiet ? token::ink_2 : token::ink_1;
 }
 
 } // namespace
@@ -74,15 +75,16 @@ QWidget* draw_label(host::TLabel& label, FormView& view) {
                              : new TextLabel(&view);
     widget->setTextFormat(Qt::PlainText);
     if (condition) widget->setProperty("keeps room", true);
-    view.listen(label, [widget, &label, condition, quiet = condition || view.quiet()] {
+    const LabelLook look = condition ? LabelLook::Quiet : view.label_look();
+    view.listen(label, [widget, &label, condition, look] {
         widget->setText(qt(label.Caption.get()));
         if (!condition) {
-            QFont font = font_of(label, quiet);
+            QFont font = font_of(label, look);
             font.setUnderline(static_cast<bool>(label.OnClick));
             widget->setFont(font);
         }
         QPalette ink = widget->palette();
-        ink.setColor(QPalette::WindowText, token::of(label.FontColor, ink_of(label, quiet)));
+        ink.setColor(QPalette::WindowText, token::of(label.FontColor, ink_of(label, look)));
         widget->setPalette(ink);
         widget->setToolTip(qt(label.Hint.get()));
         // An empty label takes no room, unless its place is the rest of a line.

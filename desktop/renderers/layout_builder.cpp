@@ -93,8 +93,10 @@ void add_cell_band(const LayoutNode& node, QVBoxLayout& bands, FormView& view) {
     auto* row = new QHBoxLayout(band);
     row->setContentsMargins(0, 0, 12, 0);
     row->setSpacing(token::gap);
-    const LayoutPlace place{view};
+    LayoutPlace place{view};
+    place.formula = true;
     for (const LayoutNode& part : node.children) {
+        place.quiet = part.kind == Kind::Control && &part == &node.children.back();
         add_node(part, *row, place);
         if (&part != &node.children.front()) continue;
         if (auto* name = qobject_cast<QLabel*>(row->itemAt(0)->widget())) {

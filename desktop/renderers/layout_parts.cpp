@@ -67,9 +67,12 @@ void fit_label(const LayoutNode& node, QWidget& widget, const LayoutPlace& place
 }
 
 QWidget* draw_in_place(const LayoutNode& node, const LayoutPlace& place) {
-    place.view.set_quiet(place.quiet);
+    const bool formula = place.formula && node.width < 0;
+    place.view.set_label_look(formula       ? LabelLook::Formula
+                              : place.quiet ? LabelLook::Quiet
+                                            : LabelLook::Plain);
     QWidget* widget = draw_control(*node.control, place.view);
-    place.view.set_quiet(false);
+    place.view.set_label_look(LabelLook::Plain);
     fit_label(node, *widget, place);
     give_width(node, *widget);
     return widget;

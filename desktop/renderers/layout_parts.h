@@ -17,6 +17,7 @@ struct LayoutPlace {
     int label_width = 0;   // of the first label of a row; 0 natural
     bool in_rows = false;  // directly below others, so labels line up
     bool quiet = false;    // in the line at the bottom, or beside the conditions of a list
+    bool formula = false;  // in the line about a cell: its rest holds the cell's formula
     int label_height = 0;  // least height of a label that stands in a row; 0 natural
 };
 

@@ -27,6 +27,12 @@ QFont serif(int pixels) {
 
 QFont body(bool bold) { return sans(13, bold); }
 QFont small(bool bold) { return sans(12, bold); }
+QFont formula() {
+    QFont font = sans(13, false);
+    font.setFamilies({"Noto Sans Mono CJK SC", "Source Code Pro", "Consolas", "Menlo", "monospace"});
+    font.setStyleHint(QFont::Monospace);
+    return font;
+}
 QFont tiny() { return sans(11, false); }
 QFont money() { return sans(15, false); }
 QFont digits(bool bold) { return sans(14, bold); }

@@ -100,6 +100,19 @@ TEST(Statement, the_formula_of_the_cell_under_the_hand_is_shown) {
     EXPECT_FALSE(desk.shows("D2"));
 }
 
+TEST(Statement, the_line_about_a_cell_keeps_its_places_where_there_is_no_formula) {
+    StatementDesk desk;
+    auto* formula = desk.window().findChild<QLabel*>("LA4");
+    ASSERT_NE(formula, nullptr);
+    EXPECT_EQ(formula->font().families().front(), "Noto Sans Mono CJK SC");
+    desk.click_cell(1, 3);
+    const int left = formula->mapTo(&desk.window(), QPoint()).x();
+    desk.click_cell(1, 0);
+    EXPECT_FALSE(desk.shows(cash));
+    EXPECT_EQ(formula->mapTo(&desk.window(), QPoint()).x(), left);
+    EXPECT_TRUE(formula->isVisible());
+}
+
 TEST(Statement, a_long_formula_leaves_the_window_its_width) {
     StatementDesk desk;
     desk.choose(QStringLiteral("显示公式"));
