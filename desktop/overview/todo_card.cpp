@@ -56,6 +56,12 @@ QString TodoCard::hint() const {
 QString TodoCard::right_hint() const { return QStringLiteral("↑↓ 选择    Enter 打开"); }
 
 void TodoCard::paint_body(QPainter& painter, const QRect& body) {
+    if (items_.empty()) {
+        painter.setFont(fonts::body());
+        painter.setPen(token::ink_3);
+        painter.drawText(body, Qt::AlignCenter, QStringLiteral("没有待办"));
+        return;
+    }
     for (int i = 0; i < static_cast<int>(items_.size()); ++i) {
         const Item& item = items_[static_cast<std::size_t>(i)];
         const QRect line(body.x(), body.y() + i * row, body.width(), row);

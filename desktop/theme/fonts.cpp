@@ -29,7 +29,7 @@ QFont body(bool bold) { return sans(13, bold); }
 QFont small(bool bold) { return sans(12, bold); }
 QFont formula() {
     QFont font = sans(13, false);
-    font.setFamilies({"Noto Sans Mono CJK SC", "Source Code Pro", "Consolas", "Menlo", "monospace"});
+    font.setFamilies({"Noto Sans Mono CJK SC", "Consolas", "Menlo", "monospace"});
     font.setStyleHint(QFont::Monospace);
     return font;
 }
