@@ -112,9 +112,28 @@ std::string sort_key(const std::u32string& text, CharacterNumbers& ranks) {
     return key;
 }
 
+// Ranks of keys that compare as bytes do.
+template <typename Key> std::vector<std::uint32_t> ranks_of(const std::vector<Key>& keys) {
+    std::vector<std::uint32_t> order(keys.size());
+    std::iota(order.begin(), order.end(), 0U);
+    std::sort(order.begin(), order.end(), [&](auto a, auto b) { return keys[a] < keys[b]; });
+    std::vector<std::uint32_t> rank(keys.size());
+    for (std::size_t i = 1; i < order.size(); ++i)
+        rank[order[i]] = rank[order[i - 1]] + (keys[order[i]] != keys[order[i - 1]] ? 1 : 0);
+    return rank;
+}
+
+// As most codes are. Digits order as their bytes do.
+bool only_digits(const std::vector<std::string_view>& texts) {
+    return std::all_of(texts.begin(), texts.end(), [](std::string_view text) {
+        return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+    });
+}
+
 } // namespace
 
 std::vector<std::uint32_t> pinyin_ranks(const std::vector<std::string_view>& texts) {
+    if (only_digits(texts)) return ranks_of(texts);
     std::unordered_map<std::string_view, std::uint32_t> number_of;
     std::vector<std::uint32_t> number(texts.size());
     std::vector<std::u32string> different;
@@ -131,12 +150,7 @@ std::vector<std::uint32_t> pinyin_ranks(const std::vector<std::string_view>& tex
         keys.push_back(sort_key(text, characters));
         text = {};
     }
-    std::vector<std::uint32_t> order(keys.size());
-    std::iota(order.begin(), order.end(), 0U);
-    std::sort(order.begin(), order.end(), [&](auto a, auto b) { return keys[a] < keys[b]; });
-    std::vector<std::uint32_t> rank(keys.size());
-    for (std::size_t i = 1; i < order.size(); ++i)
-        rank[order[i]] = rank[order[i - 1]] + (keys[order[i]] != keys[order[i - 1]] ? 1 : 0);
+    const std::vector<std::uint32_t> rank = ranks_of(keys);
     for (std::uint32_t& value : number) value = rank[value];
     return number;
 }

@@ -92,6 +92,17 @@ TEST(Sort, asked_for_again_takes_in_what_was_typed_since) {
     EXPECT_EQ(column(rows, "N"), (Texts{"9", "3", "2", "0"}));
 }
 
+TEST(PinyinOrder, codes_of_digits_have_the_ranks_they_have_among_other_texts) {
+    const std::vector<std::string_view> codes = {"1101", "11", "2", "1002", "", "11", "1101001",
+                                                 "9", "10"};
+    std::vector<std::string_view> mixed = codes;
+    mixed.push_back("银行");
+    std::vector<std::uint32_t> among_others = pinyin_ranks(mixed);
+    among_others.pop_back();
+    EXPECT_EQ(pinyin_ranks(codes), among_others);
+    EXPECT_EQ(among_others[1], among_others[5]);
+}
+
 TEST(PinyinOrder, the_same_text_in_another_case_has_the_same_rank) {
     const auto ranks = pinyin_ranks({"abc", "ABC", "b"});
     EXPECT_EQ(ranks[0], ranks[1]);
