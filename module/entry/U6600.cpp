@@ -11,8 +11,9 @@
 #include "module/masterdata/U6681.h"
 #include "module/masterdata/U6682.h"
 #include "module/masterdata/U6683.h"
-#include "module/opening.h"
+#include "module/masterdata/U6687.h"
 #include "module/masterdata/U6691.h"
+#include "module/opening.h"
 #include "module/period/U6667.h"
 #include "module/period/U6668.h"
 #include "module/period/U6699.h"
@@ -62,6 +63,7 @@ constexpr Function functions[] = {
     {684, modeless<TF6684, F6684>}, // 科目汇总表
     {685, modeless<TF6685, F6685>}, // 明细分类帐
     {686, modeless<TF6686, F6686>}, // 总分类帐
+    {687, modeless<TF6687, F6687>}, // 收支类别
     {689, modeless<TF6689, F6689>}, // 试算平衡表
     {690, modeless<TF6690, F6690>}, // 现金,银行存款日记帐
     {691, modeless<TF6691, F6691>}, // 现金流量项目

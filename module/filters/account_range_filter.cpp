@@ -2,7 +2,7 @@
 #include "module/filters/account_range_filter.h"
 
 #include "host/contract/U_linkedit.h"
-#include "module/masterdata/ULINK_6801.h"
+#include "module/masterdata/Ulink_6801.h"
 
 namespace module {
 namespace {

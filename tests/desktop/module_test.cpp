@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QLabel>
 
 #include "desktop/theme/text.h"
 #include "host/contract/U_glo.h"
@@ -78,6 +79,16 @@ struct BooksDesk : Desk {
                      {"11", "经营活动现金流入", "流入", "1"}});
         data.answer("select * From d6803", {"GUID text", "ZY text", "PYM text"},
                     {{"G1", "收货款", "SHK"}});
+        data.answer("SELECT D6804.*, V6801.KM_NAME_NEW,CASE SZLB_CLASS",
+                    {"SZLB_CLASS int", "SZLB text", "SZLB_NAME text", "PYM text", "KM_ID text",
+                     "T bit", "KM_NAME_NEW text", "SZLB_CLASSN text"},
+                    {{"0", "01", "存款利息", "CKLX", "550302", "1", "财务费用-利息收入",
+                      "收入类别"}});
+        data.answer("select * from D6804 where SZLB=", {"SZLB text"}, {});
+        data.answer("SELECT KM_ID,KM_NAME2,PYM FROM V6801", {"KM_ID text", "KM_NAME2 text"}, {});
+        data.answer("SELECT KM_ID,KM_NAME_NEW FROM V6801 WHERE KM_ID='550214'",
+                    {"KM_ID text", "KM_NAME_NEW text"},
+                    {{"550214", "管理费用-计提的存货跌价准备"}});
     }
     std::string active() const {
         const host::TForm* form = host::the_host().active;
@@ -220,13 +231,13 @@ TEST(ModuleForms, an_unfinished_voucher_is_refused_and_the_focus_stays) {
 
 TEST(ModuleForms, every_function_of_the_first_books_is_drawn) {
     BooksDesk desk;
-    for (int code : {661, 662, 681, 682, 683, 691}) {
+    for (int code : {661, 662, 681, 682, 683, 687, 691}) {
         const std::string text = std::to_string(code);
         desk.keys({"Ctrl+G", text.substr(0, 1), text.substr(1, 1), text.substr(2, 1), "Enter"});
         EXPECT_NE(host::the_host().active, nullptr) << code;
         desk.keep(text);
     }
-    EXPECT_EQ(host::the_host().forms.size(), 6u);
+    EXPECT_EQ(host::the_host().forms.size(), 7u);
 }
 
 TEST(ModuleForms, a_dialog_is_as_wide_as_its_longest_text) {
@@ -243,6 +254,32 @@ TEST(ModuleForms, a_dialog_is_as_wide_as_its_longest_text) {
     });
     desk.keys({"Insert"});
     EXPECT_EQ(checked, 1);
+}
+
+TEST(ModuleForms, a_category_is_entered_by_keys_alone_and_shows_its_accounts_full_name) {
+    BooksDesk desk;
+    desk.keys({"Ctrl+G", "6", "8", "7", "Enter"});
+    int names = 0;
+    desk.when_modal([&] {
+        desk.keys({"Down", "Down", "Tab", "2", "1", "Tab"});
+        desk.type("跌价");
+        desk.keys({"Tab", "5", "5", "0", "2", "1", "4", "Tab", "Space"});
+        for (auto* label : QApplication::activeModalWidget()->findChildren<QLabel*>()) {
+            if (desktop::utf8(label->text()) != "管理费用-计提的存货跌价准备") continue;
+            EXPECT_GE(label->width(), label->sizeHint().width());
+            ++names;
+        }
+        desk.keep("687_1");
+        desk.keys({"F2"});
+    });
+    desk.keys({"Insert"});
+    EXPECT_EQ(names, 1);
+    EXPECT_EQ(desk.messages, std::vector<std::string>{});
+    ASSERT_EQ(desk.data.executed().size(), 1U);
+    EXPECT_EQ(desk.data.executed()[0].batch,
+              "INSERT INTO D6804 (SZLB_CLASS,SZLB,SZLB_NAME, PYM,KM_ID,  T) ValueS(1,'21','跌价',"
+              "'DJ','550214',1)");
+    EXPECT_EQ(desk.active(), "TF6687");
 }
 
 TEST(ModuleForms, posting_stands_over_the_frame_until_it_is_left) {
