@@ -85,7 +85,8 @@ struct BooksDesk : Desk {
                     {{"0", "01", "存款利息", "CKLX", "550302", "1", "财务费用-利息收入",
                       "收入类别"}});
         data.answer("select * from D6804 where SZLB=", {"SZLB text"}, {});
-        data.answer("SELECT KM_ID,KM_NAME2,PYM FROM V6801", {"KM_ID text", "KM_NAME2 text"}, {});
+        data.answer("SELECT KM_ID,KM_NAME2,PYM FROM V6801 ORDER BY KM_ID",
+                    {"KM_ID text", "KM_NAME2 text"}, {});
         data.answer("SELECT KM_ID,KM_NAME_NEW FROM V6801 WHERE KM_ID='550214'",
                     {"KM_ID text", "KM_NAME_NEW text"},
                     {{"550214", "管理费用-计提的存货跌价准备"}});

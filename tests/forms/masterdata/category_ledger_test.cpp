@@ -116,7 +116,6 @@ TEST_F(CategoryLedger, a_category_that_a_document_uses_is_not_deleted) {
     EXPECT_EQ(books.value("SELECT COUNT(*) FROM D6804"), "2");
 }
 
-// The picker's search binds a caller's condition to the code alone; a category is given none.
 TEST_F(CategoryLedger, an_account_is_picked_by_code_name_or_pinyin) {
     anna.click("Act_Add");
     for (const char* typed : {"550302", "利息收入", "lxsr"}) {
@@ -128,6 +127,24 @@ TEST_F(CategoryLedger, an_account_is_picked_by_code_name_or_pinyin) {
         EXPECT_EQ(anna.control("KM_ID").at("display"), "财务费用-利息收入");
     }
     anna.click("btn_Cancel");
+}
+
+// What the picker asks where a caller wants assets alone: who types the name of another account
+// wants that account.
+TEST_F(CategoryLedger, an_account_that_a_condition_excludes_is_listed_when_found_by_name) {
+    const auto listed = [&](const std::string& typed) {
+        Codes codes;
+        for (const Row& row : books.table(
+                 "SELECT KM_ID,KM_NAME2 AS KM_NAME FROM V6801 where (1>0)  and KM_FL=1 and "
+                 "(KM_id like '%" + typed + "%') or(KM_NAME2 like '%" + typed + "%') or(pym like '%" +
+                 typed + "%') ")) {
+            codes.push_back(row.at("KM_ID"));
+        }
+        return codes;
+    };
+    EXPECT_EQ(listed("利息收入"), (Codes{"550302"})); // profit and loss, by name
+    EXPECT_EQ(listed("FKJSR"), (Codes{"530102"}));    // and by pinyin
+    EXPECT_EQ(listed("550302"), (Codes{}));           // by its code it stays out
 }
 
 } // namespace
