@@ -133,11 +133,11 @@ TEST_F(CategoryLedger, an_account_is_picked_by_code_name_or_pinyin) {
 // wants that account.
 TEST_F(CategoryLedger, an_account_that_a_condition_excludes_is_listed_when_found_by_name) {
     const auto listed = [&](const std::string& typed) {
+        const std::string like = " like '%" + typed + "%')";
         Codes codes;
-        for (const Row& row : books.table(
-                 "SELECT KM_ID,KM_NAME2 AS KM_NAME FROM V6801 where (1>0)  and KM_FL=1 and "
-                 "(KM_id like '%" + typed + "%') or(KM_NAME2 like '%" + typed + "%') or(pym like '%" +
-                 typed + "%') ")) {
+        for (const Row& row :
+             books.table("SELECT KM_ID,KM_NAME2 AS KM_NAME FROM V6801 where (1>0)  and KM_FL=1 "
+                         "and (KM_id" + like + " or(KM_NAME2" + like + " or(pym" + like + " ")) {
             codes.push_back(row.at("KM_ID"));
         }
         return codes;
