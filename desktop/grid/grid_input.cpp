@@ -3,7 +3,10 @@
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
+#include <QTimer>
 #include <QToolTip>
+
+#include <utility>
 
 #include "desktop/grid/cell_editor.h"
 #include "desktop/grid/cell_text.h"
@@ -98,6 +101,22 @@ bool GridView::take_suggestion(int index) {
     return form_.run([&] { grid_->choose(chosen); }) && grid_;
 }
 
+// What Enter or Tab could not hand over stays in the cell, marked, with what is on offer for it:
+// the person sees what was wrong and types over it.
+void GridView::keep_refused_text() {
+    const auto entered = std::exchange(entered_, std::nullopt);
+    if (!entered || !grid_ || grid_->editing() || entered->text == entered->before) return;
+    const bool stayed =
+        entered->row == grid_->DataSet->RecNo() && entered->column == grid_->column();
+    if (!stayed || plain_cell_text() != entered->before) return; // it was taken
+    grid_->set_edit_text(utf8(entered->text));
+    place_editor();
+    editor_->selectAll();
+    QTimer::singleShot(0, this, [this] {
+        if (grid_ && grid_->editing()) offer();
+    });
+}
+
 // The keys that stay with the editor or the list below it instead of going to the form.
 OwnKey GridView::own_key(const host::Key& key) {
     if (!grid_) return OwnKey::No;
@@ -107,6 +126,9 @@ OwnKey GridView::own_key(const host::Key& key) {
             return take_suggestion(popup_->current()) ? OwnKey::No : OwnKey::Used;
         if (popup_->key(key)) return OwnKey::Used;
     }
+    if (grid_->editing() && (key.code == KeyCode::Enter || key.code == KeyCode::Tab))
+        entered_ = Entered{grid_->DataSet->RecNo(), grid_->column(), qt(grid_->edit_text()),
+                           plain_cell_text()};
     const bool up_or_down = key.code == KeyCode::Up || key.code == KeyCode::Down;
     // Marking rows is the grid's own affair.
     if (!editor_->hasFocus())

@@ -74,6 +74,7 @@ GridView::GridView(host::TDBGridEh& grid, FormView& form, QWidget* parent)
     };
     form.after_event([this] {
         if (cursor_due_) sync_cursor();
+        keep_refused_text();
     });
     form.at_release([this] { detach(); });
     form.listen(grid, [this] { refresh(); });

@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QTableView>
 
+#include <optional>
+
 #include "desktop/renderers/form_view.h"
 #include "host/controls/grid.h"
 
@@ -61,6 +63,7 @@ private:
     void offer();         // suggestions for what is typed
     bool take_suggestion(int index); // false: refused
     OwnKey own_key(const host::Key& key);
+    void keep_refused_text();
     void mark_to(int row);
     void paint_empty_rows(QPainter& painter);
     void remember_columns();
@@ -78,6 +81,11 @@ private:
     bool cursor_due_ = false, laying_out_ = false, laid_out_ = false;
     int placed_row_ = -1, placed_column_ = -1;
     int mark_anchor_ = -1;
+    struct Entered {
+        int row, column;
+        QString text, before;
+    };
+    std::optional<Entered> entered_; // what a key is about to hand over
 };
 
 } // namespace desktop

@@ -168,6 +168,30 @@ TEST(Suggestions, no_account_is_guessed_from_a_number_that_is_not_its_whole_code
     EXPECT_EQ(desk.account(), "");
 }
 
+TEST(Suggestions, what_was_refused_stays_in_the_cell_to_be_typed_over) {
+    VoucherDesk desk;
+    desk.type("1002");
+    desk.keys({"Enter"});
+    ASSERT_EQ(desk.messages.size(), 1u);
+    EXPECT_EQ(desk.voucher->DBGridEh.edit_text(), "1002");
+    EXPECT_NE(list_shown(), nullptr); // 100201 is on offer
+    desk.keys({"Enter"});
+    EXPECT_EQ(desk.messages.size(), 2u); // still no account
+    desk.type("1131");                   // over the marked text
+    desk.keys({"Enter"});
+    EXPECT_EQ(desk.messages.size(), 2u);
+    EXPECT_EQ(desk.account(), "1131");
+}
+
+TEST(Suggestions, escape_gives_up_what_was_refused) {
+    VoucherDesk desk;
+    desk.type("1002");
+    desk.keys({"Enter", "Esc", "Esc"}); // the list, the text
+    EXPECT_FALSE(desk.voucher->DBGridEh.editing());
+    EXPECT_EQ(desk.account(), "");
+    EXPECT_EQ(host::the_host().active, desk.voucher);
+}
+
 TEST(Suggestions, a_whole_code_is_taken_by_enter_and_a_begun_one_after_it_was_chosen) {
     VoucherDesk desk;
     desk.type("1131");
