@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <random>
+#include <set>
 #include <unordered_map>
 
 #include "app/books/create.h"
@@ -63,8 +64,10 @@ public:
     explicit Ledger(const std::vector<Account>& accounts)
         : accounts_(accounts), moved_(accounts.size()), on_debit_(accounts.size()) {
         for (std::size_t i = 0; i < accounts.size(); ++i) places_.emplace(accounts[i].code, i);
+        std::set<std::string> parents;
+        for (const Account& account : accounts) parents.insert(account.parent);
         for (const Account& account : accounts)
-            if (takes_entries(account))
+            if (!parents.contains(account.code))
                 each_above(account.code, [&](std::size_t at) {
                     on_debit_[at] += account.side == "借" ? opening_of_a_leaf : -opening_of_a_leaf;
                 });
@@ -195,14 +198,35 @@ void set_period(hand::Connection& connection, std::int64_t id, const host::Perio
     update.bind(1, id).bind(2, text).run();
 }
 
-void fill(const BigBooks& books, const std::vector<Account>& accounts) {
+// The accounts of the template, which the statements ask for.
+std::vector<Account> accounts_of_the_template(hand::Connection& connection) {
+    std::vector<Account> accounts;
+    hand::Statement read(connection, "SELECT KM_ID, OID, FX, KM_J FROM D6801 ORDER BY KM_ID");
+    while (read.step())
+        accounts.push_back({std::string(read.text(0)), std::string(read.text(1)),
+                            std::string(read.text(2)), static_cast<int>(read.integer(3))});
+    return accounts;
+}
+
+void add_leaves(const std::vector<Account>& accounts, std::vector<std::string>& leaves) {
+    std::set<std::string> parents;
+    for (const Account& account : accounts) parents.insert(account.parent);
+    for (const Account& account : accounts)
+        if (!parents.contains(account.code)) leaves.push_back(account.code);
+}
+
+void fill(const BigBooks& books, const std::vector<Account>& chart) {
     hand::Connection connection(books.file);
     connection.run("PRAGMA synchronous=OFF; BEGIN");
     set_period(connection, 1, books.first);
     set_period(connection, 2, books.last);
-    write_accounts(connection, accounts);
+    std::vector<Account> accounts = accounts_of_the_template(connection);
+    std::vector<std::string> leaves = books.leaves; // the busy account first
+    add_leaves(accounts, leaves);
+    write_accounts(connection, chart);
+    accounts.insert(accounts.end(), chart.begin(), chart.end());
     Ledger ledger(accounts);
-    VoucherWriter vouchers(connection, books.leaves, ledger);
+    VoucherWriter vouchers(connection, leaves, ledger);
     BalanceWriter balances(connection, ledger);
     balances.write_closing(books.first.previous().to_text());
     host::Period busy_from = books.last; // the vouchers asked for fill whole periods to the last

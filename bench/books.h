@@ -8,7 +8,8 @@
 
 namespace bench {
 
-// 2,000 accounts in five levels, each that takes entries opened with 1,000.00 on its own side;
+// 2,000 accounts in five levels, beside those of the template so that statements have figures; each
+// that takes entries is opened with 1,000.00 on its own side;
 // periods of 10,000 vouchers and about 40,700 lines each, all audited; every period but the last is
 // posted. Books of fewer vouchers than a year fills have quiet periods of 100 vouchers, which are
 // not counted, before the busy ones: in all books the last period has 10,000 vouchers and a whole

@@ -45,6 +45,13 @@ std::size_t agreement(const char* left, const char* right, std::size_t size) {
         std::memcpy(&b, right + place, sizeof b);
         if (a != b) break;
     }
+    if (place + sizeof(std::uint32_t) <= size) {
+        std::uint32_t a = 0;
+        std::uint32_t b = 0;
+        std::memcpy(&a, left + place, sizeof a);
+        std::memcpy(&b, right + place, sizeof b);
+        if (a == b) place += sizeof a;
+    }
     while (place < size && left[place] == right[place]) ++place;
     return place;
 }
@@ -75,6 +82,9 @@ int compare_text(std::string_view left, std::string_view right) {
     const std::size_t shorter = left.size() < right.size() ? left.size() : right.size();
     const std::size_t place = agreement(left.data(), right.data(), shorter);
     if (place == shorter && left.size() == right.size()) return 0;
+    // A code that goes on with a digit or letter follows the one it begins with.
+    if (place == shorter && is_plain(left.size() > shorter ? left[place] : right[place]))
+        return left.size() < right.size() ? -1 : 1;
     // Most texts of the books differ in a digit or a letter of ASCII, with nothing to decode. A
     // blank might be one of those at the end that do not count.
     if (place < shorter && is_plain(left[place]) && is_plain(right[place])) {

@@ -13,9 +13,6 @@ namespace engines {
 namespace {
 
 constexpr int packed_bits = 128;
-// A text's place and size share one number.
-constexpr int size_bits = 30;
-constexpr std::size_t longest_text = (std::size_t{1} << size_bits) - 1;
 
 } // namespace
 
@@ -51,11 +48,6 @@ void OrderedRows::end_row() {
     if (in_order_ && rows_ > 0)
         in_order_ = compare_rows(rows_ - 1, rows_, order_->descending.size()) <= 0;
     ++rows_;
-}
-
-std::string_view OrderedRows::text_at(std::size_t at) const {
-    const auto packed = static_cast<std::uint64_t>(values_[at]);
-    return {texts_.data() + (packed >> size_bits), packed & longest_text};
 }
 
 // ---- their order
@@ -112,6 +104,12 @@ std::vector<std::uint64_t> OrderedRows::ranks_of(std::size_t key) const {
     return places;
 }
 
+bool OrderedRows::is_same_in_all(std::size_t key) const {
+    for (std::size_t at = key; at < kinds_.size(); at += cells_)
+        if (kinds_[at] != kinds_[key] || values_[at] != values_[key]) return false;
+    return true;
+}
+
 OrderedRows::Spread OrderedRows::spread_of(std::size_t key) const {
     Spread spread;
     for (std::size_t at = key; at < kinds_.size(); at += cells_) {
@@ -131,6 +129,7 @@ OrderedRows::Spread OrderedRows::spread_of(std::size_t key) const {
 
 // A key takes as many bits as its values are apart; one that is the same in all rows takes none.
 bool OrderedRows::pack_key(std::size_t key, std::vector<Packed>& packed, int& bits) const {
+    if (is_same_in_all(key)) return true;
     const Spread spread = spread_of(key);
     if (spread.others || (spread.integers && spread.texts)) return false;
     std::vector<std::uint64_t> ranks;
@@ -241,25 +240,6 @@ void OrderedRows::run() {
 }
 
 // ---- what is shown
-
-RowCell OrderedRows::cell(std::size_t row, std::size_t column) const {
-    const bool runs = column >= cells_;
-    const std::size_t at =
-        runs ? row * order_->running.size() + column - cells_ : shown_[row] * cells_ + column;
-    RowCell cell;
-    cell.kind = runs ? run_kinds_[at] : kinds_[at];
-    const std::int64_t value = runs ? run_values_[at] : values_[at];
-    switch (cell.kind) {
-    case Kind::null: break;
-    case Kind::integer: cell.integer = value; break;
-    case Kind::real: cell.real = std::bit_cast<double>(value); break;
-    default: {
-        const auto packed = static_cast<std::uint64_t>(value);
-        cell.text = {texts_.data() + (packed >> size_bits), packed & longest_text};
-    }
-    }
-    return cell;
-}
 
 bool OrderedRows::continues(std::size_t row) const {
     return row > 0 &&

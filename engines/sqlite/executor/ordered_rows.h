@@ -1,6 +1,7 @@
 // Rows put in order once, with values that run along with them: sums, counts, the row before.
 #pragma once
 
+#include <bit>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -40,7 +41,12 @@ public:
 
     std::size_t rows() const { return rows_; }
     // Columns from `cells` on are the running values.
-    RowCell cell(std::size_t row, std::size_t column) const;
+    RowCell cell(std::size_t row, std::size_t column) const {
+        const bool runs = column >= cells_;
+        const std::size_t at = runs ? row * order_->running.size() + column - cells_
+                                    : shown_[row] * cells_ + column;
+        return cell_of(runs ? run_kinds_[at] : kinds_[at], runs ? run_values_[at] : values_[at]);
+    }
     // Whether the keys of a row are those of the row before.
     bool continues(std::size_t row) const;
     std::size_t bytes() const;
@@ -63,13 +69,32 @@ private:
         kinds_.push_back(kind);
         values_.push_back(value);
     }
-    std::string_view text_at(std::size_t at) const;
+    // A text's place and size in texts_ share one number.
+    static constexpr int size_bits = 30;
+    static constexpr std::size_t longest_text = (std::size_t{1} << size_bits) - 1;
+    std::string_view text_of(std::int64_t value) const {
+        const auto packed = static_cast<std::uint64_t>(value);
+        return {texts_.data() + (packed >> size_bits), packed & longest_text};
+    }
+    RowCell cell_of(Kind kind, std::int64_t value) const {
+        RowCell cell;
+        cell.kind = kind;
+        if (kind == Kind::integer)
+            cell.integer = value;
+        else if (kind == Kind::real)
+            cell.real = std::bit_cast<double>(value);
+        else if (kind != Kind::null)
+            cell.text = text_of(value);
+        return cell;
+    }
+    std::string_view text_at(std::size_t at) const { return text_of(values_[at]); }
     int compare_cells(std::size_t left, std::size_t right) const;
     // Compares the first `keys` keys of two rows as they came.
     int compare_rows(std::size_t left, std::size_t right, std::size_t keys) const;
     void sort();
     bool pack(std::vector<Packed>& packed) const;
     bool pack_key(std::size_t key, std::vector<Packed>& packed, int& bits) const;
+    bool is_same_in_all(std::size_t key) const;
     Spread spread_of(std::size_t key) const;
     std::vector<std::uint64_t> ranks_of(std::size_t key) const;
     void run();

@@ -82,7 +82,10 @@ bool ShownRow::is_wanted(std::size_t row) const {
 }
 
 Stored ShownRow::value(std::size_t row, std::size_t column, const tsql::Type& type) const {
-    const RowCell cell = evaluate(row, order_.shown[column]);
+    const tsql::ShownValue& shown = node(order_.shown[column]);
+    const RowCell cell = shown.kind == tsql::ShownValue::Kind::Cell
+                             ? rows_.cell(row, static_cast<std::size_t>(shown.place))
+                             : evaluate(row, order_.shown[column]);
     switch (cell.kind) {
     case Kind::null: break;
     case Kind::integer: return Stored::of(cell.integer);
