@@ -9,6 +9,5 @@ BEGIN
                   UNION ALL
                   SELECT B2, CASE @kind WHEN 1 THEN B3 ELSE B4 END
                   FROM D6830 WHERE G = @layout) T
-            WHERE T.LINE <> '' AND TRY_CONVERT(int, T.LINE) >= @line1
-              AND TRY_CONVERT(int, T.LINE) <= @line2)
+            WHERE T.LINE <> '' AND TRY_CONVERT(int, T.LINE) BETWEEN @line1 AND @line2)
 END

@@ -6,6 +6,5 @@ BEGIN
     RETURN (SELECT ISNULL(SUM(ISNULL(TRY_CONVERT(decimal(18,2),
                    CASE WHEN @kind IN (1, 4, 5) THEN A4 ELSE A3 END), 0.00)), 0.00)
             FROM D6832
-            WHERE G = @layout AND A2 <> '' AND TRY_CONVERT(int, A2) >= @line1
-              AND TRY_CONVERT(int, A2) <= @line2)
+            WHERE G = @layout AND A2 <> '' AND TRY_CONVERT(int, A2) BETWEEN @line1 AND @line2)
 END

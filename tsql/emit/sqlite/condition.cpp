@@ -164,11 +164,42 @@ std::string Emitter::like(const BoundLike& node) {
            "))";
 }
 
+namespace {
+
+bool is_comparison_of(const BoundPtr& node, ComparisonOperator op) {
+    return node->kind == BoundKind::Comparison &&
+           static_cast<const BoundComparison&>(*node).op == op;
+}
+
+// A whole number that is worked out, between two others: worked out once. A column is left as two
+// comparisons, which an index serves as well.
+bool is_range(const BoundLogical& node) {
+    if (node.op != LogicalOperator::And || node.operands.size() != 2 ||
+        !is_comparison_of(node.operands[0], ComparisonOperator::GreaterEqual) ||
+        !is_comparison_of(node.operands[1], ComparisonOperator::LessEqual)) {
+        return false;
+    }
+    const auto& low = static_cast<const BoundComparison&>(*node.operands[0]);
+    const auto& high = static_cast<const BoundComparison&>(*node.operands[1]);
+    return low.left == high.left && low.left->kind != BoundKind::Column &&
+           low.left->type.is_integer() && low.right->type.is_integer() &&
+           high.right->type.is_integer();
+}
+
+} // namespace
+
 std::string Emitter::condition(const BoundPtr& node) {
     switch (node->kind) {
     case BoundKind::Comparison: return comparison(static_cast<const BoundComparison&>(*node));
     case BoundKind::Logical: {
         const auto& logical = static_cast<const BoundLogical&>(*node);
+        if (is_range(logical)) {
+            const auto& low = static_cast<const BoundComparison&>(*logical.operands[0]);
+            const auto& high = static_cast<const BoundComparison&>(*logical.operands[1]);
+            std::string text = "(" + value_of(low.left).text + " BETWEEN ";
+            text += value_of(low.right).text + " AND ";
+            return text + value_of(high.right).text + ")";
+        }
         const char* word = logical.op == LogicalOperator::And ? " AND " : " OR ";
         std::string text;
         for (const BoundPtr& operand : logical.operands) {
