@@ -41,6 +41,16 @@ TEST_F(Backup, a_copy_holds_what_was_saved_while_others_have_the_books_open) {
     EXPECT_TRUE(has(copy_, "kept"));
 }
 
+TEST_F(Backup, a_copy_is_made_while_somebody_is_in_the_middle_of_a_save) {
+    const auto other = open_books(books_);
+    ASSERT_TRUE(other->begin().ok());
+    automation::rows_of(*other, "INSERT INTO D6803 (GUID, ZY) VALUES ('half','half')");
+    backup_books(books_, copy_);
+    EXPECT_FALSE(has(copy_, "half"));
+    ASSERT_TRUE(other->commit().ok());
+    EXPECT_TRUE(has(books_, "half"));
+}
+
 TEST_F(Backup, tells_how_far_it_is_and_its_end) {
     std::vector<std::pair<std::int64_t, std::int64_t>> told;
     backup_books(books_, copy_, [&](const std::string& what, std::int64_t done, std::int64_t all) {

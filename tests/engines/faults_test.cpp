@@ -217,4 +217,19 @@ TEST(SecondWriter, waits_then_says_busy_and_succeeds_afterwards) {
     EXPECT_EQ(cell(*first, "SELECT V FROM T WHERE ID=1"), "ab");
 }
 
+TEST(SecondWriter, keeps_nobody_from_opening_reading_and_copying) {
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.zf");
+    const auto first = create(path);
+    ASSERT_TRUE(first->begin().ok());
+    ASSERT_TRUE(run(*first, "UPDATE T SET V='a' WHERE ID=1").ok());
+    engines::OpenOptions options;
+    options.busy_timeout = std::chrono::milliseconds(30);
+    const auto second = open(path, options);
+    EXPECT_EQ(cell(*second, "SELECT V FROM T WHERE ID=1"), "row");
+    EXPECT_TRUE(second->check_integrity().empty());
+    second->backup_to(folder.file("copy.zf"), {});
+    EXPECT_EQ(cell(*open(folder.file("copy.zf")), "SELECT V FROM T WHERE ID=1"), "row");
+}
+
 } // namespace tests

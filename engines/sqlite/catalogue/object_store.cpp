@@ -24,9 +24,17 @@ std::string text_at(sqlite3_stmt* statement, int column) {
                              static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
 }
 
+bool has_own_tables(sqlite3* connection) {
+    return integer_of(connection, "SELECT count(*) FROM sqlite_schema WHERE type = 'table' AND"
+                                  " name IN ('zf_object', 'zf_counter')") == 2 &&
+           integer_of(connection, "SELECT count(*) FROM zf_counter WHERE name = ''") == 1;
+}
+
 } // namespace
 
+// Looked at before it is written: books that are in order open while somebody else writes.
 void ObjectStore::prepare_tables() {
+    if (has_own_tables(connection_)) return;
     run_text(connection_,
              "CREATE TABLE IF NOT EXISTS zf_object (name TEXT PRIMARY KEY COLLATE NOCASE,"
              " kind INTEGER NOT NULL, definition TEXT NOT NULL) WITHOUT ROWID;"
