@@ -99,6 +99,13 @@ TEST_F(Edits, numbers_stay_numbers_within_their_range) {
     EXPECT_EQ(form.Level.as_integer(), 1); // empty is the least there is
 }
 
+TEST_F(Edits, a_number_without_decimals_is_whole_and_never_rounded) {
+    EXPECT_THROW(form.Level.enter_text("2.5"), EAbort);
+    EXPECT_EQ(desk.ui.last_message(), "“级别”不能是“2.5”，请录入整数。");
+    form.Level.enter_text("2.0");
+    EXPECT_EQ(form.Level.Text.get(), "2");
+}
+
 TEST_F(Edits, up_and_down_step_a_number_and_stop_at_its_ends) {
     form.Level.Min = Amount::from_whole(1);
     form.Level.Max = Amount::from_whole(2);

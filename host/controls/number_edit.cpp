@@ -6,6 +6,12 @@
 
 namespace host {
 
+namespace {
+
+bool is_whole(Amount number) { return number.rounded(0) == number; }
+
+} // namespace
+
 TNumberEdit::TNumberEdit(TForm* form, std::string name, std::string caption, int decimals)
     : TEdit(form, std::move(name), std::move(caption)), Decimals(decimals) {}
 
@@ -29,7 +35,9 @@ void TNumberEdit::refuse(const std::string& text) const {
         wanted = "请录入不小于 " + Min->to_plain_text() + " 的数字。";
     else if (Max)
         wanted = "请录入不大于 " + Max->to_plain_text() + " 的数字。";
-    if (!Amount::parse(text)) wanted = "请录入数字。";
+    const auto number = Amount::parse(text);
+    if (!number) wanted = "请录入数字。";
+    if (number && Decimals == 0 && !is_whole(*number)) wanted = "请录入整数。";
     DISPINFO("“" + label() + "”不能是“" + first_characters(text, 30) + "”，" + wanted, 5);
     Abort();
 }
@@ -39,6 +47,7 @@ std::optional<std::string> TNumberEdit::proper(const std::string& text) const {
     if (trimmed(text).empty()) return "";
     const auto number = Amount::parse(text);
     if (!number || (Min && *number < *Min) || (Max && *number > *Max)) return std::nullopt;
+    if (Decimals == 0 && !is_whole(*number)) return std::nullopt;
     return number->to_text(Decimals);
 }
 
