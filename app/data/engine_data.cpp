@@ -140,7 +140,10 @@ void EngineData::query(std::string_view sql, host::RowReceiver& receiver) {
 }
 
 // Inside a transaction. Nothing is written without its row of the log.
-void EngineData::write(std::string_view batch, const host::LogEntry& entry) {
+void EngineData::write(std::string_view batch, const host::LogEntry& entry,
+                       const host::WhyNot& why_not) {
+    const std::string reason = why_not ? why_not() : "";
+    if (!reason.empty()) throw host::DataError(reason, "not run: " + reason);
     engines::ResultReceiver nobody;
     {
         const Listening listening(*this, nullptr);
@@ -152,14 +155,15 @@ void EngineData::write(std::string_view batch, const host::LogEntry& entry) {
     raise(*logged.error);
 }
 
-void EngineData::execute(std::string_view batch, const host::LogEntry& entry) {
+void EngineData::execute(std::string_view batch, const host::LogEntry& entry,
+                         const host::WhyNot& why_not) {
     refuse_within_report();
     if (unit_) {
         refuse_after_undoing();
-        return write(batch, entry);
+        return write(batch, entry, why_not);
     }
     Transaction transaction(session_);
-    write(batch, entry);
+    write(batch, entry, why_not);
     transaction.commit();
 }
 

@@ -41,13 +41,14 @@ public:
 
     // Both throw DataError also when called from inside a progress report.
     void query(std::string_view sql, host::RowReceiver& receiver) override;
-    void execute(std::string_view batch, const host::LogEntry& entry) override;
+    void execute(std::string_view batch, const host::LogEntry& entry,
+                 const host::WhyNot& why_not = {}) override;
 
 private:
     class Listening;
     void refuse_within_report() const;
     void refuse_after_undoing() const;
-    void write(std::string_view batch, const host::LogEntry& entry);
+    void write(std::string_view batch, const host::LogEntry& entry, const host::WhyNot& why_not);
     engines::Session& session_;
     const host::Clock& clock_;
     std::string user_;

@@ -2,6 +2,7 @@
 #include "app/data/engine_data.h"
 
 #include <gtest/gtest.h>
+#include <thread>
 
 #include "app/books/open.h"
 #include "app/settings/surroundings.h"
@@ -286,6 +287,53 @@ TEST_F(Data, within_a_unit_too_a_number_used_again_inherits_no_allocation) {
     data_.keep_unit();
     EXPECT_EQ(value("SELECT COUNT(*) FROM D6601B"), "0");
     EXPECT_EQ(value("SELECT COUNT(*) FROM D6601"), "1");
+}
+
+TEST_F(Data, a_reason_found_at_the_last_moment_stops_the_batch) {
+    const std::string before = value("SELECT COUNT(*) FROM SYS_LOG");
+    const host::LogEntry entry{"683", "a", "Add"};
+    const std::string batch = "INSERT INTO D6803 (GUID, ZY) VALUES ('a','x')";
+    try {
+        data_.execute(batch, entry, [] { return "已被他人修改!"; });
+        ADD_FAILURE() << "it ran";
+    } catch (const host::DataError& error) {
+        EXPECT_STREQ(error.what(), "已被他人修改!");
+    }
+    EXPECT_EQ(value("SELECT COUNT(*) FROM D6803 WHERE GUID='a'"), "0");
+    EXPECT_EQ(value("SELECT COUNT(*) FROM SYS_LOG"), before);
+    data_.execute(batch, entry, [] { return ""; });
+    EXPECT_EQ(value("SELECT COUNT(*) FROM D6803 WHERE GUID='a'"), "1");
+}
+
+// Each counts one on from what he sees; what he saw must still hold when he writes.
+TEST_F(Data, people_who_change_the_same_row_at_once_lose_nothing) {
+    constexpr int people = 3, changes = 40;
+    insert_summary("n");
+    data_.execute("UPDATE D6803 SET ZY='0' WHERE GUID='n'", {"683", "n", "Edit"});
+    const auto work = [this] {
+        const auto session = open_books(books_);
+        EngineData data(*session, clock_, "li");
+        const auto count = [&] {
+            Rows rows;
+            data.query("SELECT ZY FROM D6803 WHERE GUID='n'", rows);
+            return std::stoi(rows.texts.at(0).at(0));
+        };
+        for (int done = 0; done < changes;) {
+            const int seen = count();
+            try {
+                data.execute("UPDATE D6803 SET ZY='" + std::to_string(seen + 1) +
+                                 "' WHERE GUID='n'",
+                             {"683", "n", "Edit"},
+                             [&] { return count() == seen ? "" : "已被他人修改!"; });
+                ++done;
+            } catch (const host::DataError&) {
+            }
+        }
+    };
+    std::vector<std::thread> all;
+    for (int person = 0; person < people; ++person) all.emplace_back(work);
+    for (std::thread& one : all) one.join();
+    EXPECT_EQ(value("SELECT ZY FROM D6803 WHERE GUID='n'"), std::to_string(people * changes));
 }
 
 TEST_F(Data, two_people_writing_in_turn_keep_one_chain) {

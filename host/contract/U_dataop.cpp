@@ -44,13 +44,13 @@ bool may_write(const std::string& key) {
 }
 
 // Runs a batch; what went wrong is shown and answered.
-std::string run(const std::string& batch, const LogEntry& entry) {
+std::string run(const std::string& batch, const LogEntry& entry, const WhyNot& why_not = {}) {
     if (!may_write(entry.function)) {
         DISPINFO("您在这项功能中只能查看，没有保存。请与系统管理员联系。", 5);
         return "no right";
     }
     try {
-        the_host().data->execute(batch, entry);
+        the_host().data->execute(batch, entry, why_not);
         return "Y";
     } catch (const DataError& error) {
         DISPINFO(error.what(), 5);
@@ -77,7 +77,13 @@ void opensql(TClientDataSet& dataset, const std::string& function, const std::st
 std::string ExecSql(const std::string& function, const std::string& key,
                     const std::string& operation, const std::string& batch, std::uint16_t, bool,
                     bool, bool, bool) {
-    const std::string answer = run(batch, {function, key, operation});
+    return ExecSqlUnless({}, function, key, operation, batch);
+}
+
+std::string ExecSqlUnless(const WhyNot& why_not, const std::string& function,
+                          const std::string& key, const std::string& operation,
+                          const std::string& batch) {
+    const std::string answer = run(batch, {function, key, operation}, why_not);
     remember({.call = "ExecSql", .function = function, .key = key, .operation = operation,
               .text = batch, .answer = answer});
     return answer;

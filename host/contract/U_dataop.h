@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "host/ports/data_port.h"
+
 namespace host {
 
 class TClientDataSet;
@@ -21,6 +23,12 @@ void opensql(TClientDataSet& dataset, const std::string& function, const std::st
 std::string ExecSql(const std::string& function, const std::string& key,
                     const std::string& operation, const std::string& batch, std::uint16_t = 0,
                     bool = false, bool = true, bool = false, bool = true);
+
+// The same for a document that others may have changed since it was read: `why_not` looks at it
+// again inside the transaction, and its reason is shown instead of running the batch.
+std::string ExecSqlUnless(const WhyNot& why_not, const std::string& function,
+                          const std::string& key, const std::string& operation,
+                          const std::string& batch);
 
 // The next number of a kind of document: code + YYMMDD + a running number of three digits, four
 // past 999. Unique under concurrent users.

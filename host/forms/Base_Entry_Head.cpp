@@ -212,10 +212,16 @@ void TFrm_Base_Entry_Head::Act_DeleteExecute() {
     const std::string key = current_key(AdoQry_Main, Settings.key_field);
     allow_delete({}, FunctionCode, key, DocumentName());
     const std::string statement = with_key(Settings.delete_statement, key);
-    if (ExecSql(FunctionCode, key, "Delete", statement) != "Y") return;
+    const WhyNot why_not = [this, &key] { return why_not_deleted(key); };
+    if (ExecSqlUnless(why_not, FunctionCode, key, "Delete", statement) != "Y") return;
     AdoQry_Main.Delete();
     AdoQry_Main.MarkSaved();
     LoadLines();
+}
+
+// While the question stood there, somebody else may have audited or deleted it.
+std::string TFrm_Base_Entry_Head::why_not_deleted(const std::string& key) {
+    return refresh_row(key) ? WhyLocked() : "“" + DocumentName() + "”已被他人删除!";
 }
 
 // ---- conditions ----

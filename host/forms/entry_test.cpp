@@ -233,6 +233,21 @@ TEST_F(Entry, a_delete_asks_by_name_and_then_takes_the_row) {
     EXPECT_EQ(list.AdoQry_Main.RecordCount(), 3);
 }
 
+TEST_F(Entry, what_somebody_else_did_while_the_question_stood_is_seen_before_deleting) {
+    desk.ui.answers = {true, true};
+    desk.ui.while_asked = [this] { heads({{"k1", "2024-03", "1", "0"}}); };
+    run(list.Act_Delete);
+    EXPECT_NE(desk.ui.last_message().find("已审核"), std::string::npos) << desk.ui.last_message();
+    heads({{"k1", "2024-03", "0", "0"}});
+    desk.ui.while_asked = [this] {
+        heads({});
+        gone("k1");
+    };
+    run(list.Act_Delete);
+    EXPECT_EQ(desk.ui.last_message(), "“k1”已被他人删除!");
+    EXPECT_EQ(executed(), 0U);
+}
+
 TEST_F(Entry, what_somebody_else_changed_meanwhile_is_seen_before_acting) {
     heads({{"k1", "2024-03", "1", "0"}, {"k2", "2024-03", "1", "0"}});
     run(list.Act_Delete);

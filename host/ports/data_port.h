@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,14 +39,21 @@ struct LogEntry {
     std::string operation; // "Add"
 };
 
+// A look at the books inside the transaction of a batch, before its first statement: why the batch
+// must not run any more, "" when it may. Nobody else writes between this look and the batch, so
+// what it saw still holds. May query, not execute.
+using WhyNot = std::function<std::string()>;
+
 class DataPort {
 public:
     virtual ~DataPort() = default;
     // Runs a batch and hands the first result set to `receiver`. Throws DataError.
     virtual void query(std::string_view sql, RowReceiver& receiver) = 0;
     // Runs a batch in one transaction, all of it or nothing, and writes its row of the operation
-    // log in the same transaction. Returns when it is durable. Throws DataError.
-    virtual void execute(std::string_view batch, const LogEntry& entry) = 0;
+    // log in the same transaction. Returns when it is durable. Throws DataError, also with the
+    // reason that `why_not` gives; nothing was written then.
+    virtual void execute(std::string_view batch, const LogEntry& entry,
+                         const WhyNot& why_not = {}) = 0;
 };
 
 } // namespace host

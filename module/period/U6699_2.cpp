@@ -3,7 +3,6 @@
 
 #include "host/ports/host.h"
 #include "module/period/opening_posting.h"
-#include "module/refuse.h"
 #include "module/vouchers/voucher_words.h"
 
 namespace module {
@@ -62,10 +61,10 @@ void TF6699_2::FormKeyDown(Key& key) {
 // ---- checking ----
 
 // Another window may have opened the books meanwhile: posting again would empty them.
-void TF6699_2::require_not_set_up() {
+std::string TF6699_2::why_not_again() {
     const std::string period = Getsysinfo("period");
-    if (period.empty()) return;
-    refuse("帐套已在 " + period + " 启用，不能再次初始化!请先从[期末结帐]模块反结至开帐前。");
+    if (period.empty()) return "";
+    return "帐套已在 " + period + " 启用，不能再次初始化!请先从[期末结帐]模块反结至开帐前。";
 }
 
 // ---- saving ----
@@ -73,12 +72,11 @@ void TF6699_2::require_not_set_up() {
 void TF6699_2::btn_okClick() {
     RequireRight("post", "初始化登帐");
     CheckDate(BDATE, "帐套启用日期");
-    require_not_set_up();
     const Date chosen = BDATE.value();
     const OpeningDay opening(chosen);
     BDATE.set(opening.day);
-    const std::string answer = ExecSql(FunctionCode, opening.first_period, "Edit",
-                                       opening_batch(opening), 0, false, true, false, true);
+    const std::string answer = ExecSqlUnless([this] { return why_not_again(); }, FunctionCode,
+                                             opening.first_period, "Edit", opening_batch(opening));
     if (answer == "Y") {
         ModalResult = mrOk;
     } else {

@@ -30,7 +30,7 @@ private:
     // This form's own rules.
     void refresh_date_hint();
     void show_voucher_words();
-    void require_not_set_up();
+    std::string why_not_again(); // the books are open already; "" when they are not
 };
 
 } // namespace module

@@ -366,7 +366,6 @@ bool TF6661_1::AllCheck() {
     }
     check_head();
     check_accounts_take_entries(lines);
-    if (Mode == "Edit") check_unchanged_by_others();
     return true;
 }
 
@@ -387,13 +386,13 @@ void TF6661_1::check_accounts_take_entries(const std::vector<VoucherLine>& lines
     }
 }
 
-void TF6661_1::check_unchanged_by_others() {
+std::string TF6661_1::why_changed_meanwhile() {
     TClientDataSet head, lines;
     opensql(head, FunctionCode, select_voucher_head(Key));
-    if (head.IsEmpty()) refuse("凭证已被他人删除,不能保存!请退出后刷新凭证列表。");
+    if (head.IsEmpty()) return "凭证已被他人删除,不能保存!请退出后刷新凭证列表。";
     opensql(lines, FunctionCode, select_voucher_lines(Key));
-    if (voucher_in_one_text(head, lines) == as_opened_ && !F6661_5->stored_meanwhile()) return;
-    refuse("凭证在打开之后已被他人修改、审核或登帐,不能保存!请退出后重新打开该凭证。");
+    if (voucher_in_one_text(head, lines) == as_opened_ && !F6661_5->stored_meanwhile()) return "";
+    return "凭证在打开之后已被他人修改、审核或登帐,不能保存!请退出后重新打开该凭证。";
 }
 
 // ---- statements ----
@@ -425,6 +424,15 @@ std::unique_ptr<PaperDocument> TF6661_1::MakeDocument() {
 
 // ---- saving ----
 
+// A changed voucher is looked at once more when nobody else can write: two who change it at the
+// same moment must not both be told that it was saved.
+std::string TF6661_1::save(const std::string& key, const std::string& batch) {
+    if (Mode != "Edit")
+        return ExecSql(FunctionCode, key, Mode, batch, 65535, false, true, false, true);
+    const WhyNot why_not = [this] { return why_changed_meanwhile(); };
+    return ExecSqlUnless(why_not, FunctionCode, key, Mode, batch);
+}
+
 void TF6661_1::SaveData() {
     const std::string period = read_current_period(FunctionCode);
     if (period.empty()) refuse(no_current_period);
@@ -440,9 +448,7 @@ void TF6661_1::SaveData() {
     const std::string batch =
         (own_key.empty() ? "" : delete_voucher(own_key)) + insert_voucher_head(head) +
         insert_voucher_lines(head.key, grid_.read()) + save_allocation(head.key);
-    const std::string answer =
-        ExecSql(FunctionCode, head.key, Mode, batch, 65535, false, true, false, true);
-    if (answer == "Y") Saved(head.key);
+    if (save(head.key, batch) == "Y") Saved(head.key);
 }
 
 } // namespace module

@@ -83,7 +83,8 @@ private:
     std::string save_allocation(const std::string& key) const;
     void check_head();
     void check_accounts_take_entries(const std::vector<VoucherLine>& lines);
-    void check_unchanged_by_others();
+    std::string why_changed_meanwhile(); // by others; "" when it was not
+    std::string save(const std::string& key, const std::string& batch);
     VoucherHead head_to_save(const std::string& period) const;
 
     bool new_voucher() const { return Mode == "Add" || Mode == "CopyAdd"; }

@@ -90,7 +90,10 @@ void FakeData::query(std::string_view sql, host::RowReceiver& receiver) {
     throw host::DataError("没有准备这个查询的结果:" + std::string(sql), std::string(sql));
 }
 
-void FakeData::execute(std::string_view batch, const host::LogEntry& entry) {
+void FakeData::execute(std::string_view batch, const host::LogEntry& entry,
+                       const host::WhyNot& why_not) {
+    const std::string reason = why_not ? why_not() : "";
+    if (!reason.empty()) throw host::DataError(reason, reason);
     if (!refusal_.empty()) {
         const std::string sentence = std::exchange(refusal_, {});
         throw host::DataError(sentence, sentence);

@@ -36,7 +36,8 @@ public:
     const std::vector<std::string>& queries() const { return queries_; }
 
     void query(std::string_view sql, host::RowReceiver& receiver) override;
-    void execute(std::string_view batch, const host::LogEntry& entry) override;
+    void execute(std::string_view batch, const host::LogEntry& entry,
+                 const host::WhyNot& why_not = {}) override;
 
 private:
     struct Prepared {

@@ -17,6 +17,7 @@ void FakeInterface::show_modal(host::TForm& form) {
 }
 
 bool FakeInterface::ask(const std::string& text) {
+    if (while_asked) while_asked();
     messages.push_back(text);
     questions.push_back(text);
     if (answers.empty()) return false;

@@ -21,6 +21,7 @@ public:
     std::vector<std::string> messages;  // of both kinds, in order
     std::vector<std::string> questions; // those that asked
     std::deque<bool> answers;
+    std::function<void()> while_asked; // what others do before the answer
     std::deque<std::function<void(host::TForm&)>> inside;
     std::optional<std::string> file; // chosen for an export
     std::string suggested_file;
