@@ -7,8 +7,7 @@
 -- the sum of the period, 2 the sum of the year, to which the first period adds what the year had
 -- moved before. The windows follow the order of the rows. The order of the joins is the way of
 -- looking things up: from the few accounts to their balances. INX is asked for as a range, so that
--- an account's balances are found by the index that keeps them side by side; the chart is read
--- through, since a jump for each account of a long range costs more.
+-- an account's balances are found by the index that keeps them side by side.
 CREATE PROCEDURE SYS_686 @P_year nvarchar(7), @p_show nvarchar(5) = '0', @KM_ID1 nvarchar(50),
     @KM_ID2 nvarchar(50) = NULL, @P_month1 nvarchar(7), @P_month2 nvarchar(7),
     @p_kmjb int = 5 AS
@@ -38,7 +37,7 @@ BEGIN
            ISNULL((SELECT SUM(Y.D) FROM D6602 Y WHERE Y.KM_ID = A.KM_ID AND Y.INX = 0
                    AND Y.QJ >= @year + '00' AND Y.QJ < @P_month1), 0.00)
     FROM D6801 A
-    WHERE A.KM_J <= @p_kmjb AND ISNULL(A.KM_ID, '') >= @KM_ID1 AND ISNULL(A.KM_ID, '') <= @last
+    WHERE A.KM_ID >= @KM_ID1 AND A.KM_ID <= @last AND A.KM_J <= @p_kmjb
       AND (@p_show <> '1'
            OR EXISTS (SELECT * FROM D6602 B
                       WHERE B.KM_ID = A.KM_ID AND B.INX = 0 AND (B.J <> 0 OR B.D <> 0)
