@@ -13,12 +13,15 @@ namespace {
 // Hands the first result set on; further ones are nobody's business.
 class FirstSet : public engines::ResultReceiver {
 public:
-    explicit FirstSet(host::RowReceiver& receiver) : receiver_(receiver) {}
+    // digest: of what is handed on, null when nobody wants it.
+    FirstSet(host::RowReceiver& receiver, ResultDigest* digest)
+        : receiver_(receiver), digest_(digest) {}
 
     void begin_set(std::span<const engines::Column> columns) override {
         wanted_ = !seen_;
         seen_ = true;
         if (!wanted_) return;
+        if (digest_ != nullptr) digest_->begin_set(columns.size());
         std::vector<host::ColumnDescription> descriptions;
         descriptions.reserve(columns.size());
         for (const engines::Column& column : columns)
@@ -29,6 +32,7 @@ public:
     }
     bool row(std::span<const engines::Value> values) override {
         if (!wanted_) return false;
+        if (digest_ != nullptr) digest_->row(values);
         for (std::size_t i = 0; i < values.size(); ++i)
             cells_[i] = view_of(values[i], storage_[i]);
         receiver_.row(cells_);
@@ -39,6 +43,7 @@ public:
 
 private:
     host::RowReceiver& receiver_;
+    ResultDigest* digest_;
     std::vector<host::CellView> cells_;
     std::vector<std::string> storage_;
     std::int64_t rows_ = 0;
@@ -111,7 +116,8 @@ private:
 };
 
 EngineData::EngineData(engines::Session& session, const host::Clock& clock, std::string user)
-    : session_(session), clock_(clock), user_(std::move(user)) {}
+    : session_(session), clock_(clock), user_(std::move(user)),
+      readings_(session) {}
 
 void EngineData::report_progress(Progress progress, std::chrono::milliseconds every) {
     progress_ = std::move(progress);
@@ -125,10 +131,15 @@ void EngineData::refuse_within_report() const {
 
 void EngineData::query(std::string_view sql, host::RowReceiver& receiver) {
     refuse_within_report();
-    FirstSet first(receiver);
+    ResultDigest digest;
+    const bool remembered = readings_.want_next();
+    FirstSet first(receiver, remembered ? &digest : nullptr);
     const Listening listening(*this, &first.rows());
     const engines::Outcome outcome = session_.read(sql, first);
-    if (outcome.ok()) return;
+    if (outcome.ok()) {
+        if (remembered) readings_.add(sql, digest);
+        return;
+    }
     switch (outcome.error->category) {
     case engines::ErrorCategory::interrupted:
         throw host::DataError("查询已取消,显示的内容没有更新!", outcome.error->text);
@@ -144,13 +155,16 @@ void EngineData::write(std::string_view batch, const host::LogEntry& entry,
                        const host::WhyNot& why_not) {
     const std::string reason = why_not ? why_not() : "";
     if (!reason.empty()) throw host::DataError(reason, "not run: " + reason);
+    if (!readings_.still_true())
+        throw host::DataError("别的用户刚刚更改了有关的数据,没有保存!请刷新后再试一次。",
+                              "what the act was decided on has changed");
     engines::ResultReceiver nobody;
     {
         const Listening listening(*this, nullptr);
         require(session_.execute_atomically(batch, nobody));
     }
     const engines::Outcome logged = append_log_row(session_, clock_.now(), user_, entry, batch);
-    if (logged.ok()) return;
+    if (logged.ok()) return readings_.written();
     session_.rollback();
     raise(*logged.error);
 }

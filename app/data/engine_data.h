@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 
+#include "app/data/remembered_readings.h"
 #include "engines/session.h"
 #include "host/ports/data_port.h"
 #include "host/ports/surroundings.h"
@@ -43,6 +44,8 @@ public:
     void query(std::string_view sql, host::RowReceiver& receiver) override;
     void execute(std::string_view batch, const host::LogEntry& entry,
                  const host::WhyNot& why_not = {}) override;
+    void hold_readings() override { readings_.begin_act(); }
+    void release_readings() override { readings_.end_act(); }
 
 private:
     class Listening;
@@ -52,6 +55,7 @@ private:
     engines::Session& session_;
     const host::Clock& clock_;
     std::string user_;
+    RememberedReadings readings_;
     Progress progress_;
     std::chrono::milliseconds every_{100};
     bool reporting_ = false;

@@ -336,6 +336,57 @@ TEST_F(Data, people_who_change_the_same_row_at_once_lose_nothing) {
     EXPECT_EQ(value("SELECT ZY FROM D6803 WHERE GUID='n'"), std::to_string(people * changes));
 }
 
+// ---- what an act was decided on ----
+
+TEST_F(Data, a_write_is_refused_when_somebody_else_changed_what_was_read_for_it) {
+    insert_summary("甲");
+    const auto other_session = open_books(books_);
+    EngineData other(*other_session, clock_, "li");
+    const auto decide_while_other_runs = [&](const std::string& read, const std::string& batch) {
+        Rows rows;
+        data_.hold_readings();
+        data_.query(read, rows);
+        other.execute(batch, {"683", "", "Edit"});
+        std::string said;
+        try {
+            insert_summary("乙");
+        } catch (const host::DataError& error) {
+            said = error.what();
+        }
+        data_.release_readings();
+        return said;
+    };
+    const std::string refusal = "别的用户刚刚更改了有关的数据,没有保存!请刷新后再试一次。";
+    EXPECT_EQ(decide_while_other_runs("SELECT ZY FROM D6803 WHERE GUID='甲'",
+                                      "UPDATE D6803 SET ZY='新' WHERE GUID='甲'"),
+              refusal);
+    EXPECT_EQ(decide_while_other_runs("SELECT COUNT(*) FROM D6803",
+                                      "INSERT INTO D6803 (GUID,ZY) VALUES ('丙','x')"),
+              refusal);
+    EXPECT_EQ(value("SELECT COUNT(*) FROM D6803 WHERE GUID='乙'"), "0");
+    EXPECT_EQ(decide_while_other_runs("SELECT ZY FROM D6803 WHERE GUID='甲'",
+                                      "UPDATE D6803 SET ZY='旧' WHERE GUID='丙'"),
+              "")
+        << "that was about something else";
+    EXPECT_EQ(value("SELECT COUNT(*) FROM D6803 WHERE GUID='乙'"), "1");
+    EXPECT_TRUE(automation::check_books(*session_).empty());
+}
+
+TEST_F(Data, an_act_inside_another_answers_for_its_own_readings_alone) {
+    const auto other_session = open_books(books_);
+    EngineData other(*other_session, clock_, "li");
+    Rows rows;
+    data_.hold_readings();
+    data_.query("SELECT COUNT(*) FROM D6803", rows);
+    data_.hold_readings();
+    other.execute("INSERT INTO D6803 (GUID,ZY) VALUES ('丙','x')", {"683", "", "Add"});
+    insert_summary("乙");
+    data_.release_readings();
+    EXPECT_THROW(insert_summary("丁"), host::DataError);
+    data_.release_readings();
+    insert_summary("丁");
+}
+
 TEST_F(Data, two_people_writing_in_turn_keep_one_chain) {
     const auto other_session = open_books(books_);
     EngineData other(*other_session, clock_, "li");

@@ -3,7 +3,7 @@
 
 #include "host/contract/U_dataop.h"
 #include "host/dataset/client_dataset.h"
-#include "host/ports/host.h"
+#include "host/ports/held_readings.h"
 #include "host/values/errors.h"
 #include "host/values/sql_text.h"
 #include "host/values/text.h"
@@ -45,6 +45,7 @@ std::string GetNOID(const std::string& code, const std::string& table, int) {
     for (int attempt = 0; attempt < most_attempts; ++attempt) {
         const std::string noid = prefix + padded(++number);
         try {
+            const HeldReadings none; // the key decides, not what the number was guessed from
             the_host().data->execute("INSERT INTO SYS_NUMBER (NOID) VALUES (" + quoted(noid) + ")",
                                      {code, noid, "Number"});
             return noid;

@@ -3,7 +3,7 @@
 
 #include "host/contract/U_function.h"
 #include "host/forms/form.h"
-#include "host/ports/host.h"
+#include "host/ports/held_readings.h"
 
 namespace host {
 
@@ -29,7 +29,10 @@ void release_others(Member& taken, Flag flag) {
 
 void TButton::Click() {
     if (!usable()) return;
-    if (OnClick) OnClick();
+    if (OnClick) {
+        const HeldReadings held;
+        OnClick();
+    }
     if (ModalResult != mrNone && form() != nullptr) form()->ModalResult = ModalResult;
 }
 
@@ -91,7 +94,9 @@ bool TAction::Execute() {
         DISPINFO("您没有“" + label() + "”的权限，请与系统管理员联系。", 5);
         return false;
     }
-    if (OnExecute) OnExecute();
+    if (!OnExecute) return true;
+    const HeldReadings held;
+    OnExecute();
     return true;
 }
 

@@ -47,13 +47,19 @@ using WhyNot = std::function<std::string()>;
 class DataPort {
 public:
     virtual ~DataPort() = default;
-    // Runs a batch and hands the first result set to `receiver`. Throws DataError.
+    // Runs a batch that reads and hands the first result set to `receiver`. Throws DataError, also
+    // for a batch that would change something, of which nothing is then done.
     virtual void query(std::string_view sql, RowReceiver& receiver) = 0;
     // Runs a batch in one transaction, all of it or nothing, and writes its row of the operation
     // log in the same transaction. Returns when it is durable. Throws DataError, also with the
     // reason that `why_not` gives; nothing was written then.
     virtual void execute(std::string_view batch, const LogEntry& entry,
                          const WhyNot& why_not = {}) = 0;
+    // What is queried between the two is what an act of a person is decided on: execute() within
+    // them writes nothing and throws DataError when somebody else has changed any of it since.
+    // They nest, and the inner act stands alone. See held_readings.h.
+    virtual void hold_readings() {}
+    virtual void release_readings() {}
 };
 
 } // namespace host
