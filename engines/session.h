@@ -42,10 +42,20 @@ public:
     // A transaction of the caller that spans batches; takes the right to write at once, so that
     // two sessions cannot both have read what only one may change. rollback() undoes all of it.
     virtual Outcome begin() = 0;
+    // A transaction of the caller in which everything is as read() has it: all its batches see one
+    // instant, none may write, and others go on writing. Ended by commit() or rollback().
+    virtual Outcome begin_reading() = 0;
     virtual Outcome commit() = 0;
     virtual void rollback() = 0;
     // @@TRANCOUNT: 0 outside a transaction.
     virtual int transaction_depth() const = 0;
+
+    // Writes down who changed the books: called in every transaction that changed them, just before
+    // its commit, with the batches of it that were not told yet, joined by GO. What it executes on
+    // this session belongs to the transaction, and the batch sees nothing of it: neither rows nor
+    // @@ROWCOUNT nor identities. A Failure that it throws undoes the transaction.
+    using Recorder = std::function<void(std::string_view batches)>;
+    virtual void set_recorder(Recorder recorder) = 0;
 
     // Ends the statement that runs, from any thread; the batch reports ErrorCategory::interrupted.
     virtual void interrupt() = 0;

@@ -49,8 +49,9 @@ TFrm_LogFilter::TFrm_LogFilter(TForm* parent) : TFrm_Sys_Filter(parent) {
 void TFrm_LogFilter::InitForm() {
     TFrm_Sys_Filter::InitForm();
     read_users();
-    std::vector<std::string> functions = {everything, function_caption("new")};
-    functions_ = {"", "new"};
+    std::vector<std::string> functions = {everything, function_caption("new"),
+                                          function_caption("sql")};
+    functions_ = {"", "new", "sql"};
     for (const WorkArea& area : work_areas())
         for (const Function& function : area.functions) {
             functions_.push_back(function.key());

@@ -44,7 +44,7 @@ int drive(const Wanted& wanted) {
     Workplace work(wanted.books, wanted.today);
     work.files().offer_pdf(pdf_writer());
     work.log_in(wanted.user, [&] { return given_password("用户 " + wanted.user + " 的密码: "); });
-    QueryWindow window(wanted.books, work.user().administrator, work.today());
+    QueryWindow window(wanted.books, work.user().administrator, work.user().id, work.today());
     automation::StreamRequests lines(std::cin);
     WatchedRequests requests(lines);
     automation::StreamAnswers answers(std::cout);

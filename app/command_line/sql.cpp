@@ -4,6 +4,8 @@
 
 #include "app/books/open.h"
 #include "app/command_line/commands.h"
+#include "app/data/direct_changes.h"
+#include "app/settings/surroundings.h"
 #include "automation/sql/sql_command.h"
 
 namespace app {
@@ -19,7 +21,9 @@ void add_sql(CLI::App& program, Chosen& chosen) {
     command->add_flag("--jsonl", wanted->json_lines, "每行一个 JSON 对象");
     command->callback([wanted, &chosen] {
         chosen = [wanted] {
+            const SystemClock clock;
             auto session = open_database(wanted->books);
+            log_direct_changes(*session, clock, system_user());
             const bool all_well =
                 wanted->json_lines
                     ? automation::run_sql_json_lines(*session, std::cin, std::cout)

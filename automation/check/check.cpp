@@ -69,6 +69,21 @@ private:
     bool stopped_ = false;
 };
 
+// All checks look at one instant: what somebody saves between two of them contradicts neither.
+// Where that cannot be had, the checks themselves tell what keeps the books from being read.
+class OneInstant {
+public:
+    explicit OneInstant(engines::Session& session) : session_(session) {
+        session_.begin_reading();
+    }
+    ~OneInstant() { session_.rollback(); }
+    OneInstant(const OneInstant&) = delete;
+    OneInstant& operator=(const OneInstant&) = delete;
+
+private:
+    engines::Session& session_;
+};
+
 void run(const Check& check, engines::Session& session, Audit& audit) {
     Findings findings;
     try {
@@ -83,6 +98,7 @@ void run(const Check& check, engines::Session& session, Audit& audit) {
 std::optional<Audit> run_all(std::span<const Check> wanted, engines::Session& session,
                              const AuditProgress& progress) {
     Audit audit;
+    const OneInstant instant(session);
     Telling telling(session, progress, std::ssize(wanted));
     for (const Check& check : wanted) {
         if (telling.begin(check.name)) run(check, session, audit);

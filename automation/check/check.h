@@ -25,8 +25,8 @@ struct Audit {
 using AuditProgress = std::function<bool(const std::string& check, std::int64_t done,
                                          std::int64_t all)>;
 
-// Runs every check; nullopt when it was stopped. A check that cannot run is a finding itself. Reads
-// only, in one pass a check; other users may go on working.
+// Runs every check on the state of one instant; nullopt when it was stopped. A check that cannot
+// run is a finding itself. Only reads; other users may go on working.
 std::optional<Audit> audit_books(engines::Session& session, const AuditProgress& progress = {});
 
 // The same for the operation log alone.

@@ -1,6 +1,8 @@
 // Batches, transactions of the caller, and the state of one connection.
 #include "engines/sqlite/session.h"
 
+#include <utility>
+
 #include "engines/sqlite/connection/backup.h"
 #include "engines/sqlite/connection/open_file.h"
 #include "engines/sqlite/functions/families.h"
@@ -50,7 +52,7 @@ public:
     ReadingScope& operator=(const ReadingScope&) = delete;
 
     void done() {
-        if (own_) transactions_.end_reading();
+        if (own_) transactions_.commit();
         open_ = false;
     }
 
@@ -65,13 +67,14 @@ private:
 // A mark of the running batch.
 class WhileRunning {
 public:
-    WhileRunning(bool& mark, bool value) : mark_(mark) { mark_ = value; }
-    ~WhileRunning() { mark_ = false; }
+    WhileRunning(bool& mark, bool value) : mark_(mark), before_(std::exchange(mark, value)) {}
+    ~WhileRunning() { mark_ = before_; }
     WhileRunning(const WhileRunning&) = delete;
     WhileRunning& operator=(const WhileRunning&) = delete;
 
 private:
     bool& mark_;
+    const bool before_;
 };
 
 } // namespace
@@ -120,9 +123,19 @@ void SqliteSession::transaction_begun() {
 }
 
 void SqliteSession::run_before_commit() {
-    if (options_.before_commit.procedure.empty()) return;
-    if (executor_.has_rows(options_.before_commit.pending_table))
-        executor_.run_procedure(options_.before_commit.procedure);
+    const BeforeCommit& settling = options_.before_commit;
+    if (!settling.procedure.empty() && executor_.has_rows(settling.pending_table))
+        executor_.run_procedure(settling.procedure);
+    if (!recorder_ || unrecorded_.empty() || !transactions_.changed_books()) return;
+    const WhileRunning recording(recording_, true);
+    recorder_(std::exchange(unrecorded_, {}));
+}
+
+void SqliteSession::remember_for_recorder(std::string_view batch) {
+    if (!recorder_) return;
+    if (transactions_.depth() == 0) unrecorded_.clear();
+    if (!unrecorded_.empty()) unrecorded_ += "\nGO\n";
+    unrecorded_ += batch;
 }
 
 Outcome SqliteSession::guarded(const std::function<void()>& action) {
@@ -146,6 +159,11 @@ Outcome SqliteSession::compile_and_run(std::string_view batch, ResultReceiver& r
         if (outside) refresh_catalog();
         const WhileRunning compiled_outside(compiled_outside_, outside);
         const tsql::CompiledBatch compiled = compiler_.compile(batch);
+        if (recording_) {
+            executor_.run_unseen(compiled, receiver);
+            return outcome;
+        }
+        remember_for_recorder(batch);
         outcome = executor_.run(compiled, receiver, contained);
         return outcome;
     } catch (const tsql::Refusal& refusal) {
@@ -230,6 +248,10 @@ Outcome SqliteSession::read(std::string_view batch, ResultReceiver& receiver) {
 
 Outcome SqliteSession::begin() {
     return guarded([&] { transactions_.begin(); });
+}
+
+Outcome SqliteSession::begin_reading() {
+    return guarded([&] { transactions_.begin_reading(); });
 }
 
 Outcome SqliteSession::commit() {

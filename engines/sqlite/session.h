@@ -15,9 +15,11 @@ public:
     Outcome execute_atomically(std::string_view batch, ResultReceiver& receiver) override;
     Outcome read(std::string_view batch, ResultReceiver& receiver) override;
     Outcome begin() override;
+    Outcome begin_reading() override;
     Outcome commit() override;
     void rollback() override;
     int transaction_depth() const override { return transactions_.depth(); }
+    void set_recorder(Recorder recorder) override { recorder_ = std::move(recorder); }
     void interrupt() override;
     void set_progress(BatchProgress listener, std::chrono::milliseconds every) override;
     void set_clock(std::optional<std::int64_t> day) override { executor_.set_clock(day); }
@@ -32,6 +34,7 @@ private:
     // Whether definitions were read anew.
     bool refresh_catalog();
     void transaction_begun();
+    void remember_for_recorder(std::string_view batch);
     void run_before_commit();
 
     const OpenOptions options_;
@@ -46,6 +49,9 @@ private:
     std::int64_t known_version_ = 0;
     bool compiled_outside_ = false; // the running batch was compiled before any transaction began
     StatementHandle data_version_;
+    Recorder recorder_;
+    std::string unrecorded_; // batches since the transaction began, or since they were told
+    bool recording_ = false; // the recorder is at work
 };
 
 } // namespace engines

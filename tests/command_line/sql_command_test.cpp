@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "tests/support/program.h"
+#include "tests/support/temporary_folder.h"
 
 namespace tests {
 
@@ -32,6 +33,22 @@ TEST(SqlCommand, json_lines_are_answered_one_for_one) {
     EXPECT_EQ(first, (nlohmann::json{{"id", 1}, {"columns", {"A"}}, {"rows", {{"1.00"}}},
                                      {"affected", first["affected"]}}));
     EXPECT_EQ(second["error"]["number"], 8134);
+}
+
+TEST(SqlCommand, changes_of_books_stand_in_the_operation_log) {
+    const TemporaryFolder folder;
+    const std::string books = folder.file("a.zf");
+    const ProgramRun made =
+        run_program({"new", books, "--company", "甲"}, "", {{"ZHANGFANG_PASSWORD", ""}});
+    ASSERT_EQ(made.status, 0) << made.errors;
+    const std::string last = "SELECT TOP 1 LEFT(USER_ID,1)+FUNCTION_CODE+OPERATION FROM SYS_LOG "
+                             "ORDER BY ID DESC\n";
+    EXPECT_EQ(run_program({"sql", books}, last).out.find("(sqlSql"), std::string::npos);
+    EXPECT_EQ(run_program({"sql", books}, "UPDATE D6801 SET PYM='X' WHERE KM_ID='1001'\n").status,
+              0);
+    EXPECT_NE(run_program({"sql", books}, last).out.find("(sqlSql"), std::string::npos);
+    const ProgramRun check = run_program({"check", books});
+    EXPECT_EQ(check.status, 0) << check.out;
 }
 
 } // namespace tests

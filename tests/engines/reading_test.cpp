@@ -130,6 +130,20 @@ TEST_F(Reading, inside_a_transaction_of_the_caller_sees_its_work_and_leaves_it_o
     EXPECT_EQ(cell(*session_, "SELECT COUNT(*) FROM T"), "2");
 }
 
+TEST_F(Reading, a_transaction_of_many_batches_sees_one_instant_and_writes_nothing) {
+    const auto other = open_impatient(path_);
+    ASSERT_TRUE(session_->begin_reading().ok());
+    EXPECT_TRUE(run(*other, "DELETE FROM T WHERE ID=1").ok());
+    EXPECT_EQ(cell(*session_, "SELECT COUNT(*) FROM T"), "3");
+    EXPECT_FALSE(run(*session_, "DELETE FROM T").ok());
+    EXPECT_TRUE(read(*session_, "SELECT 1").ok());
+    EXPECT_TRUE(run(*other, "DELETE FROM T WHERE ID=2").ok());
+    EXPECT_EQ(cell(*session_, "SELECT COUNT(*) FROM T"), "3");
+    ASSERT_TRUE(session_->commit().ok());
+    EXPECT_EQ(cell(*session_, "SELECT COUNT(*) FROM T"), "1");
+    EXPECT_TRUE(run(*session_, "DELETE FROM T").ok());
+}
+
 // ---- definitions that another session changes ----
 
 TEST(ChangedDefinitions, are_known_to_a_batch_that_joins_a_transaction_begun_before) {

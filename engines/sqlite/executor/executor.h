@@ -52,6 +52,8 @@ public:
     // Runs a procedure without arguments inside the present transaction, unseen by the batch;
     // errors travel as Failure.
     void run_procedure(const std::string& name);
+    // The same for a batch whose rows go to a receiver of its own.
+    void run_unseen(const tsql::CompiledBatch& batch, ResultReceiver& receiver);
     // Whether the table is there and holds anything.
     bool has_rows(const std::string& table);
 
@@ -75,6 +77,7 @@ public:
 
 private:
     // run_steps.cpp
+    Flow run_unit(const tsql::CompiledUnit& unit, const std::string& routine);
     Flow run_steps(const tsql::Steps& steps);
     Flow run_step(const tsql::Step& step);
     Flow dispatch(const tsql::Step& step);
@@ -144,6 +147,7 @@ private:
     Flow throw_step(const tsql::ThrowStep& step);
 
     // run_routine.cpp
+    class Unseen;
     Flow execute(const tsql::ExecuteStep& step);
     Flow execute_text(const tsql::ExecuteTextStep& step);
     Flow run_batch_text(const std::string& text);

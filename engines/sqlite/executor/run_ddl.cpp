@@ -48,6 +48,7 @@ Flow Executor::ddl(const tsql::Ddl& ddl) {
     unchanged_.reset();
     if (!ddl.change.temporary) refuse_while_reading();
     StatementScope scope(parts_.transactions, true);
+    if (!ddl.change.temporary) parts_.transactions.note_change();
     std::vector<std::string> constants;
     for (const tsql::SqlQuery& query : ddl.constants) {
         const tsql::Type& type = query.columns.front().type;

@@ -44,6 +44,7 @@ Flow Executor::dml(const tsql::SqlDml& dml) {
     StatementScope scope(parts_.transactions, undoable);
     std::int64_t rows = 0;
     const Flow flow = write_and_fire(dml, rows);
+    if (rows > 0 && !is_temporary(dml.table)) parts_.transactions.note_change();
     scope.done();
     if (flow == Flow::end_batch) {
         if (triggers_ == 0 && std::exchange(trigger_undone_, false))

@@ -163,46 +163,60 @@ Flow Executor::run_batch_text(const std::string& text) {
     const tsql::CompiledBatch batch = parts_.compiler.compile(text);
     const Count nested(nesting_);
     for (const tsql::CompiledUnit& unit : batch.units) {
-        Frame frame;
-        frame.owner = unit.plan;
-        frame.plan = unit.plan.get();
-        frame.literals = &unit.literals;
-        frame.base = unit.at;
-        frame.routine = frame_->routine;
-        frame.variables.resize(unit.plan->variables.size());
-        const FrameScope scope(frame_, frame);
-        const Flow flow = run_steps(unit.plan->steps);
+        const Flow flow = run_unit(unit, frame_->routine);
         if (flow == Flow::end_batch) return flow;
         if (flow == Flow::leave_routine) break;
     }
     return Flow::next;
 }
 
+// Puts a receiver and a sink in place for the time of a scope, and back what a batch can see.
+class Executor::Unseen {
+public:
+    Unseen(Executor& executor, ResultReceiver& receiver, RowSink& sink)
+        : executor_(executor), receiver_(std::exchange(executor.receiver_, &receiver)),
+          sink_(std::exchange(executor.sink_, &sink)), rows_(executor.row_count_),
+          last_error_(executor.last_error_), affected_(executor.outcome_.affected),
+          identity_(executor.identity_), scope_identity_(executor.scope_identity_),
+          errors_travel_(executor.catchers_) {}
+    ~Unseen() {
+        executor_.receiver_ = receiver_;
+        executor_.sink_ = sink_;
+        executor_.row_count_ = rows_;
+        executor_.last_error_ = last_error_;
+        executor_.outcome_.affected = affected_;
+        executor_.identity_ = identity_;
+        executor_.scope_identity_ = scope_identity_;
+    }
+    Unseen(const Unseen&) = delete;
+    Unseen& operator=(const Unseen&) = delete;
+
+private:
+    Executor& executor_;
+    ResultReceiver* const receiver_;
+    RowSink* const sink_;
+    const std::int64_t rows_;
+    const int last_error_;
+    const std::int64_t affected_;
+    const std::optional<std::int64_t> identity_, scope_identity_;
+    const Count errors_travel_;
+};
+
 void Executor::run_procedure(const std::string& name) {
     const auto routine = parts_.compiler.routine(name);
     if (!routine) return;
     ResultReceiver unheard;
-    KeepingSink unseen;
-    ResultReceiver* const receiver = std::exchange(receiver_, &unheard);
-    RowSink* const sink = std::exchange(sink_, &unseen);
-    const std::int64_t rows = row_count_;
-    const std::int64_t affected = outcome_.affected;
-    const auto restore = [&] {
-        receiver_ = receiver;
-        sink_ = sink;
-        row_count_ = rows;
-        outcome_.affected = affected;
-    };
-    try {
-        Frame frame = frame_of(routine);
-        fill_defaults(*routine, frame, {});
-        const Count catcher(catchers_);
-        run_routine(routine, frame);
-    } catch (...) {
-        restore();
-        throw;
-    }
-    restore();
+    KeepingSink nowhere;
+    const Unseen unseen(*this, unheard, nowhere);
+    Frame frame = frame_of(routine);
+    fill_defaults(*routine, frame, {});
+    run_routine(routine, frame);
+}
+
+void Executor::run_unseen(const tsql::CompiledBatch& batch, ResultReceiver& receiver) {
+    ClientSink client(receiver);
+    const Unseen unseen(*this, receiver, client);
+    for (const tsql::CompiledUnit& unit : batch.units) run_unit(unit, "");
 }
 
 Stored Executor::call(std::string_view function, std::span<sqlite3_value* const> arguments,

@@ -28,14 +28,7 @@ Outcome Executor::run(const tsql::CompiledBatch& batch, ResultReceiver& receiver
     unchanged_.reset();
     progress_.begin(static_cast<std::int64_t>(batch.units.size()));
     for (const tsql::CompiledUnit& unit : batch.units) {
-        Frame frame;
-        frame.owner = unit.plan;
-        frame.plan = unit.plan.get();
-        frame.literals = &unit.literals;
-        frame.base = unit.at;
-        frame.variables.resize(unit.plan->variables.size());
-        const FrameScope scope(frame_, frame);
-        const Flow flow = run_steps(unit.plan->steps);
+        const Flow flow = run_unit(unit, "");
         if (flow == Flow::end_batch || flow == Flow::leave_routine) break;
         progress_.statement_done();
     }
@@ -53,6 +46,18 @@ Outcome Executor::run(const tsql::CompiledBatch& batch, ResultReceiver& receiver
     return std::move(outcome_);
 }
 
+Flow Executor::run_unit(const tsql::CompiledUnit& unit, const std::string& routine) {
+    Frame frame;
+    frame.owner = unit.plan;
+    frame.plan = unit.plan.get();
+    frame.literals = &unit.literals;
+    frame.base = unit.at;
+    frame.routine = routine;
+    frame.variables.resize(unit.plan->variables.size());
+    const FrameScope scope(frame_, frame);
+    return run_steps(unit.plan->steps);
+}
+
 void Executor::check_interrupted() {
     if (!interrupted_) return;
     Error error;
@@ -63,7 +68,7 @@ void Executor::check_interrupted() {
 }
 
 void Executor::refuse_while_reading() const {
-    if (reading_)
+    if (reading_ || parts_.transactions.reading())
         raise_error(3906, "The batch may only read; a statement that changes the books or their "
                           "transaction is not run.");
 }
@@ -110,7 +115,8 @@ Flow Executor::on_error(const tsql::Step& step, Error error) {
             parts_.transactions.doom();
         throw Failure(std::move(error));
     }
-    if (undoes_all && functions_ == 0 && !contained_) parts_.transactions.rollback();
+    const bool anything_to_undo = !contained_ && !parts_.transactions.reading();
+    if (undoes_all && functions_ == 0 && anything_to_undo) parts_.transactions.rollback();
     if (propagates()) throw Failure(std::move(error));
     report(error);
     return undoes_all || contained_ ? Flow::end_batch : Flow::next;

@@ -44,6 +44,7 @@ void Transactions::start(StatementHandle& statement, const char* text) {
     }
     at_begin_ = catalog_.state();
     doomed_ = false;
+    changed_books_ = false;
     savepoints_.clear();
     if (open_scopes_ == 0) numbers_ = 0;
 }
@@ -53,10 +54,13 @@ void Transactions::start_writing() {
 }
 
 void Transactions::finish() {
-    if (before_commit_) before_commit_();
-    identities_.flush();
+    if (!reading_) {
+        if (before_commit_) before_commit_();
+        identities_.flush();
+    }
     run(commit_, "COMMIT");
     depth_ = 0;
+    reading_ = false;
     savepoints_.clear();
 }
 
@@ -66,14 +70,11 @@ void Transactions::begin() {
 }
 
 void Transactions::begin_reading() {
-    start(begin_reading_, "BEGIN");
-    depth_ = 1;
-}
-
-void Transactions::end_reading() {
-    run(commit_, "COMMIT");
-    depth_ = 0;
-    savepoints_.clear();
+    if (depth_ == 0) {
+        start(begin_reading_, "BEGIN");
+        reading_ = true;
+    }
+    ++depth_;
 }
 
 void Transactions::commit() {
@@ -98,6 +99,7 @@ void Transactions::rollback() {
     if (depth_ == 0) return;
     depth_ = 0;
     doomed_ = false;
+    reading_ = false;
     savepoints_.clear();
     if (sqlite3_get_autocommit(connection_) == 0) run(rollback_, "ROLLBACK");
     identities_.forget();

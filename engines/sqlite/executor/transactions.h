@@ -31,11 +31,16 @@ public:
     // A reader's transaction does not take the right to write.
     void set_read_only(bool read_only) { read_only_ = read_only; }
 
+    // Whether the present transaction wrote to anything but temporary tables.
+    bool changed_books() const { return changed_books_; }
+    void note_change() { changed_books_ = true; }
+
     void begin();
     // A transaction that sees the state of one instant and does not take the right to write; the
-    // caller sees to it that nothing but temporary tables is written in it.
+    // executor sees to it that nothing but temporary tables is written in it. Joins the one that
+    // is open already.
     void begin_reading();
-    void end_reading();
+    bool reading() const { return reading_; }
     // Error 3902 without a transaction, 3930 when it is doomed.
     void commit();
     void rollback();
@@ -79,6 +84,8 @@ private:
     int numbers_ = 0;
     int open_scopes_ = 0; // statements around the running one that have a savepoint
     bool doomed_ = false;
+    bool reading_ = false; // begun by begin_reading
+    bool changed_books_ = false;
     bool read_only_ = false;
     tsql::Catalog::State at_begin_;
     std::vector<Savepoint> savepoints_;
