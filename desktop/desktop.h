@@ -39,6 +39,11 @@ struct DesktopServices {
     std::string last_user;
     std::vector<std::string> recent_books; // those that are open first
     std::function<void(const std::string& books)> open_books; // starts over with another set
+    // Puts a backup in the place of the open books: what the person is asked before (throws
+    // std::exception, whose text says why it cannot be), and what is noted once he agreed and the
+    // window is closed. Whoever called run() carries it out then.
+    std::function<std::string(const std::string& file)> restore_question;
+    std::function<void(const std::string& file)> restore;
     std::optional<Screenshot> screenshot;
 };
 
@@ -55,7 +60,10 @@ using ReportProgress =
 void work_with_progress(int argc, char** argv,
                         const std::function<void(const ReportProgress& report)>& work);
 
-// Shows one sentence in a window of its own, for a program that cannot go on; returns 1.
+// Shows one sentence in a window of its own, while there is no frame.
+void tell(int argc, char** argv, const std::string& sentence);
+
+// The same for a program that cannot go on; returns 1.
 int show_failure(int argc, char** argv, const std::string& sentence);
 
 } // namespace desktop

@@ -1,6 +1,7 @@
 // Verified copies, and the old books put aside.
 #include "app/books/backup.h"
 
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
 
@@ -8,6 +9,7 @@
 #include "app/books/open.h"
 #include "app/books/pending_file.h"
 #include "app/refusal.h"
+#include "automation/sql/collected_result.h"
 
 namespace app {
 
@@ -113,6 +115,22 @@ void backup_books(const std::string& books, const std::string& file,
                   const CopyProgress& progress) {
     require_file(books);
     backup_session(*open_books(books), books, file, progress);
+}
+
+std::string contents_of_backup(const std::string& file) {
+    const auto backup = open_backup(file);
+    const auto told = automation::rows_of(
+        *backup, "SELECT (SELECT VALUE FROM SYS_SETTING WHERE NAME='company'),"
+                 "(SELECT PARAM FROM D6600 WHERE ID=2)");
+    const std::string period = told[0][1].value_or("");
+    return told[0][0].value_or("") + (period.empty() ? ",还没有建帐" : ",会计期间 " + period);
+}
+
+std::string moment_in_name(const host::DateTime& moment) {
+    std::string text = moment.to_text().substr(0, 19);
+    std::erase_if(text, [](char c) { return c == '-' || c == ':'; });
+    std::replace(text.begin(), text.end(), ' ', '-');
+    return text;
 }
 
 std::string restore_books(const std::string& file, const std::string& books,

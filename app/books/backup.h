@@ -5,6 +5,7 @@
 #include <string>
 
 #include "engines/session.h"
+#include "host/values/date.h"
 
 namespace app {
 
@@ -22,10 +23,17 @@ void backup_books(const std::string& books, const std::string& file,
 void backup_session(engines::Session& session, const std::string& name, const std::string& file,
                     const CopyProgress& progress);
 
+// Whose books a backup holds and how far they are: "测试公司,会计期间 2024-03". Throws Refusal when
+// the file is no set of books.
+std::string contents_of_backup(const std::string& file);
+
+// A moment as it stands in the name of books kept beside: "20240305-140506".
+std::string moment_in_name(const host::DateTime& moment);
+
 // Makes the books what the backup holds. Books that exist are kept beside under a name with the
-// moment of restoring; the name is answered ("" when there were none). Refused while somebody
-// else has the books open, and when the backup is damaged. Throws Refusal, also when it was
-// stopped: which it can be until the copy is complete.
+// moment of restoring (moment_in_name); the name is answered ("" when there were none). Refused
+// while somebody else has the books open, and when the backup is damaged. Throws Refusal, also
+// when it was stopped: which it can be until the copy is complete.
 std::string restore_books(const std::string& file, const std::string& books,
                           const std::string& moment, const CopyProgress& progress = {});
 

@@ -126,6 +126,24 @@ TEST_F(Backup, an_existing_file_is_never_replaced_by_a_copy) {
     EXPECT_EQ(fs::file_size(copy_), 11u);
 }
 
+TEST_F(Backup, tells_whose_books_it_holds_and_how_far_they_are) {
+    backup_books(books_, copy_);
+    const std::string company = *automation::rows_of(
+        *open_books(books_), "SELECT VALUE FROM SYS_SETTING WHERE NAME='company'")[0][0];
+    EXPECT_EQ(contents_of_backup(copy_), company + ",还没有建帐");
+    automation::rows_of(*open_books(copy_), "UPDATE D6600 SET PARAM='2024-03' WHERE ID=2");
+    EXPECT_EQ(contents_of_backup(copy_), company + ",会计期间 2024-03");
+    const std::string letter = folder_.file("letter.txt");
+    std::ofstream(letter) << "Dear Sir";
+    EXPECT_THROW(contents_of_backup(letter), Refusal);
+    EXPECT_THROW(contents_of_backup(folder_.file("nothing.zf")), Refusal);
+}
+
+TEST(MomentInName, has_nothing_that_a_file_name_does_not_take) {
+    EXPECT_EQ(moment_in_name(*host::DateTime::parse("2024-03-05 14:05:06")),
+              "20240305-140506");
+}
+
 TEST_F(Backup, what_is_no_backup_is_refused_and_the_books_stay) {
     write(books_, "before");
     std::ofstream(copy_) << std::string(10'000, 'x');

@@ -1,5 +1,4 @@
 // zhangfang backup BOOKS FILE, zhangfang restore FILE BOOKS
-#include <algorithm>
 #include <memory>
 
 #include "app/books/backup.h"
@@ -15,14 +14,6 @@ struct Names {
     std::string books, file;
 };
 
-// "20240305-140506", fit for a file name.
-std::string moment() {
-    std::string text = SystemClock().now().to_text().substr(0, 19);
-    std::erase_if(text, [](char c) { return c == '-' || c == ':'; });
-    std::replace(text.begin(), text.end(), ' ', '-');
-    return text;
-}
-
 CopyProgress shown_on(TerminalProgress& terminal) {
     return [&terminal](const std::string& what, std::int64_t done, std::int64_t all) {
         return terminal.report(what, done, all);
@@ -37,7 +28,8 @@ void back_up(const Names& names) {
 
 std::string restore(const Names& names) {
     TerminalProgress terminal;
-    return restore_books(names.file, names.books, moment(), shown_on(terminal));
+    return restore_books(names.file, names.books, moment_in_name(SystemClock().now()),
+                         shown_on(terminal));
 }
 
 } // namespace

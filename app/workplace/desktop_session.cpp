@@ -11,6 +11,7 @@
 #include "app/login/attempts.h"
 #include "app/login/password_source.h"
 #include "app/refusal.h"
+#include "app/workplace/desktop_restore.h"
 #include "app/workplace/module.h"
 #include "app/workplace/pdf_writer.h"
 #include "app/workplace/workplace.h"
@@ -111,6 +112,9 @@ desktop::DesktopServices services_for(const DesktopWanted& wanted, const std::st
     services.last_user = work.settings().read(settings_section, last_user, "admin");
     services.recent_books = {books};
     services.open_books = start_over;
+    services.restore_question = [&work, books](const std::string& file) {
+        return restore_question(file, books, work.user().administrator);
+    };
     if (!wanted.screenshot.empty())
         services.screenshot = desktop::Screenshot{wanted.function, wanted.screenshot, wanted.keys,
                                                   wanted.width, wanted.height};
@@ -133,7 +137,14 @@ bool let_in_without_asking(Workplace& work, const DesktopWanted& wanted, const s
     }
 }
 
-int run_on(const DesktopWanted& wanted, const std::string& books, int argc, char** argv) {
+// What is left to do when the window and the books are closed.
+struct Ended {
+    int status = 0;
+    std::string backup; // to be put in the place of the books; "" for none
+};
+
+Ended run_on(const DesktopWanted& wanted, const std::string& books, int argc, char** argv) {
+    Ended ended;
     Module::loaded();
     Workplace work(books, wanted.today);
     work.files().offer_pdf(pdf_writer());
@@ -141,7 +152,9 @@ int run_on(const DesktopWanted& wanted, const std::string& books, int argc, char
     work.settings().write(settings_section, last_books, books);
     desktop::DesktopServices services = services_for(wanted, books, work, frame);
     if (let_in_without_asking(work, wanted, services.last_user)) services.log_in = nullptr;
-    return desktop::run(argc, argv, services);
+    services.restore = [&ended](const std::string& file) { ended.backup = file; };
+    ended.status = desktop::run(argc, argv, services);
+    return ended;
 }
 
 } // namespace
@@ -153,7 +166,12 @@ int run_desktop(const DesktopWanted& wanted) {
         throw Refusal("这里没有图形显示,不能打开桌面;请用 zhangfang drive、sql 或 check!");
     char* argv[] = {program_name, nullptr};
     try {
-        return run_on(wanted, books_to_open(wanted.books), 1, argv);
+        const std::string books = books_to_open(wanted.books);
+        const Ended ended = run_on(wanted, books, 1, argv);
+        if (ended.backup.empty()) return ended.status;
+        restore_on_desktop(ended.backup, books);
+        start_over(books);
+        return ended.status;
     } catch (const Refusal& refusal) {
         if (!wanted.screenshot.empty()) throw; // nobody is there to read it in a window
         return desktop::show_failure(1, argv, refusal.what());

@@ -9,6 +9,7 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
+#include "desktop/dialogs/message_dialog.h"
 #include "desktop/frame/brand.h"
 #include "desktop/frame/menus.h"
 #include "desktop/frame/status_line.h"
@@ -242,6 +243,17 @@ void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(close_forms
 
 void MainWindow::start_over(const std::string& books) {
     if (services_.open_books && close_forms()) services_.open_books(books);
+}
+
+// Nothing may hold the books while another file takes their place, so the window goes first.
+void MainWindow::restore_from(const std::string& backup) {
+    const QString title = QStringLiteral("从备份恢复");
+    try {
+        if (!ask_question(title, services_.restore_question(backup), this) || !close()) return;
+    } catch (const std::exception& refusal) {
+        return show_message(title, refusal.what(), this);
+    }
+    services_.restore(backup);
 }
 
 // A click beside every control of a form leaves the focus where the form has it.

@@ -47,6 +47,7 @@ public:
     void step_tab(int by);
     void find_function();
     void start_over(const std::string& books); // with other books, or as somebody else
+    void restore_from(const std::string& backup); // asks; the window then closes
 
 protected:
     void showEvent(QShowEvent* event) override;

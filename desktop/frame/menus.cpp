@@ -40,6 +40,14 @@ void add_file_menu(QMenuBar& bar, MainWindow& window) {
                 [&window] { window.start_over(window.services().recent_books.front()); });
         menu->addSeparator();
     }
+    if (services.restore) {
+        add(*menu, QStringLiteral("从备份恢复…"), {}, [&window] {
+            const QString file = QFileDialog::getOpenFileName(
+                &window, QStringLiteral("从备份恢复"), {}, QStringLiteral("帐套 (*.zf);;所有文件 (*)"));
+            if (!file.isEmpty()) window.restore_from(utf8(file));
+        });
+        menu->addSeparator();
+    }
     add(*menu, QStringLiteral("关闭当前页"), "Ctrl+W", [&window] { window.close_in_front(); });
     add(*menu, QStringLiteral("退出"), "Ctrl+Q", [&window] { window.close(); });
 }

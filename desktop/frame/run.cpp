@@ -97,6 +97,12 @@ void work_with_progress(int argc, char** argv,
     });
 }
 
+void tell(int argc, char** argv, const std::string& sentence) {
+    QApplication application(argc, argv);
+    apply_theme(application);
+    show_message(QStringLiteral("帐房"), sentence, nullptr);
+}
+
 int show_failure(int argc, char** argv, const std::string& sentence) {
     QApplication application(argc, argv);
     apply_theme(application);

@@ -83,6 +83,11 @@ Desk::Desk(std::function<void(int)> open, const std::string& today,
     services.has_function = [](const std::string& key) {
         return host::the_host().may({key, "open"});
     };
+    services.restore_question = [](const std::string& file) {
+        if (file == "信件.txt") throw std::runtime_error("信件.txt 不是帐套!");
+        return "要用备份 " + file + " 替换当前帐套吗?";
+    };
+    services.restore = [this](const std::string& file) { restored.push_back(file); };
     window_ = std::make_unique<desktop::MainWindow>(services);
     interface_.set_window(window_.get());
     window_->resize(1440, 900);

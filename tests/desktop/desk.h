@@ -37,6 +37,7 @@ public:
     // unless `look` ended it.
     std::vector<std::string> messages; // texts shown, oldest first
     std::vector<bool> answers;         // for the next questions
+    std::vector<std::string> restored;       // backups that are to take the books' place
     std::vector<std::string> administration; // names of the host's functions opened, in order
     QImage picture();                  // the frame with whatever stands over it
     void keep(const std::string& name); // writes the picture where ZF_PICTURES says, if it does
