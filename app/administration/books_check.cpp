@@ -11,7 +11,6 @@ namespace {
 
 constexpr const char* damage = "问题";
 constexpr const char* hint = "提示";
-constexpr Color red = 255;
 
 } // namespace
 
@@ -70,7 +69,7 @@ void TFrm_Check::add_row(const std::string& kind, const std::string& check,
 
 void TFrm_Check::DBGridEhGetCellParams(TField& field, CellParams& params) {
     TFrm_Base_Qry::DBGridEhGetCellParams(field, params);
-    if (AdoQry_Main.FieldByName("KIND").AsText() == damage) params.Font = red;
+    if (AdoQry_Main.FieldByName("KIND").AsText() == damage) params.Font = clRed;
 }
 
 } // namespace app

@@ -1,6 +1,7 @@
 // Enter or change one role.
 #include "app/administration/role.h"
 
+#include "app/administration/new_id.h"
 #include "host/values/errors.h"
 #include "host/values/sql_text.h"
 #include "host/values/text.h"
@@ -44,15 +45,7 @@ void TFrm_Role::RefreshData() {
 
 void TFrm_Role::ROLE_IDExit() {
     if (leaving_by_cancel() || !adding()) return;
-    CheckId(ROLE_ID, "角色号");
-    TClientDataSet known;
-    opensql(known, FunctionCode,
-            "SELECT ROLE_ID FROM SYS_ROLE WHERE ROLE_ID=" + quoted(ROLE_ID.Text.get()));
-    if (known.IsEmpty()) return;
-    DISPINFO("角色号“" + ROLE_ID.Text.get() + "”已登记,请换一个!", 5);
-    SetFocusTo(ROLE_ID);
-    ROLE_ID.SelectAll();
-    Abort();
+    require_new_id(*this, ROLE_ID, "角色号", "SELECT ROLE_ID FROM SYS_ROLE WHERE ROLE_ID=");
 }
 
 void TFrm_Role::ROLE_NAMEExit() {

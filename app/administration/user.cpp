@@ -1,6 +1,7 @@
 // Enter or change one user.
 #include "app/administration/user.h"
 
+#include "app/administration/new_id.h"
 #include "app/administration/password_entry.h"
 #include "app/administration/user_statements.h"
 #include "app/login/password.h"
@@ -68,15 +69,7 @@ void TFrm_User::RefreshData() {
 
 void TFrm_User::USER_IDExit() {
     if (leaving_by_cancel() || !adding()) return;
-    CheckId(USER_ID, "用户号");
-    TClientDataSet known;
-    opensql(known, FunctionCode,
-            "SELECT USER_ID FROM SYS_USER WHERE USER_ID=" + quoted(USER_ID.Text.get()));
-    if (known.IsEmpty()) return;
-    DISPINFO("用户号“" + USER_ID.Text.get() + "”已登记,请换一个!", 5);
-    SetFocusTo(USER_ID);
-    USER_ID.SelectAll();
-    Abort();
+    require_new_id(*this, USER_ID, "用户号", "SELECT USER_ID FROM SYS_USER WHERE USER_ID=");
 }
 
 void TFrm_User::USER_NAMEExit() {

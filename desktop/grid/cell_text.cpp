@@ -6,8 +6,6 @@
 namespace desktop {
 namespace {
 
-constexpr int amount_tag = 9;
-
 const host::TField* field_of(const host::TDBGridEh& grid, const host::GridColumn& column) {
     return grid.DataSet ? grid.DataSet->FindField(column.FieldName) : nullptr;
 }
@@ -15,7 +13,7 @@ const host::TField* field_of(const host::TDBGridEh& grid, const host::GridColumn
 } // namespace
 
 bool is_amount_column(const host::TDBGridEh& grid, const host::GridColumn& column) {
-    if (column.Tag == amount_tag || column.RuledAmount) return true;
+    if (column.Tag == host::amount_tag || column.RuledAmount) return true;
     const host::TField* field = field_of(grid, column);
     return field && field->Type == host::FieldType::Amount;
 }

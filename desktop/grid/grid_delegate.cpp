@@ -46,8 +46,6 @@ bool is_set(const QString& text) {
     return text == "1" || text.compare("True", Qt::CaseInsensitive) == 0;
 }
 
-constexpr host::Color summary_ink = 0xFF0000;
-
 } // namespace
 
 GridDelegate::GridDelegate(GridView& view) : QStyledItemDelegate(&view), view_(view) {}
@@ -69,13 +67,13 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 // A summary is blue to its end; a blue item alone is a heading and keeps the ground of its line.
 bool GridDelegate::is_summary(int row) const {
     const int last = static_cast<int>(view_.grid()->Columns.size()) - 1;
-    return view_.grid()->cell_params(row, last).Font == summary_ink;
+    return view_.grid()->cell_params(row, last).Font == host::clBlue;
 }
 
 QColor GridDelegate::ground_of(int row, const host::CellParams& params) const {
     QColor ground = token::of(params.Background, token::paper_0);
     // Rows a form writes in blue are summaries: they stand on a ground of their own.
-    if (params.Background == host::clDefault && params.Font == summary_ink && is_summary(row))
+    if (params.Background == host::clDefault && params.Font == host::clBlue && is_summary(row))
         ground = token::summary_ground;
     if (view_.row_edited(row)) ground = token::indigo_4;
     else if (view_.row_selected(row))

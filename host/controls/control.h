@@ -9,9 +9,11 @@
 
 namespace host {
 
-// Colours are numbers in blue-green-red order, as forms give them: 255 is red, 0xFF0000 blue.
+// Colours are numbers in blue-green-red order, as forms give them.
 using Color = std::int32_t;
 inline constexpr Color clDefault = -1;
+inline constexpr Color clRed = 255;       // negative amounts, and what is wrong
+inline constexpr Color clBlue = 0xFF0000; // rows that sum up, and what is right
 
 class TControl : public TComponent {
 public:

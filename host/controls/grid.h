@@ -14,6 +14,9 @@ namespace host {
 
 enum class FooterKind { None, Sum, Text, Count };
 
+// Marks a column of amounts: they stand to the right, negative ones in red.
+inline constexpr int amount_tag = 9;
+
 // One column. The title may hold "upper|lower": neighbours with the same upper part are grouped.
 struct GridColumn {
     std::string FieldName;
@@ -22,7 +25,7 @@ struct GridColumn {
     bool ReadOnly = false;
     bool Visible = true;
     Alignment Align = Alignment::Left;
-    int Tag = 0;              // 9 marks an amount column: negative values are red
+    int Tag = 0;              // amount_tag, or nothing
     bool CheckBox = false;    // shows a flag as a check mark
     bool RuledAmount = false; // shows an amount in ruled digit boxes
     bool Button = false;      // has a lookup button (F4, driver "lookup")

@@ -1,6 +1,7 @@
 // Forms with a main grid: actions, columns, colours.
 #include "host/forms/Base_Panel.h"
 
+#include "host/controls/amount_column.h"
 #include "host/forms/parts/paper_job.h"
 #include "host/forms/parts/sheet_export.h"
 #include "host/ports/host.h"
@@ -8,13 +9,6 @@
 #include "host/printing/grid_sheet.h"
 
 namespace host {
-
-namespace {
-
-constexpr Color red = 255;
-constexpr int amount_tag = 9;
-
-} // namespace
 
 TFrm_Base_Panel::TFrm_Base_Panel(TForm* parent) : TFrm_Base_Common(parent) {
     Act_Add.OnExecute = [this] { Act_AddExecute(); };
@@ -68,10 +62,8 @@ GridColumn& TFrm_Base_Panel::AddAmountColumn(const std::string& field, const std
                                              int width) {
     TField& amount = AdoQry_Main.DefineField(field, FieldType::Amount);
     if (amount.DisplayFormat.empty()) amount.DisplayFormat = "0.00";
-    GridColumn& column = AddColumn(field, title, width);
-    column.Align = Alignment::Right;
-    column.Tag = amount_tag;
-    return column;
+    DBGridEh.Columns.push_back(amount_column(field, title, width, FooterKind::None));
+    return DBGridEh.Columns.back();
 }
 
 void TFrm_Base_Panel::Act_QuitExecute() { Close(); }
@@ -89,7 +81,7 @@ void TFrm_Base_Panel::DBGridEhDblClick() {}
 void TFrm_Base_Panel::DBGridEhGetCellParams(TField& field, CellParams& params) {
     const int index = DBGridEh.column_index(field.FieldName);
     if (index < 0 || DBGridEh.Columns[static_cast<std::size_t>(index)].Tag != amount_tag) return;
-    if (field.AsAmount().is_negative()) params.Font = red;
+    if (field.AsAmount().is_negative()) params.Font = clRed;
 }
 
 void TFrm_Base_Panel::FormKeyDown(Key& key) { TFrm_Base_Common::FormKeyDown(key); }

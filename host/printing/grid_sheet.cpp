@@ -11,10 +11,6 @@ namespace host {
 
 namespace {
 
-constexpr Color red = 255;
-constexpr Color blue = 0xFF0000; // rows that sum up
-constexpr int amount_tag = 9;
-
 bool is_money(const TDBGridEh& grid, const GridColumn& column) {
     const TField* field = grid.DataSet->FindField(column.FieldName);
     return column.Tag == amount_tag || column.RuledAmount ||
@@ -70,8 +66,8 @@ SheetCell grid_cell(TDBGridEh& grid, int row, int column, bool amount) {
     cell.value = shown_value(*field, value, cell.text, amount);
     const CellParams params = grid.cell_params(row, column);
     const auto* money = std::get_if<Amount>(&cell.value);
-    cell.red = params.Font == red || (amount && money != nullptr && money->is_negative());
-    cell.bold = params.Bold || params.Font == blue;
+    cell.red = params.Font == clRed || (amount && money != nullptr && money->is_negative());
+    cell.bold = params.Bold || params.Font == clBlue;
     return cell;
 }
 

@@ -9,13 +9,6 @@ namespace module {
 
 TF6689* F6689 = nullptr;
 
-namespace {
-
-constexpr Color red = 255;
-constexpr Color blue = 0xFF0000;
-
-} // namespace
-
 // ---- opening ----
 
 TF6689::TF6689(TForm* parent) : TFrm_Base_Qry(parent) {
@@ -34,8 +27,8 @@ TF6689::TF6689(TForm* parent) : TFrm_Base_Qry(parent) {
         button->OnClick = [this, level] { LevelClick(level); };
     }
     Balanced.Visible = Unbalanced.Visible = false;
-    Balanced.FontColor = blue;
-    Unbalanced.FontColor = red;
+    Balanced.FontColor = clBlue;
+    Unbalanced.FontColor = clRed;
     Act_Open.OnExecute = [this] { DBGridEhDblClick(); };
     layout = Rows({ToolBar({&Act_Locate, &Act_Refresh, nullptr, &Act_Open, nullptr, &Act_Print,
                             &Act_Preview, &Act_Export, nullptr, &Act_Quit}),
@@ -50,9 +43,7 @@ void TF6689::add_side_by_side(const std::string& title, const std::string& lette
     for (const char* side : {"1", "2"}) {
         const std::string field = letter + side;
         const std::string word = side[0] == '1' ? "借方" : "贷方";
-        AdoQry_Main.DefineField(field, FieldType::Amount).DisplayFormat = "0.00";
         GridColumn& column = AddAmountColumn(field, title + "|" + word);
-        column.Tag = 9;
         column.Footer = FooterKind::Sum;
         column.FooterField = letter + field;
     }

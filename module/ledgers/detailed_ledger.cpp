@@ -8,7 +8,6 @@ namespace module {
 
 namespace {
 
-constexpr Color blue = 0xFF0000;
 constexpr std::int32_t vouchers = 661;
 
 } // namespace
@@ -69,7 +68,7 @@ void DetailedLedger::DBGridEhDblClick() {
 void DetailedLedger::DBGridEhGetCellParams(TField& field, CellParams& params) {
     const TField* kind = AdoQry_Main.FindField("inx");
     if (field.dataset() == &AdoQry_Main && kind != nullptr && kind->AsInteger() == -1) {
-        params.Font = blue;
+        params.Font = clBlue;
         return;
     }
     LedgerForm::DBGridEhGetCellParams(field, params);

@@ -3,14 +3,13 @@
 
 #include <algorithm>
 
+#include "host/controls/amount_column.h"
 #include "host/controls/grid_groups.h"
 #include "module/filters/ledger_filter.h"
 
 namespace module {
 
 namespace {
-
-constexpr Color blue = 0xFF0000;
 
 // Of a row of the ledger; "" where the query answered no such field.
 std::string text_of(const TClientDataSet& rows, const char* field, int row) {
@@ -44,9 +43,9 @@ LedgerForm::LedgerForm(TForm* parent, const LedgerKind& kind) : TFrm_Base_Qry(pa
     AdoQry_Main.AfterScroll = [this] { row_chosen(); };
     AccountLabel.Bold = true;
     VoucherArrow.Visible = VoucherLabel.Visible = false;
-    VoucherLabel.FontColor = blue;
+    VoucherLabel.FontColor = clBlue;
     VoucherLabel.OnClick = [this] { DBGridEhDblClick(); };
-    OpenerLabel.FontColor = blue;
+    OpenerLabel.FontColor = clBlue;
     OpenerLabel.Visible = OpenerArrow.Visible = parent != nullptr && parent->Shown();
     if (OpenerLabel.Visible) {
         OpenerLabel.Caption = parent->Caption.get();
@@ -60,12 +59,9 @@ void LedgerForm::build_group_grid() {
     Groups.DefineField("KM_NAME", FieldType::Text);
     Groups.DefineField("E", FieldType::Amount).DisplayFormat = "0.00";
     Groups.AfterScroll = [this] { group_chosen(); };
-    GridColumn balance{.FieldName = "E", .Title = "余额", .Width = 12};
-    balance.Align = Alignment::Right;
-    balance.Tag = 9;
     GroupGrid.Columns = {{.FieldName = "KM_ID", .Title = "科目组", .Width = 8},
                          {.FieldName = "KM_NAME", .Title = "会计科目", .Width = -1},
-                         balance};
+                         amount_column("E", "余额", 12, FooterKind::None)};
     GroupGrid.OnGetCellParams = DBGridEh.OnGetCellParams;
     GroupGrid.OnTitleClick = [](int) {};
     GroupGrid.OnDblClick = [this] { DBGridEh.SetFocus(); }; // on to its lines

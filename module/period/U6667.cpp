@@ -2,6 +2,7 @@
 #include "module/period/U6667.h"
 
 #include "host/contract/U_linkedit.h"
+#include "host/controls/amount_column.h"
 #include "host/ports/host.h"
 #include "host/values/period.h"
 #include "host/values/sql_text.h"
@@ -13,8 +14,6 @@ namespace module {
 TF6667* F6667 = nullptr;
 
 namespace {
-
-constexpr Color red = 255;
 
 // Leaf accounts of the category profit and loss. 5801 corrects former years: it belongs to the
 // distribution of profit, not to the profit of this year.
@@ -47,7 +46,7 @@ TF6667::TF6667(TForm* parent) : TFrm_Base_Dialog(parent) {
     Edit1.Text = "结转本期损益";
     Edit1.MaxLength = 100;
     KM_ID.MaxLength = 18;
-    DateHint.FontColor = red;
+    DateHint.FontColor = clRed;
     DateHint.Visible = false;
     bdate.OnChange = [this] { refresh_date_hint(); };
     KM_ID.OnExit = [this] { KM_IDExit(KM_ID); };
@@ -62,7 +61,7 @@ TF6667::TF6667(TForm* parent) : TFrm_Base_Dialog(parent) {
         {.FieldName = "A3", .Title = "结转科目", .Width = 9},
         {.FieldName = "A4", .Title = "科目名称", .Width = 10},
         {.FieldName = "FX", .Title = "方向", .Width = 6, .Align = Alignment::Center},
-        {.FieldName = "E", .Title = "期末余额", .Width = 15, .Align = Alignment::Right, .Tag = 9}};
+        amount_column("E", "期末余额", 15, FooterKind::None)};
     build_layout();
 }
 

@@ -12,7 +12,6 @@ TF6699* F6699 = nullptr;
 
 namespace {
 
-constexpr Color red = 255;
 constexpr const char* typed_fields[] = {"BEGIN2", "BEGIN3", "BEGIN4", "BEGIN5"};
 
 const char* const already_set_up =
@@ -114,7 +113,7 @@ void TF6699::refresh_totals() {
     const auto show = [](TLabel& label, const std::string& title, const BothSides& sides) {
         label.Caption = title + "  借 " + sides.debit.to_text() + "  贷 " +
                         sides.credit.to_text() + "  " + sides.verdict();
-        label.FontColor = sides.balanced() ? clDefault : red;
+        label.FontColor = sides.balanced() ? clDefault : clRed;
     };
     const auto field = [&](const char* name) { return AdoQry_Main.FieldByName(name).index(); };
     BothSides year, accumulated, opening;

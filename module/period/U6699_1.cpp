@@ -1,12 +1,11 @@
 // See whether the opening figures balance; only then may they be posted.
 #include "module/period/U6699_1.h"
 
+#include "host/controls/amount_column.h"
+
 namespace module {
 
 namespace {
-
-constexpr Color red = 255;
-constexpr Color blue = 0xFF0000;
 
 const char* const select_opening_figures =
     "SELECT KM_ID, KM_NAME, CASE FX WHEN '借' THEN BEGIN1  ELSE 0 END AS B1,CASE FX WHEN '贷' THEN "
@@ -19,15 +18,6 @@ struct Pair {
 };
 constexpr Pair pairs[] = {
     {"年初余额", "B1", "B2"}, {"本年累计", "C1", "C2"}, {"期初余额", "D1", "D2"}};
-
-GridColumn amount_column(const std::string& field, const std::string& title) {
-    return {.FieldName = field,
-            .Title = title,
-            .Width = 13,
-            .Align = Alignment::Right,
-            .Tag = 9,
-            .Footer = FooterKind::Sum};
-}
 
 } // namespace
 
@@ -47,7 +37,7 @@ TF6699_1::TF6699_1(TForm* parent) : TFrm_Base_Detail(parent) {
         for (const char* field : {pair.debits, pair.credits}) {
             AdoQry_Main.DefineField(field, FieldType::Amount).DisplayFormat = "0.00";
             const char* side = field == pair.debits ? "|借方" : "|贷方";
-            DBGridEh.Columns.push_back(amount_column(field, pair.title + std::string(side)));
+            DBGridEh.Columns.push_back(amount_column(field, pair.title + std::string(side), 13));
         }
     }
     layout = Rows({Rest(DBGridEh), Control(Verdict), Buttons({&btn_ok, &btn_Cancel})});
@@ -60,7 +50,7 @@ void TF6699_1::InitForm(const std::string& key, TClientDataSet* list) {
     const bool equal = balanced();
     btn_ok.Enabled = equal;
     Verdict.Caption = equal ? "试算平衡!点击确定转入总分类帐" : "试算不平衡";
-    Verdict.FontColor = equal ? blue : red;
+    Verdict.FontColor = equal ? clBlue : clRed;
 }
 
 // ---- checking ----

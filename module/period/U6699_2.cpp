@@ -7,12 +7,6 @@
 
 namespace module {
 
-namespace {
-
-constexpr Color red = 255;
-
-} // namespace
-
 // ---- opening ----
 
 TF6699_2::TF6699_2(TForm* parent) : TFrm_Base_Common(parent) {
@@ -20,7 +14,7 @@ TF6699_2::TF6699_2(TForm* parent) : TFrm_Base_Common(parent) {
     BDATE.OnChange = [this] { refresh_date_hint(); };
     BDATE.set(the_host().clock->today());
     DateHint.Caption = "应为月份的第一天，否则期初余额留在启用月份，登帐后不再计入";
-    DateHint.FontColor = red;
+    DateHint.FontColor = clRed;
     btn_ok.OnClick = [this] { btn_okClick(); };
     btn_Cancel.Cancel = true;
     btn_Cancel.ModalResult = mrCancel;

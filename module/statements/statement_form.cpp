@@ -9,8 +9,6 @@ namespace module {
 
 namespace {
 
-constexpr Color blue = 0xFF0000;
-constexpr int amount_tag = 9;
 constexpr int layouts = 3;
 constexpr std::string_view grand_total = "总计";
 const char* const select_period = "SELECT id,param  FROM d6600 where id=2";
@@ -38,7 +36,7 @@ StatementForm::StatementForm(TForm* parent, const StatementKind& kind)
     Edit1.Text = "2016-06";
     rb1.Checked = true;
     CellName.Bold = true;
-    CellName.FontColor = blue;
+    CellName.FontColor = clBlue;
     rb1.OnClick = rb2.OnClick = [this] { rb1Click(); };
     work_.DefineField("a", FieldType::Text); // all digits of what a formula gives
     add_columns();
@@ -234,7 +232,7 @@ void StatementForm::DBGridEhGetCellParams(TField& field, CellParams& params) {
         params.Bold = item_of(shown).ends_with(grand_total);
     if (shown.content != StatementContent::Item) return;
     const std::string item = field.AsText();
-    if (!item.empty() && item.front() != ' ') params.Font = blue;
+    if (!item.empty() && item.front() != ' ') params.Font = clBlue;
 }
 
 // ---- saving ----

@@ -1,6 +1,7 @@
 // List the vouchers: enter, copy, change, delete them; as function 662 audit them.
 #include "module/vouchers/U6661.h"
 
+#include "host/controls/amount_column.h"
 #include "host/ports/host.h"
 #include "host/values/sql_text.h"
 #include "module/filters/U6661f.h"
@@ -65,21 +66,14 @@ void TF6661::build_columns() {
     DBGridEh.MultiSelect = true;
     DBGridEh.EmptyText = "没有符合条件的凭证";
 
-    GridColumn debit{.FieldName = "J", .Title = "借方金额", .Width = 16};
-    debit.Align = Alignment::Right;
-    debit.Tag = 9;
-    debit.Footer = FooterKind::Sum;
-    GridColumn credit = debit;
-    credit.FieldName = "D";
-    credit.Title = "贷方金额";
     GridColumn name{.FieldName = "KM_NAME_NEW", .Title = "会计科目", .Width = 36};
     name.Footer = FooterKind::Text;
     name.FooterText = "合计";
     DBGridEhLine.Columns = {{.FieldName = "ZY", .Title = "摘要", .Width = 32},
                             {.FieldName = "KM_ID", .Title = "科目", .Width = 12},
                             name,
-                            debit,
-                            credit};
+                            amount_column("J", "借方金额", 16),
+                            amount_column("D", "贷方金额", 16)};
     for (const char* side : {"J", "D"}) {
         AdoQry_Line.DefineField(side, FieldType::Amount).DisplayFormat = "0.00";
     }

@@ -45,12 +45,12 @@ TF6661_1::TF6661_1(TForm* parent) : Tfrm_Base_Entry_Body(parent) {
     Caption = "记帐凭证";
     PZZ_H.Min = Amount::from_whole(1);
     PZZ_Z.Min = Amount();
-    DateHint.FontColor = 255;
+    DateHint.FontColor = clRed;
     DateHint.Visible = false;
     PZZ_H.Max = PZZ_Z.Max = Amount::from_whole(99'999);
     Act_Other.Caption = "模板";
     N2.Icon = "copy-plus";
-    Difference.FontColor = 255; // a difference is a warning
+    Difference.FontColor = clRed;
     grid_.define_fields();
     AdoQry_Main.Open();
     F6661_2 = std::make_unique<TF6661_2>(this);
@@ -282,7 +282,7 @@ void TF6661_1::DBGridEhKeyPress(char32_t& character) {
 void TF6661_1::DBGridEhGetCellParams(TField& field, CellParams& params) {
     Tfrm_Base_Entry_Body::DBGridEhGetCellParams(field, params);
     const bool amount = field.FieldName == "J" || field.FieldName == "D";
-    if (amount && field.AsAmount().is_negative()) params.Font = 255;
+    if (amount && field.AsAmount().is_negative()) params.Font = clRed;
 }
 
 void TF6661_1::refresh_totals() {

@@ -1,6 +1,7 @@
 // Look through the voucher templates: apply one to the voucher being entered, or delete it.
 #include "module/vouchers/U6661_4.h"
 
+#include "host/controls/amount_column.h"
 #include "host/values/sql_text.h"
 #include "host/values/text.h"
 #include "module/refuse.h"
@@ -40,17 +41,11 @@ void TF6661_4::build_columns() {
         AdoQry_Main.DefineField(side, FieldType::Amount).DisplayFormat = "0.00";
     }
     AdoQry_Main.Open();
-    GridColumn debit{.FieldName = "J", .Title = "借方金额", .Width = 15};
-    debit.Align = Alignment::Right;
-    debit.Tag = 9;
-    GridColumn credit = debit;
-    credit.FieldName = "D";
-    credit.Title = "贷方金额";
     DBGridEh.Columns = {{.FieldName = "NOID", .Title = "组别", .Width = 8},
                         {.FieldName = "ZY", .Title = "摘要", .Width = 26},
                         {.FieldName = "KM_NAME_NEW", .Title = "会计科目", .Width = -1},
-                        debit,
-                        credit};
+                        amount_column("J", "借方金额", 15, FooterKind::None),
+                        amount_column("D", "贷方金额", 15, FooterKind::None)};
     DBGridEh.ReadOnly = true;
     DBGridEh.EmptyText = "没有相符的模板";
     DBGridEh.OnDblClick = [this] { btn_ok.Click(); };

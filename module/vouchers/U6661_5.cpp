@@ -1,6 +1,7 @@
 // Allocate the cash of one voucher to cash-flow items; the voucher saves it.
 #include "module/vouchers/U6661_5.h"
 
+#include "host/controls/amount_column.h"
 #include "host/values/text.h"
 #include "module/refuse.h"
 #include "module/vouchers/cash_allocation.h"
@@ -71,14 +72,8 @@ void TF6661_5::build_columns() {
     GridColumn name{.FieldName = "XJLL", .Title = "现金流量项目", .Width = -1, .ReadOnly = true};
     name.Footer = FooterKind::Text;
     name.FooterText = "合计";
-    GridColumn inflow{.FieldName = "J", .Title = "流入金额(借)", .Width = 16};
-    inflow.Align = Alignment::Right;
-    inflow.Tag = 9;
-    inflow.Footer = FooterKind::Sum;
-    GridColumn outflow = inflow;
-    outflow.FieldName = "D";
-    outflow.Title = "流出金额(贷)";
-    GRID2.Columns = {item, name, inflow, outflow};
+    GRID2.Columns = {item, name, amount_column("J", "流入金额(借)", 16),
+                     amount_column("D", "流出金额(贷)", 16)};
     GRID2.AppendOnEnter = false;
     GRID2.EmptyText = "没有可分配的现金流量项目,请先在现金流量项目中增加。";
 }

@@ -2,6 +2,7 @@
 #include "module/vouchers/voucher_layout.h"
 
 #include "host/contract/U_dataop.h"
+#include "host/controls/amount_column.h"
 #include "host/values/text.h"
 #include "module/vouchers/U6661_1.h"
 #include "module/vouchers/account_search.h"
@@ -9,14 +10,9 @@
 namespace module {
 
 std::vector<GridColumn> voucher_columns() {
-    GridColumn debit{.FieldName = "J", .Title = "借方金额", .Width = 22};
-    debit.Align = Alignment::Right;
-    debit.Tag = 9;
-    debit.RuledAmount = true;
-    debit.Footer = FooterKind::Sum;
-    GridColumn credit = debit;
-    credit.FieldName = "D";
-    credit.Title = "贷方金额";
+    GridColumn debit = amount_column("J", "借方金额", 22);
+    GridColumn credit = amount_column("D", "贷方金额", 22);
+    debit.RuledAmount = credit.RuledAmount = true;
     GridColumn summary{.FieldName = "ZY", .Title = "摘要", .Width = -1};
     summary.Button = true;
     summary.Footer = FooterKind::Text;

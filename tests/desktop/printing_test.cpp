@@ -20,6 +20,7 @@
 #include "host/printing/table_document.h"
 #include "tests/desktop/desk.h"
 #include "tests/desktop/forms.h"
+#include "tests/support/long_ledger.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tests {
@@ -27,30 +28,6 @@ namespace {
 
 using host::PaperPage;
 using host::PaperText;
-
-// A ledger of that many rows with sums carried from page to page.
-host::Sheet ledger(int rows) {
-    host::Sheet sheet;
-    sheet.title = "明细分类帐";
-    sheet.conditions = {"●会计年度:2016"};
-    sheet.columns = {{.field = "BDATE", .title = "凭证日期", .width = 11},
-                     {.field = "PZZ", .title = "凭证字", .width = 8},
-                     {.field = "ZY", .title = "摘要", .width = -1}};
-    for (const char* side : {"J", "D", "E"})
-        sheet.columns.push_back({.field = side, .title = side, .width = 14,
-                                 .align = host::Alignment::Right, .amount = true,
-                                 .format = "0.00"});
-    sheet.rows = rows;
-    sheet.cell = [](int row, int column) {
-        if (column == 0) return host::SheetCell{{}, "2016-06-22"};
-        if (column == 1) return host::SheetCell{{}, "记-" + std::to_string(row)};
-        if (column == 2) return host::SheetCell{{}, "收常熟盛源建材货款及代垫运费"};
-        const host::Amount amount = host::Amount::from_cents(123456 + row);
-        return host::SheetCell{host::Value{amount}, amount.to_text()};
-    };
-    sheet.carried = host::CarriedSums{.label = "ZY", .added = {"J", "D"}, .copied = {"E"}};
-    return sheet;
-}
 
 const host::PaperWords words = {"苏州嘉禾贸易有限公司", "李敏", "2016-06-28 17:20"};
 
@@ -79,7 +56,7 @@ QRect ink(const PaperPage& page) {
 
 TEST(Printing, a_pdf_file_has_the_pages_of_its_document) {
     TemporaryFolder folder;
-    const host::TableDocument document(ledger(200), words);
+    const host::TableDocument document(long_ledger(200), words);
     ASSERT_GT(document.page_count(), 4);
     const std::string file = folder.file("帐.pdf");
     EXPECT_EQ(desktop::write_pdf(document, file), "");
@@ -87,13 +64,13 @@ TEST(Printing, a_pdf_file_has_the_pages_of_its_document) {
 }
 
 TEST(Printing, a_pdf_file_that_cannot_be_written_is_told) {
-    const host::TableDocument document(ledger(1), words);
+    const host::TableDocument document(long_ledger(1), words);
     EXPECT_NE(desktop::write_pdf(document, "/no/such/folder/a.pdf").find("不能写入"),
               std::string::npos);
 }
 
 TEST(Printing, paper_lies_as_the_document_does) {
-    host::Sheet wide = ledger(1);
+    host::Sheet wide = long_ledger(1);
     EXPECT_EQ(desktop::layout_of(host::TableDocument(wide, words)).orientation(),
               QPageLayout::Portrait);
     for (int i = 0; i < 5; ++i) wide.columns.push_back({.field = "E", .title = "栏", .width = 14});
@@ -145,7 +122,7 @@ TEST(Printing, paper_follows_the_columns_of_the_screen) {
 
 TEST(Printing, the_preview_turns_pages_and_zooms_by_key) {
     Desk desk;
-    const host::TableDocument document(ledger(90), words);
+    const host::TableDocument document(long_ledger(90), words);
     const int pages = document.page_count();
     ASSERT_GT(pages, 2);
     desktop::PreviewDialog preview(document, &desk.window());

@@ -39,37 +39,6 @@ template <auto function, bool zero_allowed> void positive(const Call& call) {
     call.give_real(finite(function(x)));
 }
 
-double round_up(double x) {
-    return std::ceil(x);
-}
-double round_down(double x) {
-    return std::floor(x);
-}
-double square_root(double x) {
-    return std::sqrt(x);
-}
-double exponential(double x) {
-    return std::exp(x);
-}
-double natural_log(double x) {
-    return std::log(x);
-}
-double decimal_log(double x) {
-    return std::log10(x);
-}
-double sine(double x) {
-    return std::sin(x);
-}
-double cosine(double x) {
-    return std::cos(x);
-}
-double tangent(double x) {
-    return std::tan(x);
-}
-double arc_tangent(double x) {
-    return std::atan(x);
-}
-
 void pi(const Call& call) {
     call.give_real(std::numbers::pi);
 }
@@ -99,18 +68,18 @@ void random_number(const Call& call) {
 constexpr FunctionEntry entries[] = {
     {"zf_fdiv", 2, Nature::pure, fdiv},
     {"zf_float", 1, Nature::pure, checked_float},
-    {"zf_ceiling_float", 1, Nature::pure, unary<round_up>},
-    {"zf_floor_float", 1, Nature::pure, unary<round_down>},
+    {"zf_ceiling_float", 1, Nature::pure, unary<[](double x) { return std::ceil(x); }>},
+    {"zf_floor_float", 1, Nature::pure, unary<[](double x) { return std::floor(x); }>},
     {"zf_power", 2, Nature::pure, power},
-    {"zf_sqrt", 1, Nature::pure, positive<square_root, true>},
-    {"zf_exp", 1, Nature::pure, unary<exponential>},
-    {"zf_log", 1, Nature::pure, positive<natural_log, false>},
-    {"zf_log10", 1, Nature::pure, positive<decimal_log, false>},
+    {"zf_sqrt", 1, Nature::pure, positive<[](double x) { return std::sqrt(x); }, true>},
+    {"zf_exp", 1, Nature::pure, unary<[](double x) { return std::exp(x); }>},
+    {"zf_log", 1, Nature::pure, positive<[](double x) { return std::log(x); }, false>},
+    {"zf_log10", 1, Nature::pure, positive<[](double x) { return std::log10(x); }, false>},
     {"zf_pi", 0, Nature::pure, pi},
-    {"zf_sin", 1, Nature::pure, unary<sine>},
-    {"zf_cos", 1, Nature::pure, unary<cosine>},
-    {"zf_tan", 1, Nature::pure, unary<tangent>},
-    {"zf_atan", 1, Nature::pure, unary<arc_tangent>},
+    {"zf_sin", 1, Nature::pure, unary<[](double x) { return std::sin(x); }>},
+    {"zf_cos", 1, Nature::pure, unary<[](double x) { return std::cos(x); }>},
+    {"zf_tan", 1, Nature::pure, unary<[](double x) { return std::tan(x); }>},
+    {"zf_atan", 1, Nature::pure, unary<[](double x) { return std::atan(x); }>},
     {"zf_round_float", 3, Nature::pure, round_float},
     {"zf_rand", 1, Nature::live, random_number},
 };
