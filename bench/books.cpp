@@ -1,8 +1,9 @@
 // Fills big books: the empty books are made as the program makes them, the rows written directly.
 #include "bench/books.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <random>
 #include <set>
@@ -39,9 +40,7 @@ std::vector<Account> chart() {
         for (int level = 2; level <= 5; ++level) {
             const int children = level == 5 ? 13 : 12;
             for (int child = 0; child < children; ++child) {
-                char code[8];
-                std::snprintf(code, sizeof code, "%02d", child + 1);
-                accounts.push_back({parent + code, parent, side, level});
+                accounts.push_back({fmt::format("{}{:02}", parent, child + 1), parent, side, level});
             }
             parent += "01";
         }
@@ -120,8 +119,7 @@ public:
           leaves_(leaves), ledger_(ledger) {}
 
     void write(const host::Period& period, int number, bool posted) {
-        char key[64];
-        std::snprintf(key, sizeof key, "%s记%03d", period.to_text().c_str(), number);
+        const std::string key = fmt::format("{}记{:03}", period.to_text(), number);
         const int days = period.last_day() - period.first_day() + 1;
         const int passed = number * days / (vouchers_a_period + 1);
         const host::Date day = period.first_day().plus_days(passed);

@@ -8,11 +8,6 @@
 #include "desktop/theme/tokens.h"
 
 namespace desktop {
-namespace {
-
-constexpr int head = 36;
-
-} // namespace
 
 QString no_right() { return QStringLiteral("您没有查看这些数字的权限"); }
 
@@ -34,8 +29,8 @@ void Card::paintEvent(QPaintEvent*) {
     painter.setBrush(token::paper_0);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.fillRect(1, head, width() - 2, 1, token::rule_1);
-    const QRect line(16, 0, width() - 28, head);
+    painter.fillRect(1, head_height - 1, width() - 2, 1, token::rule_1);
+    const QRect line(16, 0, width() - 28, head_height - 1);
     painter.setFont(fonts::body(true));
     painter.setPen(token::ink_1);
     painter.drawText(line, Qt::AlignVCenter, title_);
@@ -44,7 +39,7 @@ void Card::paintEvent(QPaintEvent*) {
     painter.setPen(token::ink_3);
     painter.drawText(line.adjusted(used, 0, 0, 0), Qt::AlignVCenter, hint());
     painter.drawText(line, Qt::AlignVCenter | Qt::AlignRight, right_hint());
-    paint_body(painter, rect().adjusted(1, head + 1, -1, -1));
+    paint_body(painter, rect().adjusted(1, head_height, -1, -1));
 }
 
 } // namespace desktop

@@ -21,6 +21,7 @@ protected:
     virtual QString hint() const { return {}; }
     virtual QString right_hint() const { return {}; }
     const Figures& figures() const { return figures_; }
+    static constexpr int head_height = 37; // the title's line with its rule below; pixels
 
 private:
     QString title_;

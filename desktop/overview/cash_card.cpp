@@ -10,7 +10,7 @@
 namespace desktop {
 namespace {
 
-constexpr int row = 30, head = 28;
+constexpr int account_height = 30, titles_height = 28;
 
 // Columns from the right: closing, out, in, opening; the name takes what is left.
 QRect column(const QRect& line, int from_right) {
@@ -49,7 +49,7 @@ void CashCard::paint_body(QPainter& painter, const QRect& body) {
                                                  : no_right());
         return;
     }
-    const QRect titles(inner.x(), inner.y(), inner.width(), head);
+    const QRect titles(inner.x(), inner.y(), inner.width(), titles_height);
     painter.setFont(fonts::small());
     painter.setPen(token::ink_3);
     painter.drawText(titles, Qt::AlignVCenter, QStringLiteral("帐户"));
@@ -58,9 +58,9 @@ void CashCard::paint_body(QPainter& painter, const QRect& body) {
         painter.drawText(column(titles, i), Qt::AlignRight | Qt::AlignVCenter,
                          QString::fromUtf8(names[i]));
     MoneyAccount total{utf8(QStringLiteral("合计")), {}, {}, {}};
-    int y = inner.y() + head;
+    int y = inner.y() + titles_height;
     // The last two rows are kept for the total and the net flow.
-    const int room = std::max(1, (body.bottom() - 40 - row - y) / row);
+    const int room = std::max(1, (body.bottom() - 40 - account_height - y) / account_height);
     int shown = 0;
     for (const MoneyAccount& account : figures().money) {
         total.opening += account.opening;
@@ -68,11 +68,11 @@ void CashCard::paint_body(QPainter& painter, const QRect& body) {
         total.out += account.out;
         if (shown++ >= room) continue;
         painter.fillRect(body.x(), y, body.width(), 1, token::rule_1);
-        paint_line(painter, QRect(inner.x(), y, inner.width(), row), account);
-        y += row;
+        paint_line(painter, QRect(inner.x(), y, inner.width(), account_height), account);
+        y += account_height;
     }
     painter.fillRect(body.x(), y, body.width(), 1, token::rule_3);
-    paint_line(painter, QRect(inner.x(), y, inner.width(), row), total);
+    paint_line(painter, QRect(inner.x(), y, inner.width(), account_height), total);
     const QRect note(inner.x(), body.bottom() - 39, inner.width(), 40);
     painter.fillRect(body.x(), note.y(), body.width(), 1, token::rule_1);
     painter.setFont(fonts::small());

@@ -15,7 +15,7 @@
 namespace desktop {
 namespace {
 
-constexpr int head = 48, middle_height = 256, least_plot = 260;
+constexpr int page_head = 48, middle_height = 256, least_plot = 260;
 constexpr int narrow = 900; // the amounts of the cash card and a list beside them need more
 
 } // namespace
@@ -29,7 +29,7 @@ protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         painter.fillRect(rect(), token::paper_1);
-        page_.paint_head(painter, QRect(16, 0, width() - 32, head));
+        page_.paint_head(painter, QRect(16, 0, width() - 32, page_head));
     }
 
 private:

@@ -12,7 +12,7 @@
 namespace desktop {
 namespace {
 
-constexpr int row = 48, head = 37;
+constexpr int item_height = 48;
 
 } // namespace
 
@@ -64,13 +64,13 @@ void TodoCard::paint_body(QPainter& painter, const QRect& body) {
     }
     for (int i = 0; i < static_cast<int>(items_.size()); ++i) {
         const Item& item = items_[static_cast<std::size_t>(i)];
-        const QRect line(body.x(), body.y() + i * row, body.width(), row);
+        const QRect line(body.x(), body.y() + i * item_height, body.width(), item_height);
         if (line.bottom() > body.bottom()) return;
         if (hasFocus() && i == current_) painter.fillRect(line, token::indigo_3);
         const QColor ink = item.warning     ? token::cinnabar_1
                            : item.code == 0 ? token::ink_3
                                             : token::indigo_1;
-        icons::paint(painter, item.icon, QRect(line.x() + 15, line.y(), 16, row), 16, ink);
+        icons::paint(painter, item.icon, QRect(line.x() + 15, line.y(), 16, item_height), 16, ink);
         painter.setFont(fonts::body());
         painter.setPen(item.code == 0 ? token::ink_3 : token::ink_1);
         painter.drawText(line.adjusted(42, 0, -16, 0), Qt::AlignVCenter, item.what);
@@ -106,7 +106,7 @@ void TodoCard::keyPressEvent(QKeyEvent* event) {
 }
 
 void TodoCard::mouseReleaseEvent(QMouseEvent* event) {
-    open((event->position().toPoint().y() - head) / row);
+    open((event->position().toPoint().y() - head_height) / item_height);
 }
 
 void TodoCard::focusInEvent(QFocusEvent* event) {
