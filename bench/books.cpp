@@ -39,9 +39,8 @@ std::vector<Account> chart() {
         std::string parent = first;
         for (int level = 2; level <= 5; ++level) {
             const int children = level == 5 ? 13 : 12;
-            for (int child = 0; child < children; ++child) {
-                accounts.push_back({fmt::format("{}{:02}", parent, child + 1), parent, side, level});
-            }
+            for (int child = 1; child <= children; ++child)
+                accounts.push_back({fmt::format("{}{:02}", parent, child), parent, side, level});
             parent += "01";
         }
     }

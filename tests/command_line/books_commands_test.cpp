@@ -176,7 +176,6 @@ TEST_F(BooksCommands, books_without_the_right_to_write_say_so_and_stay_as_they_a
         return std::string(std::istreambuf_iterator<char>(file), {});
     };
     const std::string before = content();
-    for (const std::string& path : {folder_.file(""), books_}) give_to_anybody(path);
     struct Attempt {
         fs::perms permissions;
         const char* told;
@@ -186,7 +185,8 @@ TEST_F(BooksCommands, books_without_the_right_to_write_say_so_and_stay_as_they_a
     for (const Attempt& attempt : attempts) {
         fs::permissions(books_, attempt.permissions);
         for (const char* command : {"sql", "check", "drive"}) {
-            const ProgramRun run = run_program_as_anybody({command, books_}, "DELETE FROM D6803");
+            const ProgramRun run =
+                run_program_heeding_permissions({command, books_}, "DELETE FROM D6803");
             EXPECT_EQ(run.status, 1) << command;
             EXPECT_EQ(run.out, "") << command;
             EXPECT_NE(run.errors.find(attempt.told), std::string::npos) << run.errors;

@@ -18,12 +18,9 @@ struct ProgramRun {
 ProgramRun run_program(const std::vector<std::string>& arguments, const std::string& input = "",
                 std::map<std::string, std::string> environment = {});
 
-// The same by a user to whom only his own files are open: root, whom no permission stops, becomes
-// the user "nobody" for it.
-ProgramRun run_program_as_anybody(const std::vector<std::string>& arguments,
-                                  const std::string& input = "");
-// Gives a file to the user of run_program_as_anybody.
-void give_to_anybody(const std::string& path);
+// The same by somebody whom the permissions of files stop, also when root runs the tests.
+ProgramRun run_program_heeding_permissions(const std::vector<std::string>& arguments,
+                                           const std::string& input = "");
 
 // The same for a program file elsewhere.
 ProgramRun run_file(const std::string& program, const std::vector<std::string>& arguments,
