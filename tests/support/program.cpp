@@ -97,7 +97,7 @@ ProgramRun run_program(const std::vector<std::string>& arguments, const std::str
 }
 
 ProgramRun run_program_heeding_permissions(const std::vector<std::string>& arguments,
-                                  const std::string& input) {
+                                           const std::string& input) {
     return run({built_program(), arguments, heed_permissions}, input, {});
 }
 
