@@ -20,6 +20,7 @@ constexpr unsigned documents = list | audits;
 constexpr unsigned period_step = opens | posts;
 constexpr unsigned statement = report | changes;
 constexpr unsigned opening_figures = report | changes | posts;
+constexpr unsigned opening_amounts = report | changes; // of parties that other modules keep
 
 constexpr Function vouchers[] = {
     {661, "录凭证", list}, {662, "凭证审核", report | audits}, {663, "凭证登帐", period_step}};
@@ -45,7 +46,7 @@ constexpr Function masterdata[] = {
     {681, "会计科目", list},     {682, "凭证字", list},
     {683, "常用摘要", list},     {687, "收支类别", list},
     {691, "现金流量项目", list}, {699, "会计科目初始", opening_figures},
-    {628, "期初应收款", list},   {629, "期初应付款", list}};
+    {628, "期初应收款", opening_amounts}, {629, "期初应付款", opening_amounts}};
 constexpr Function administration[] = {{0, "用户", list, "users"},
                                        {0, "角色与权限", list, "roles"},
                                        {0, "帐套设置", opens | changes, "books"},

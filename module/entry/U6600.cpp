@@ -17,6 +17,12 @@
 #include "module/period/U6667.h"
 #include "module/period/U6668.h"
 #include "module/period/U6699.h"
+#include "module/receivables/U6628.h"
+#include "module/receivables/U6629.h"
+#include "module/receivables/U6632.h"
+#include "module/receivables/U6633.h"
+#include "module/receivables/U6642.h"
+#include "module/receivables/U6643.h"
 #include "module/statements/U6671.h"
 #include "module/statements/U6672.h"
 #include "module/statements/U6673.h"
@@ -49,6 +55,12 @@ struct Function {
 };
 
 constexpr Function functions[] = {
+    {628, modeless<TF6628, F6628>}, // 期初应收款
+    {629, modeless<TF6629, F6629>}, // 期初应付款
+    {632, modeless<TF6632, F6632>}, // 销售收款明细表
+    {633, modeless<TF6633, F6633>}, // 销售收款汇总表
+    {642, modeless<TF6642, F6642>}, // 采购付款明细表
+    {643, modeless<TF6643, F6643>}, // 采购付款汇总表
     {661, modeless<TF6661, F6661>}, // 录凭证
     {662, modeless<TF6661, F6661>}, // 凭证审核
     {663, modal<TF6663, F6663>},    // 凭证登帐
@@ -77,7 +89,11 @@ void open_function(const Trecord& record, TForm* parent) {
     for (const Function& function : functions) {
         if (function.code == own.code()) return function.open(own, parent);
     }
-    DISPINFO("模块暂不开放!" + std::to_string(own.code()), 5);
+    say_not_open(own.code());
+}
+
+void say_not_open(std::int32_t code) {
+    DISPINFO("模块暂不开放!" + std::to_string(code), 5);
 }
 
 } // namespace module

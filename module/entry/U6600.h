@@ -16,4 +16,7 @@ namespace module {
 // is answered with a message. What a form's opening throws reaches the caller.
 void open_function(const Trecord& record, TForm* parent);
 
+// What is told of a code that has no form here.
+void say_not_open(std::int32_t code);
+
 } // namespace module

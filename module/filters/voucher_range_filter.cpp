@@ -1,8 +1,6 @@
 // What the dialogs that choose vouchers share: dates, numbers, word, posted or not.
 #include "module/filters/voucher_range_filter.h"
 
-#include "host/ports/host.h"
-#include "host/values/period.h"
 #include "host/values/sql_text.h"
 
 namespace module {
@@ -10,17 +8,13 @@ namespace module {
 // ---- opening ----
 
 VoucherRangeFilter::VoucherRangeFilter(TForm* parent, std::int64_t last_number)
-    : TFrm_Sys_Filter(parent), last_number_(last_number) {
+    : DateRangeFilter(parent, "凭证日期"), last_number_(last_number) {
     for (TRadioButton* state : {&R1, &R2, &R3}) state->GroupIndex = 1;
     PZZ_H1.Min = PZZ_H2.Min = Amount();
-    PreferredWidth = 76; // the row of the dates in full
-    BindDayCount(BDATE, EDATE, titDATE);
-    BindDateMenu(btn_dateset, BDATE, EDATE);
 }
 
 std::vector<LayoutNode> VoucherRangeFilter::range_rows() {
-    return {Columns({Field("凭证日期", BDATE, 12), Field("至：", EDATE, 12), Control(titDATE),
-                     Control(btn_dateset)}),
+    return {date_row(),
             Columns({Field("凭 证 号", PZZ_H1, 12), Field("至：", PZZ_H2, 12), Spring()}),
             Columns({Field("凭 证 字", PZZ, 12), Spring()})};
 }
@@ -30,12 +24,7 @@ LayoutNode VoucherRangeFilter::posting_row() {
 }
 
 void VoucherRangeFilter::InitForm() {
-    TFrm_Sys_Filter::InitForm();
-    ReadPeriods();
-    const Period period =
-        Period::parse(CurrentPeriod).value_or(Period::of(the_host().clock->today()));
-    BDATE.set(period.first_day());
-    EDATE.set(period.last_day());
+    DateRangeFilter::InitForm();
     PZZ_H1.set(std::int64_t{1});
     PZZ_H2.set(last_number_);
     const VoucherWords words = read_words();
@@ -46,10 +35,6 @@ void VoucherRangeFilter::InitForm() {
     PZZ.set_index(0);
     R1.Checked = true;
     for (TRadioButton* state : {&R1, &R2, &R3}) Remember(*state);
-}
-
-void VoucherRangeFilter::InitFocu() {
-    BDATE.SetFocus();
 }
 
 // ---- statements ----
@@ -68,10 +53,6 @@ std::string VoucherRangeFilter::posting_state() const {
 std::string VoucherRangeFilter::word() const {
     if (!by_kind_ || PZZ.item_index() <= 0) return "";
     return " AND (D6601.pzz=" + quoted(PZZ.Text.get()) + ")";
-}
-
-std::string VoucherRangeFilter::date_text() const {
-    return "(" + BDATE.Text.get() + " 至 " + EDATE.Text.get() + ")";
 }
 
 std::string VoucherRangeFilter::number_text() const {

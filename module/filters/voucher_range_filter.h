@@ -1,19 +1,14 @@
 // What the dialogs that choose vouchers share: dates, numbers, word, posted or not.
 #pragma once
 
-#include "host/forms/Sys_Filter.h"
-#include "module/host_names.h"
+#include "module/filters/date_range_filter.h"
 #include "module/vouchers/voucher_words.h"
 
 namespace module {
 
-class VoucherRangeFilter : public TFrm_Sys_Filter {
+class VoucherRangeFilter : public DateRangeFilter {
 public:
-    // What the user sees, from top to bottom.
-    TDateEdit BDATE{this, "BDATE", "凭证日期"}; // first day
-    TDateEdit EDATE{this, "EDATE", "至："};     // last day
-    TLabel titDATE{this, "titDATE"};            // length of the range
-    TButton btn_dateset{this, "btn_dateset", "时段选择"};
+    // What the user sees below the dates.
     TNumberEdit PZZ_H1{this, "PZZ_H1", "凭 证 号"}; // first number
     TNumberEdit PZZ_H2{this, "PZZ_H2", "至："};     // last number
     TComboBox PZZ{this, "PZZ", "凭 证 字"};         // voucher word
@@ -23,7 +18,6 @@ public:
 
     // What the user does.
     void InitForm() override;
-    void InitFocu() override;
 
 protected:
     VoucherRangeFilter(TForm* parent, std::int64_t last_number);
@@ -34,9 +28,7 @@ protected:
     std::string dates_and_numbers() const;
     std::string posting_state() const;
     std::string word() const;
-    // "(2024-03-01 至 2024-03-31)", "(1 至 9999)"
-    std::string date_text() const;
-    std::string number_text() const;
+    std::string number_text() const; // "(1 至 9999)"
 
 private:
     const std::int64_t last_number_;

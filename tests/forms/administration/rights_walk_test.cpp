@@ -56,7 +56,9 @@ class MissingRight : public AdministrationDesk {
 protected:
     // Opening figures are entered before the books are opened, everything else after.
     Books& books_for(const host::Function& function) {
-        return function.code == 699 ? not_opened : books;
+        const bool figures =
+            function.code == 628 || function.code == 629 || function.code == 699;
+        return figures ? not_opened : books;
     }
     Books not_opened{{.start = ""}};
 

@@ -1,0 +1,46 @@
+// Opens the document behind a row of a report, to be looked at.
+#include "module/entry/open_document.h"
+
+#include <array>
+
+#include "host/forms/Base_Entry_Body.h"
+#include "host/ports/host.h"
+#include "module/entry/U6600.h"
+#include "module/opening.h"
+#include "module/refuse.h"
+
+namespace module {
+namespace {
+
+// An entry form stays with the list that made it; opened by a report it has none and goes when it
+// is closed.
+template <class Form>
+void shown(std::int32_t function, const std::string& key, TForm* opener) {
+    auto* form = new Form(opener);
+    form->FreeOnClose = true;
+    form->Tag = function;
+    form->FunctionCode = std::to_string(function);
+    open_or_release(form, [&key](Form& opened) { opened.InitForm(key, nullptr, true); });
+}
+
+struct DocumentForm {
+    std::int32_t function;
+    void (*open)(std::int32_t function, const std::string& key, TForm* opener);
+};
+
+constexpr std::array<DocumentForm, 0> documents = {};
+
+} // namespace
+
+void open_document(std::int32_t function, const std::string& key, TForm* opener) {
+    const std::string code = std::to_string(function);
+    for (const DocumentForm& document : documents) {
+        if (document.function != function) continue;
+        if (!the_host().may({code, "open"}))
+            refuse("您没有打开单据“" + key + "”的权限，请与系统管理员联系。");
+        return document.open(function, key, opener);
+    }
+    say_not_open(function);
+}
+
+} // namespace module

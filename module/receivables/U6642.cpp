@@ -1,0 +1,28 @@
+// List every document that moved the balance with a supplier, and open it.
+#include "module/receivables/U6642.h"
+
+#include "module/receivables/U6642f.h"
+
+namespace module {
+
+TF6642* F6642 = nullptr;
+
+namespace {
+
+constexpr PartyReportKind kind = {
+    .side = payables,
+    .caption = "采购付款明细表",
+    .open_caption = "打开单据",
+    .nothing_asked = "您还没选择任何查询参数,请按【F3 或 空格】呼出查询选项!",
+    .tip = "操作提示：【双击/回车】打开单据，【空格/F3】重新筛选",
+};
+
+} // namespace
+
+TF6642::TF6642(TForm* parent) : PartyDetail(parent, kind) {}
+
+std::unique_ptr<TFrm_Sys_Filter> TF6642::CreateFilter() {
+    return std::make_unique<TF6642F>(this);
+}
+
+} // namespace module
