@@ -27,6 +27,8 @@ using host::LayoutNode;
 using Kind = LayoutNode::Kind;
 
 constexpr int between_fields = 16, widest_sentence = 460;
+// A code is short and its name stands beside it; a wider field with a button holds the whole text.
+constexpr int widest_code = 20;
 
 QString label_of(const LayoutNode& node) {
     if (!node.text.empty() || !node.control) return qt(node.text);
@@ -269,6 +271,8 @@ void give_width(const LayoutNode& node, QWidget& widget) {
         characters = edge ? 10 : dynamic_cast<host::TNumberEdit*>(node.control) ? 8 : 20;
     const int width = width_of_characters(characters) + (edge ? 20 : 0);
     auto* code = link ? widget.findChild<FieldEdit*>() : nullptr;
+    auto* name = link && characters > widest_code ? widget.findChild<QLabel*>() : nullptr;
+    if (name) name->hide();
     (code ? static_cast<QWidget*>(code) : &widget)->setFixedWidth(width);
 }
 

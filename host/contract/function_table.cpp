@@ -36,8 +36,8 @@ constexpr Function trade[] = {
     {630, "销售收款 · 外币", documents}, {631, "销售收款", documents},
     {632, "销售收款明细表", report},     {633, "销售收款汇总表", report},
     {641, "采购付款", documents},        {642, "采购付款明细表", report},
-    {643, "采购付款汇总表", report},     {646, "其他收款单", documents},
-    {647, "其他付款单", documents}};
+    {643, "采购付款汇总表", report},     {646, "其他收款单", list},
+    {647, "其他付款单", list}};
 constexpr Function cash[] = {{648, "银行存取款单", documents},
                              {650, "现金银行总帐", report},
                              {652, "现金银行日记帐", report},

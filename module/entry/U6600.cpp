@@ -14,6 +14,8 @@
 #include "module/masterdata/U6687.h"
 #include "module/masterdata/U6691.h"
 #include "module/opening.h"
+#include "module/other_documents/U6646.h"
+#include "module/other_documents/U6647.h"
 #include "module/period/U6667.h"
 #include "module/period/U6668.h"
 #include "module/period/U6699.h"
@@ -61,6 +63,8 @@ constexpr Function functions[] = {
     {633, modeless<TF6633, F6633>}, // 销售收款汇总表
     {642, modeless<TF6642, F6642>}, // 采购付款明细表
     {643, modeless<TF6643, F6643>}, // 采购付款汇总表
+    {646, modeless<TF6646, F6646>}, // 其他收款单
+    {647, modeless<TF6647, F6647>}, // 其他付款单
     {661, modeless<TF6661, F6661>}, // 录凭证
     {662, modeless<TF6661, F6661>}, // 凭证审核
     {663, modal<TF6663, F6663>},    // 凭证登帐

@@ -1,12 +1,12 @@
 // Opens the document behind a row of a report, to be looked at.
 #include "module/entry/open_document.h"
 
-#include <array>
-
 #include "host/forms/Base_Entry_Body.h"
 #include "host/ports/host.h"
 #include "module/entry/U6600.h"
 #include "module/opening.h"
+#include "module/other_documents/U6646_1.h"
+#include "module/other_documents/U6647_1.h"
 #include "module/refuse.h"
 
 namespace module {
@@ -28,7 +28,10 @@ struct DocumentForm {
     void (*open)(std::int32_t function, const std::string& key, TForm* opener);
 };
 
-constexpr std::array<DocumentForm, 0> documents = {};
+constexpr DocumentForm documents[] = {
+    {646, shown<TF6646_1>}, // 其他应收款
+    {647, shown<TF6647_1>}, // 其他应付款
+};
 
 } // namespace
 

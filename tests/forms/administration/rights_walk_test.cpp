@@ -62,10 +62,14 @@ protected:
     }
     Books not_opened{{.start = ""}};
 
-    // One voucher stands in the list, so that there is something to change, audit and delete.
+    // One document stands in each list, so that there is something to change, audit and delete.
     void SetUp() override {
         books.execute("INSERT INTO D6601 (NOID,PZQJ,PZZ,PZZ_H,BDATE,USER_ID) VALUES "
-                      "('2024-03记001','2024-03','记',1,'2024-03-05','admin')");
+                      "('2024-03记001','2024-03','记',1,'2024-03-05','admin');"
+                      "INSERT INTO D651 (NOID,JY_ID,BDATE,USER_ID) VALUES "
+                      "('Q1','1','2024-03-05','admin');"
+                      "INSERT INTO D652 (NOID,JY_ID,BDATE,USER_ID) VALUES "
+                      "('E1','1','2024-03-05','admin')");
         written_ = written();
     }
     std::string written() { return books.value("SELECT COUNT(*) FROM SYS_LOG"); }
