@@ -25,6 +25,8 @@
 #include "module/receivables/U6633.h"
 #include "module/receivables/U6642.h"
 #include "module/receivables/U6643.h"
+#include "module/settlement/U6631.h"
+#include "module/settlement/U6641.h"
 #include "module/statements/U6671.h"
 #include "module/statements/U6672.h"
 #include "module/statements/U6673.h"
@@ -59,8 +61,10 @@ struct Function {
 constexpr Function functions[] = {
     {628, modeless<TF6628, F6628>}, // 期初应收款
     {629, modeless<TF6629, F6629>}, // 期初应付款
+    {631, modeless<TF6631, F6631>}, // 销售收款
     {632, modeless<TF6632, F6632>}, // 销售收款明细表
     {633, modeless<TF6633, F6633>}, // 销售收款汇总表
+    {641, modeless<TF6641, F6641>}, // 采购付款
     {642, modeless<TF6642, F6642>}, // 采购付款明细表
     {643, modeless<TF6643, F6643>}, // 采购付款汇总表
     {646, modeless<TF6646, F6646>}, // 其他收款单

@@ -1,0 +1,14 @@
+// Enter, change or look at one receipt from a customer on one money account.
+#pragma once
+
+#include "module/settlement/single_account_form.h"
+
+namespace module {
+
+class TF6631_1 : public SingleAccountForm {
+public:
+    explicit TF6631_1(TForm* parent) : SingleAccountForm(parent, receipt_kind) {}
+    const char* ClassName() const override { return "TF6631_1"; }
+};
+
+} // namespace module
