@@ -8,6 +8,8 @@
 #include "module/other_documents/U6646_1.h"
 #include "module/other_documents/U6647_1.h"
 #include "module/refuse.h"
+#include "module/settlement/U6631_1.h"
+#include "module/settlement/U6641_1.h"
 
 namespace module {
 namespace {
@@ -29,6 +31,8 @@ struct DocumentForm {
 };
 
 constexpr DocumentForm documents[] = {
+    {631, shown<TF6631_1>}, // 销售收款
+    {641, shown<TF6641_1>}, // 采购付款
     {646, shown<TF6646_1>}, // 其他应收款
     {647, shown<TF6647_1>}, // 其他应付款
 };

@@ -24,7 +24,8 @@ GridColumn hidden(const std::string& field, const std::string& title) {
 // ---- opening ----
 
 SingleAccountForm::SingleAccountForm(TForm* parent, const SettlementKind& kind)
-    : SettlementForm(parent, kind, kind.numbers), MONEY(this, "MONEY", kind.paid_caption, 2) {
+    : SettlementForm(parent, kind, kind.numbers),
+      MONEY(this, "MONEY", kind.paid_caption, 2) {
     MONEY.OnChange = YH.OnChange = [this] { MONEYChange(); };
     define_amounts({"TOLMONEY", "SUMMONEY", "REMONEY", "MONEY"});
     build_columns();

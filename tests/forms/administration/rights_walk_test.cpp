@@ -69,7 +69,13 @@ protected:
                       "INSERT INTO D651 (NOID,JY_ID,BDATE,USER_ID) VALUES "
                       "('Q1','1','2024-03-05','admin');"
                       "INSERT INTO D652 (NOID,JY_ID,BDATE,USER_ID) VALUES "
-                      "('E1','1','2024-03-05','admin')");
+                      "('E1','1','2024-03-05','admin');"
+                      "INSERT INTO D1102 (KH_GYS_ID,KG_NAME) VALUES ('K1','甲');"
+                      "INSERT INTO D1103 (KH_GYS_ID,KG_NAME) VALUES ('G1','丙');"
+                      "INSERT INTO D631 (NOID,KH_GYS_ID,JY_ID,BDATE,USER_ID) VALUES "
+                      "('R1','K1','1','2024-03-05','admin');"
+                      "INSERT INTO D641 (NOID,KH_GYS_ID,JY_ID,BDATE,USER_ID) VALUES "
+                      "('P1','G1','1','2024-03-05','admin')");
         written_ = written();
     }
     std::string written() { return books.value("SELECT COUNT(*) FROM SYS_LOG"); }
