@@ -40,6 +40,9 @@ public:
     void reset();
     std::int64_t integer(int column) const { return sqlite3_column_int64(statement_, column); }
     std::string_view text(int column) const;
+    bool is_null(int column) const {
+        return sqlite3_column_type(statement_, column) == SQLITE_NULL;
+    }
 
 private:
     sqlite3* database_;

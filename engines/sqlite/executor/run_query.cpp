@@ -149,14 +149,12 @@ std::int64_t Executor::show_rows(const tsql::SqlQuery& query, const OrderedRows&
                                  const std::vector<OwnedValue>& constants, RowSink& sink) {
     ShownRow shown(*query.order, rows, constants);
     std::vector<Stored> cells(query.columns.size());
-    std::vector<std::int64_t> steps = query.order->steps;
-    if (steps.empty()) steps.push_back(0);
     std::int64_t count = 0;
     for (std::size_t first = 0, last = 0; first < rows.rows(); first = last) {
         // Rows with equal keys take each step together.
-        for (last = first + 1; steps.size() > 1 && last < rows.rows() && rows.continues(last);)
+        for (last = first + 1; shown.steps() > 1 && last < rows.rows() && rows.continues(last);)
             ++last;
-        for (const std::int64_t step : steps) {
+        for (std::size_t step = 0; step < shown.steps(); ++step) {
             shown.take(step);
             for (std::size_t row = first; row < last; ++row) {
                 if (!shown.is_wanted(row)) continue;

@@ -6,9 +6,26 @@
 namespace engines {
 namespace {
 
+// Line numbers and months are most of what is converted: a few digits and nothing else.
+// Answers whether the argument is such a text; then it was given as the number it is.
+bool give_few_digits(const Call& call) {
+    if (sqlite3_value_type(call.raw(0)) != SQLITE_TEXT) return false;
+    const std::string_view text = call.text(0);
+    constexpr std::size_t most_digits = 9; // all that surely fit
+    if (text.empty() || text.size() > most_digits) return false;
+    std::int64_t number = 0;
+    for (const char digit : text) {
+        if (digit < '0' || digit > '9') return false;
+        number = number * 10 + (digit - '0');
+    }
+    call.give(number);
+    return true;
+}
+
 void convert_argument(const Call& call, int style, Fit fit) {
-    const tsql::Type from = call.type(1);
     const tsql::Type to = call.type(2);
+    if (to.kind == tsql::TypeKind::Int && give_few_digits(call)) return;
+    const tsql::Type from = call.type(1);
     std::string buffer;
     call.give_stored(convert(call.stored(0, from), from, to, style, fit, buffer), to);
 }

@@ -148,8 +148,7 @@ private:
     bool shown_columns(const BoundSelect& select, RunningRows& rows);
     int shown_value(const BoundPtr& value, RunningRows& rows);
     int shown_outside(const BoundColumn& column, const BoundPtr& value, RunningRows& rows);
-    int shown_condition(const BoundPtr& condition, RunningRows& rows);
-    int shown_logical(const BoundLogical& node, RunningRows& rows);
+    int shown_condition(const BoundPtr& condition, int then, int otherwise, RunningRows& rows);
     int shown_choice(const BoundCase& node, RunningRows& rows);
     int shown_plain_choice(const BoundPtr& value, RunningRows& rows);
     int shown_conversion(const BoundConvert& node, RunningRows& rows);

@@ -322,7 +322,9 @@ bool Emitter::shown_columns(const BoundSelect& select, RunningRows& rows) {
         rows.order.shown.push_back(number);
     }
     if (rows.outside && select.where) {
-        rows.order.condition = shown_condition(select.where, rows);
+        const int yes = rows.add(ShownValue::Kind::Number, 1);
+        const int no = rows.add(ShownValue::Kind::Number, 0);
+        rows.order.condition = shown_condition(select.where, yes, no, rows);
         return rows.order.condition >= 0;
     }
     return true;

@@ -150,13 +150,20 @@ int Emitter::shown_outside(const BoundColumn& column, const BoundPtr& value, Run
     return number >= 0 && rows.is_wide(number) ? -1 : number;
 }
 
-// 1 where the condition holds; where it is unknown the row is left out like where it is false.
-int Emitter::shown_condition(const BoundPtr& condition, RunningRows& rows) {
+// The value `then` where the condition holds, `otherwise` where it does not or is unknown; -1 when
+// it is none of those that the engine can look at.
+int Emitter::shown_condition(const BoundPtr& condition, int then, int otherwise,
+                             RunningRows& rows) {
     if (condition->kind == BoundKind::Logical) {
-        return shown_logical(static_cast<const BoundLogical&>(*condition), rows);
+        const auto& node = static_cast<const BoundLogical&>(*condition);
+        const bool all = node.op == LogicalOperator::And;
+        int rest = all ? then : otherwise;
+        for (std::size_t i = node.operands.size(); i-- > 0 && rest >= 0;) {
+            rest = shown_condition(node.operands[i], all ? rest : then, all ? otherwise : rest,
+                                   rows);
+        }
+        return rest;
     }
-    const int yes = rows.add(ShownValue::Kind::Number, 1);
-    const int no = rows.add(ShownValue::Kind::Number, 0);
     if (condition->kind == BoundKind::Comparison) {
         const auto& node = static_cast<const BoundComparison&>(*condition);
         if (node.op != ComparisonOperator::Equal || !are_numbers(node.left, node.right)) {
@@ -164,27 +171,16 @@ int Emitter::shown_condition(const BoundPtr& condition, RunningRows& rows) {
         }
         const int scale = std::max(node.left->type.stored_scale(), node.right->type.stored_scale());
         return rows.choose(shown_operand(node.left, scale, rows),
-                           shown_operand(node.right, scale, rows), yes, no);
+                           shown_operand(node.right, scale, rows), then, otherwise);
     }
     if (condition->kind == BoundKind::IsNull) {
         // Only NULL is not equal to itself.
         const auto& node = static_cast<const BoundUnary&>(*condition);
         const int operand = node.operand->type.is_exact() ? shown_value(node.operand, rows) : -1;
-        return rows.choose(operand, operand, node.negated ? yes : no, node.negated ? no : yes);
+        return rows.choose(operand, operand, node.negated ? then : otherwise,
+                           node.negated ? otherwise : then);
     }
     return -1;
-}
-
-int Emitter::shown_logical(const BoundLogical& node, RunningRows& rows) {
-    const bool all = node.op == LogicalOperator::And;
-    const int yes = rows.add(ShownValue::Kind::Number, 1);
-    const int no = rows.add(ShownValue::Kind::Number, 0);
-    int rest = all ? yes : no;
-    for (std::size_t i = node.operands.size(); i-- > 0;) {
-        const int one = shown_condition(node.operands[i], rows);
-        rest = rows.choose(one, yes, all ? rest : yes, all ? no : rest);
-    }
-    return rest;
 }
 
 int Emitter::shown_choice(const BoundCase& node, RunningRows& rows) {
