@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "schema/embedded.h"
 
@@ -24,6 +25,29 @@ std::string_view stem(std::string_view path) {
 std::string_view template_of(std::string_view path) {
     path.remove_prefix(templates_folder.size());
     return path.substr(0, path.find('/'));
+}
+
+// "tables/D6601.sql" → "TABLE".
+std::string_view kind_of(std::string_view path) {
+    constexpr std::pair<std::string_view, std::string_view> kinds[] = {
+        {"tables/", "TABLE"},         {"views/", "VIEW"},       {"functions/", "FUNCTION"},
+        {"procedures/", "PROCEDURE"}, {"triggers/", "TRIGGER"}};
+    for (const auto& [folder, kind] : kinds)
+        if (path.starts_with(folder)) return kind;
+    throw std::logic_error("an object of no kind: " + std::string(path));
+}
+
+// The line without its comment, blanks and the comma or semicolon at its end.
+std::string_view bare_line(std::string_view line) {
+    line = line.substr(0, line.find("--"));
+    const std::size_t first = line.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return line.substr(first, line.find_last_not_of(" ,;") + 1 - first);
+}
+
+std::string_view word_behind(std::string_view text, std::string_view key) {
+    text.remove_prefix(text.find(key) + key.size());
+    return text.substr(0, text.find(' '));
 }
 
 std::vector<std::string> cells_of(std::string_view line) {
@@ -60,8 +84,29 @@ TemplateTable parse(const EmbeddedFile& file) {
 std::vector<Object> objects() {
     std::vector<Object> all;
     for (const EmbeddedFile& file : embedded_files())
-        if (!is_template(file.path)) all.push_back({stem(file.path), file.text});
+        if (!is_template(file.path))
+            all.push_back({stem(file.path), file.text, kind_of(file.path)});
     return all;
+}
+
+std::string_view definition_of(std::string_view text) {
+    if (!text.starts_with("CREATE ")) text.remove_prefix(text.find("\nCREATE ") + 1);
+    return text.substr(0, text.find_last_not_of(" \r\n;") + 1);
+}
+
+TableParts parts_of(const Object& table) {
+    TableParts parts;
+    for (std::string_view rest = table.text; !rest.empty();) {
+        const std::size_t end = std::min(rest.find('\n'), rest.size());
+        const std::string_view line = bare_line(rest.substr(0, end));
+        const bool inside = rest.starts_with("    ");
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+        if (line.starts_with("CREATE ") && !line.starts_with("CREATE TABLE "))
+            parts.indexes.push_back({word_behind(line, "INDEX "), line});
+        else if (inside && !line.empty() && !line.starts_with("CONSTRAINT "))
+            parts.columns.push_back({word_behind(line, ""), line});
+    }
+    return parts;
 }
 
 std::vector<std::string> template_names() {

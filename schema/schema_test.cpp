@@ -6,6 +6,8 @@
 #include <set>
 #include <gtest/gtest.h>
 
+#include "schema/log_chain.h"
+
 namespace schema {
 namespace {
 
@@ -40,6 +42,36 @@ TEST(SchemaObjects, an_object_is_created_under_the_name_of_its_file) {
                   std::string_view::npos)
             << object.name;
     }
+}
+
+// Books tell by the number whether a program is older than they are.
+TEST(SchemaObjects, the_version_rises_whenever_an_object_changes) {
+    std::string all;
+    for (const Object& object : objects())
+        all += std::string(object.name) + ":" + std::string(definition_of(object.text)) + "\n";
+    EXPECT_EQ(std::to_string(version) + " " + digest_of(all).substr(0, 16), "1 8334f2f5d80ba872")
+        << "an object of schema/ has changed: count schema::version up by one, and put the number "
+           "and the digest seen here into this test";
+}
+
+TEST(SchemaObjects, a_definition_begins_with_create_and_ends_with_its_last_word) {
+    EXPECT_EQ(definition_of("-- above; CREATE\nCREATE VIEW V AS SELECT 1 A;\n\n"),
+              "CREATE VIEW V AS SELECT 1 A");
+    EXPECT_EQ(definition_of("CREATE VIEW V AS SELECT 1 A"), "CREATE VIEW V AS SELECT 1 A");
+}
+
+TEST(SchemaObjects, a_table_is_its_columns_and_indexes) {
+    const auto all = objects();
+    const auto heads = std::find_if(all.begin(), all.end(),
+                                    [](const Object& object) { return object.name == "D6601"; });
+    ASSERT_NE(heads, all.end());
+    const TableParts parts = parts_of(*heads);
+    ASSERT_EQ(parts.columns.size(), 12u);
+    EXPECT_EQ(parts.columns[4].name, "PZZ_Z");
+    EXPECT_EQ(parts.columns[4].text, "PZZ_Z int NOT NULL DEFAULT 0");
+    ASSERT_EQ(parts.indexes.size(), 1u);
+    EXPECT_EQ(parts.indexes[0].name, "IX_D6601_BDATE");
+    EXPECT_EQ(parts.indexes[0].text, "CREATE INDEX IX_D6601_BDATE ON D6601 (BDATE)");
 }
 
 TEST(SchemaTemplates, the_default_template_exists_and_an_unknown_one_is_empty) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "app/books/books_version.h"
 #include "app/books/engines.h"
 #include "app/books/open.h"
 #include "app/books/pending_file.h"
@@ -74,7 +75,7 @@ std::string own_rows(const NewBooks& wanted) {
            "('admin','管理员'," +
            host::quoted(wanted.password_hash) + ",1);" + setting("company", wanted.company) +
            setting("template", wanted.template_name) + setting("mode", wanted.mode) +
-           standard_roles_batch();
+           write_version() + standard_roles_batch();
 }
 
 void build(engines::Session& session, const NewBooks& wanted, const host::Clock& clock) {

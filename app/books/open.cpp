@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "app/books/books_version.h"
 #include "app/books/engines.h"
 #include "app/data/error_sentence.h"
 #include "app/refusal.h"
@@ -45,8 +46,11 @@ std::unique_ptr<engines::Session> open_database(const std::string& books, Access
 std::unique_ptr<engines::Session> open_books(const std::string& books, Access access) {
     auto session = open_database(books, access);
     const auto result = automation::collect(*session, proof);
-    if (result.outcome.ok() && !result.sets.empty() && !result.sets[0].rows.empty())
+    if (result.outcome.ok() && !result.sets.empty() && !result.sets[0].rows.empty()) {
+        const std::string too_new = why_too_new(*session);
+        if (!too_new.empty()) throw Refusal("打不开帐套 " + books + ": " + too_new);
         return session;
+    }
     using engines::ErrorCategory;
     if (result.outcome.ok() || result.outcome.error->category == ErrorCategory::syntax)
         throw Refusal("打不开帐套 " + books + ": 这个数据库里没有帐套的数据表!");

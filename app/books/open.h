@@ -12,8 +12,9 @@ namespace app {
 // their own (pending_file.h makes them durable with it).
 enum class Access { ReadAndWrite, ReadOnly, Unpublished };
 
-// Throws Refusal that names the books: missing, no permission, foreign, damaged, written by a newer
-// program, or a database without the tables of a set of books.
+// Throws Refusal that names the books: missing, no permission, foreign, damaged, used by a newer
+// program, or a database without the tables of a set of books. Books of an earlier program open as
+// they are and work with the objects that they hold (a login brings them up to date).
 std::unique_ptr<engines::Session> open_books(const std::string& books,
                                              Access access = Access::ReadAndWrite);
 

@@ -74,7 +74,7 @@ std::string Workplace::setting(const std::string& name) { return setting_of(*ses
 void Workplace::log_in(const std::string& user, const PasswordSource& password) {
     user_ = app::log_in(*session_, user, password);
     session_->set_person({user_.id, "zhangfang"});
-    if (user_.administrator) create_what_is_missing(*session_, clock_, user_.id);
+    bring_up_to_date(*session_, clock_, user_.id);
     rights_ = Rights::of(*session_, user_);
     host::the_host().may = [this](const host::Right& right) { return rights_.allow(right); };
     data_ = std::make_unique<EngineData>(*session_, clock_, user_.id);

@@ -36,8 +36,8 @@ public:
     Workplace(const Workplace&) = delete;
     Workplace& operator=(const Workplace&) = delete;
 
-    // Throws Refusal. Once in, forms may open, as far as the person's rights go; an administrator's
-    // login creates what books of an earlier program lack.
+    // Throws Refusal. Books of an earlier program are brought up to date (books/upgrade.h); then
+    // forms may open, as far as the person's rights go.
     void log_in(const std::string& user, const PasswordSource& password);
 
     const User& user() const { return user_; } // after the login

@@ -23,7 +23,7 @@ OurSession::OurSession(const std::string& file)
     : session_(app::engine_for(file).open(file, {})),
       data_(std::make_unique<app::EngineData>(*session_, clock_, "admin")) {
     // The books may have been made before a table came into being.
-    app::create_what_is_missing(*session_, clock_, "admin");
+    app::bring_up_to_date(*session_, clock_, "admin");
 }
 
 std::int64_t OurSession::read(const std::string& query) {

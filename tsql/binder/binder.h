@@ -23,6 +23,8 @@ public:
     BoundDelete bind_delete(const Delete& statement);
     std::shared_ptr<CatalogTable>
     bind_table(const std::string& name, const TableDefinition& definition, std::string_view text);
+    // What a table variable of a routine ("" for a batch) is called in the engine.
+    static std::string variable_table_name(const std::string& owner, const CatalogTable& table);
 
     // ---- expressions
     BoundPtr bind_value(const Expression& expression, Scope& scope);
@@ -127,6 +129,7 @@ private:
     std::shared_ptr<RangeTable> bind_values(const ValuesTable& table, Scope& scope);
     std::shared_ptr<RangeTable> bind_function(const FunctionTable& table, Scope& scope);
     std::shared_ptr<RangeTable> bind_multi_function(const CreateFunction& function,
+                                                    const std::string& definition,
                                                     const FunctionTable& table, Scope& scope);
     BoundSourcePtr bind_join(const Join& join, Scope& scope);
     std::vector<BoundPtr> bind_parameters(const CreateFunction& function,

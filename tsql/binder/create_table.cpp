@@ -203,13 +203,22 @@ void TableBuilder::add(const TableDefinition& definition) {
     }
 }
 
+// What the table is made of is part of the name: a variable of the same name in the next batch, or
+// in a routine that was altered, is another table.
+std::string Binder::variable_table_name(const std::string& owner, const CatalogTable& table) {
+    return "@" + owner + table.name + ":" + mark_of(table_text(table));
+}
+
 std::shared_ptr<CatalogTable> Binder::bind_table(const std::string& name,
                                                  const TableDefinition& definition,
                                                  std::string_view text) {
     auto table = std::make_shared<CatalogTable>(name, std::string());
     table->temporary = name.starts_with('#') || name.starts_with('@');
-    table->stored_name = name.starts_with('@') ? "@" + context_.variables.owner + name : name;
+    table->stored_name = name;
     TableBuilder(*this, *table, text).add(definition);
+    if (name.starts_with('@')) {
+        table->stored_name = variable_table_name(context_.variables.owner, *table);
+    }
     if (!table->temporary) {
         table->definition = table_text(*table);
     }

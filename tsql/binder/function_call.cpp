@@ -35,6 +35,7 @@ Type result_type(const FunctionRule& rule, const std::vector<BoundPtr>& argument
     case FunctionResult::Date: return Type::of(TypeKind::Date);
     case FunctionResult::Guid: return Type::of(TypeKind::UniqueIdentifier);
     case FunctionResult::National: return Type::nvarchar(4000);
+    case FunctionResult::NationalMax: return Type::nvarchar(Type::max_length);
     case FunctionResult::SameNumber: return arguments.front()->type;
     case FunctionResult::ScaleZero: break;
     }

@@ -104,7 +104,7 @@ std::shared_ptr<RangeTable> Binder::bind_function(const FunctionTable& table, Sc
                           std::to_string(function->parameters.size()) + " argument(s).");
     }
     if (function->type == FunctionKind::MultiTable) {
-        return bind_multi_function(*function, table, scope);
+        return bind_multi_function(*function, module->definition, table, scope);
     }
     auto& open = context_.views_open;
     if (open.size() > 32) {
@@ -135,6 +135,7 @@ std::shared_ptr<RangeTable> Binder::bind_function(const FunctionTable& table, Sc
 }
 
 std::shared_ptr<RangeTable> Binder::bind_multi_function(const CreateFunction& function,
+                                                        const std::string& definition,
                                                         const FunctionTable& table, Scope& scope) {
     Scope outside;
     outside.parent = scope.parent;
@@ -147,8 +148,8 @@ std::shared_ptr<RangeTable> Binder::bind_multi_function(const CreateFunction& fu
     }
     const std::string alias = table.alias.empty() ? fill.function : table.alias.text;
     const std::string owner = fold_name(fill.function);
-    const auto rows = bind_table(function.return_variable, function.return_table, {});
-    fill.source = "@" + owner + rows->name;
+    const auto rows = bind_table(function.return_variable, function.return_table, definition);
+    fill.source = variable_table_name(owner, *rows);
     rows->stored_name = fill.source + ":" + std::to_string(context_.next_id);
     rows->temporary = true;
     fill.table = rows;

@@ -30,24 +30,26 @@ int CatalogTable::identity_column() const {
     return -1;
 }
 
-std::string copy_name(const CatalogTable& table, bool inserted) {
-    // The columns are part of the name: a table that was altered gets new copies.
+std::string mark_of(std::string_view text) {
     std::uint64_t mark = 1469598103934665603ULL;
-    const auto mix = [&](std::string_view text) {
-        for (const char c : text) {
-            mark = (mark ^ static_cast<unsigned char>(c)) * 1099511628211ULL;
-        }
-    };
-    for (const CatalogColumn& column : table.columns) {
-        mix(column.name);
-        mix(column.type.text());
+    for (const char c : text) {
+        mark = (mark ^ static_cast<unsigned char>(c)) * 1099511628211ULL;
     }
     constexpr const char* digits = "0123456789abcdef";
-    std::string text = (inserted ? "inserted:" : "deleted:") + table.name + ':';
+    std::string shown;
     for (int shift = 28; shift >= 0; shift -= 4) {
-        text += digits[mark >> shift & 0xf];
+        shown += digits[mark >> shift & 0xf];
     }
-    return text;
+    return shown;
+}
+
+std::string copy_name(const CatalogTable& table, bool inserted) {
+    // The columns are part of the name: a table that was altered gets new copies.
+    std::string columns;
+    for (const CatalogColumn& column : table.columns) {
+        columns += column.name + column.type.text();
+    }
+    return (inserted ? "inserted:" : "deleted:") + table.name + ':' + mark_of(columns);
 }
 
 std::shared_ptr<const Batch> CatalogModule::tree() const {

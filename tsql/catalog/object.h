@@ -92,6 +92,9 @@ struct CatalogTable : CatalogObject {
     int identity_column() const; // ordinal, -1 when there is none
 };
 
+// Eight digits that tell texts apart, for names in which a text stands.
+std::string mark_of(std::string_view text);
+
 // Name of the copy that holds a table's old or new rows while its triggers run.
 std::string copy_name(const CatalogTable& table, bool inserted);
 

@@ -61,9 +61,11 @@ constexpr FunctionRule rules[] = {
     {"YEAR", "d", Result::Int},
     // Tests, objects.
     {"IDENT_CURRENT", "t", Result::BigInt},
+    {"INDEXPROPERTY", "itt", Result::Int},
     {"ISDATE", "t", Result::Int},
     {"ISNUMERIC", "a", Result::Int},
     {"NEWID", "", Result::Guid},
+    {"OBJECT_DEFINITION", "i", Result::NationalMax},
     {"OBJECT_ID", "t?t", Result::Int},
     {"OBJECT_NAME", "i", Result::National},
 };

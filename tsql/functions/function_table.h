@@ -16,6 +16,7 @@ enum class FunctionResult : unsigned char {
     Date,
     Guid,
     National,   // nvarchar
+    NationalMax, // nvarchar(max)
     SameNumber, // the type of its first argument
     ScaleZero,  // its first argument without decimals: CEILING and FLOOR
 };

@@ -74,6 +74,9 @@ public:
                 tsql::Type& type) override;
     std::optional<std::int64_t> object_id(std::string_view name, std::string_view kind) override;
     std::optional<std::string> object_name(std::int64_t id) override;
+    std::optional<std::string> object_definition(std::int64_t id) override;
+    std::optional<std::int64_t> index_property(std::int64_t table, std::string_view index,
+                                               std::string_view property) override;
 
 private:
     // run_steps.cpp

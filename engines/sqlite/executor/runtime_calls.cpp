@@ -1,5 +1,8 @@
 // What functions ask of the session: variables, identities, objects.
 #include "engines/sqlite/executor/executor.h"
+
+#include <algorithm>
+
 #include "engines/sqlite/raise.h"
 #include "tsql/binder/scope.h"
 
@@ -42,6 +45,13 @@ std::int64_t number_of(std::string_view name) {
         hash *= 16777619u;
     }
     return static_cast<std::int64_t>(hash & 0x7FFFFFFF) | 1;
+}
+
+std::shared_ptr<const tsql::CatalogObject> object_of(const tsql::Catalog& catalog,
+                                                     std::int64_t number) {
+    for (const auto& [name, object] : catalog.objects())
+        if (number_of(name) == number) return object;
+    return nullptr;
 }
 
 } // namespace
@@ -90,8 +100,27 @@ std::optional<std::int64_t> Executor::object_id(std::string_view name, std::stri
 }
 
 std::optional<std::string> Executor::object_name(std::int64_t id) {
-    for (const auto& [name, object] : parts_.catalog.objects())
-        if (number_of(name) == id) return object->name;
+    const auto object = object_of(parts_.catalog, id);
+    return object ? std::optional(object->name) : std::nullopt;
+}
+
+std::optional<std::string> Executor::object_definition(std::int64_t id) {
+    const auto object = object_of(parts_.catalog, id);
+    if (!object || object->kind == tsql::CatalogKind::Table) return std::nullopt;
+    return object->definition;
+}
+
+std::optional<std::int64_t> Executor::index_property(std::int64_t table, std::string_view index,
+                                                     std::string_view property) {
+    const auto object = object_of(parts_.catalog, table);
+    if (!object || object->kind != tsql::CatalogKind::Table) return std::nullopt;
+    const auto& indexes = static_cast<const tsql::CatalogTable&>(*object).indexes;
+    const auto found = std::ranges::find_if(indexes, [&](const tsql::CatalogIndex& one) {
+        return tsql::same_name(one.name, index);
+    });
+    if (found == indexes.end()) return std::nullopt;
+    if (tsql::same_name(property, "IndexID")) return found - indexes.begin() + 1;
+    if (tsql::same_name(property, "IsUnique")) return found->unique ? 1 : 0;
     return std::nullopt;
 }
 

@@ -28,6 +28,11 @@ public:
         return std::nullopt;
     }
     std::optional<std::string> object_name(std::int64_t) override { return "T"; }
+    std::optional<std::string> object_definition(std::int64_t) override { return "CREATE"; }
+    std::optional<std::int64_t> index_property(std::int64_t, std::string_view,
+                                               std::string_view) override {
+        return 1;
+    }
 
     std::int64_t identity = 0;
 };
@@ -119,6 +124,10 @@ TEST_F(Functions, give_what_their_lines_promise) {
         {"zf_identity('T')", "1"},
         {"zf_object_id('T',NULL)", "NULL"},
         {"zf_object_name(1)", "T"},
+        {"zf_object_definition(1)", "CREATE"},
+        {"zf_object_definition(NULL)", "NULL"},
+        {"zf_indexproperty(1,'I','IndexID')", "1"},
+        {"zf_indexproperty(1,NULL,'IndexID')", "NULL"},
         {"zf_raise(512,'x')", "512"},
         {"zf_percent(50,3)", "2"},
         {"length(zf_newid())", "36"},

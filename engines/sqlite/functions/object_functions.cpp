@@ -48,6 +48,19 @@ void object_name(const Call& call) {
     name ? call.give_text(*name) : call.give_null();
 }
 
+void object_definition(const Call& call) {
+    if (call.is_null(0)) return call.give_null();
+    const auto text = call.runtime().object_definition(call.integer(0));
+    text ? call.give_text(*text) : call.give_null();
+}
+
+void index_property(const Call& call) {
+    if (call.is_null(0) || call.is_null(1) || call.is_null(2)) return call.give_null();
+    const auto value =
+        call.runtime().index_property(call.integer(0), call.text(1), call.text(2));
+    value ? call.give(*value) : call.give_null();
+}
+
 // Nine bytes that are neither a text, a number nor a wide decimal.
 void tombstone(const Call& call) {
     std::array<char, 9> bytes{static_cast<char>(0xFF)};
@@ -88,6 +101,8 @@ constexpr FunctionEntry entries[] = {
     {"zf_call", -1, Nature::live, call_function},
     {"zf_object_id", 2, Nature::live, object_id},
     {"zf_object_name", 1, Nature::live, object_name},
+    {"zf_object_definition", 1, Nature::live, object_definition},
+    {"zf_indexproperty", 3, Nature::live, index_property},
     {"zf_tombstone", 1, Nature::pure, tombstone},
     {"zf_raise", 2, Nature::live, raise},
     {"zf_percent", 2, Nature::pure, percent},

@@ -63,6 +63,9 @@ public:
                         tsql::Type& type) = 0;
     virtual std::optional<std::int64_t> object_id(std::string_view name, std::string_view kind) = 0;
     virtual std::optional<std::string> object_name(std::int64_t id) = 0;
+    virtual std::optional<std::string> object_definition(std::int64_t id) = 0;
+    virtual std::optional<std::int64_t> index_property(std::int64_t table, std::string_view index,
+                                                       std::string_view property) = 0;
 
     void keep(const Error& error) { raised_ = error; }
     // The error that ended the statement, once.

@@ -31,7 +31,8 @@ bool takes_type(const std::string& name) {
 
 bool is_volatile_function(const std::string& name) {
     return name == "NEWID" || name == "RAND" || name == "NEXT_IDENTITY" || name == "OBJECT_ID" ||
-           name == "OBJECT_NAME" || name == "IDENT_CURRENT";
+           name == "OBJECT_NAME" || name == "OBJECT_DEFINITION" || name == "INDEXPROPERTY" ||
+           name == "IDENT_CURRENT";
 }
 
 } // namespace

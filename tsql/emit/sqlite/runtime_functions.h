@@ -85,6 +85,8 @@
 //                              parameters' types; result in its declared type
 //   zf_object_id(name,kind)    (v) OBJECT_ID; kind may be NULL; NULL when there is none
 //   zf_object_name(id)         (v)
+//   zf_object_definition(id)   (v) the CREATE statement; NULL for a table
+//   zf_indexproperty(id,index,property)  (v) 'IndexID' counts from 1, 'IsUnique'; NULL for others
 //   zf_ident_current(table)    (v) IDENT_CURRENT: decimal(38,0)
 //   zf_tombstone(rowid)        a BLOB no key has, for keys that change places
 //   zf_raise(number,text)      raises that error
