@@ -24,8 +24,10 @@ std::string ExecSql(const std::string& function, const std::string& key,
                     const std::string& operation, const std::string& batch, std::uint16_t = 0,
                     bool = false, bool = true, bool = false, bool = true);
 
-// The same for a document that others may have changed since it was read: `why_not` looks at it
-// again inside the transaction, and its reason is shown instead of running the batch.
+// The same where the batch rests on what was read before this act began: a document opened to be
+// changed, balances that a dialog showed. `why_not` looks at it again inside the transaction, and
+// its reason is shown instead of running the batch. What the act itself read is held anyway
+// (host/ports/held_readings.h) and asks for no second look.
 std::string ExecSqlUnless(const WhyNot& why_not, const std::string& function,
                           const std::string& key, const std::string& operation,
                           const std::string& batch);

@@ -203,25 +203,23 @@ void TFrm_Base_Entry_Head::DBGridEhDblClick() {
 }
 
 void TFrm_Base_Entry_Head::Act_DeleteExecute() {
-    if (!StillThere()) return;
-    const std::string reason = WhyLocked();
-    if (!reason.empty()) {
-        DISPINFO(reason, 5);
-        return;
-    }
+    if (!may_delete()) return;
     const std::string key = current_key(AdoQry_Main, Settings.key_field);
     allow_delete({}, FunctionCode, key, DocumentName());
+    // While the question stood there, somebody else may have audited or deleted it.
+    if (!may_delete()) return;
     const std::string statement = with_key(Settings.delete_statement, key);
-    const WhyNot why_not = [this, &key] { return why_not_deleted(key); };
-    if (ExecSqlUnless(why_not, FunctionCode, key, "Delete", statement) != "Y") return;
+    if (ExecSql(FunctionCode, key, "Delete", statement) != "Y") return;
     AdoQry_Main.Delete();
     AdoQry_Main.MarkSaved();
     LoadLines();
 }
 
-// While the question stood there, somebody else may have audited or deleted it.
-std::string TFrm_Base_Entry_Head::why_not_deleted(const std::string& key) {
-    return refresh_row(key) ? WhyLocked() : "“" + DocumentName() + "”已被他人删除!";
+bool TFrm_Base_Entry_Head::may_delete() {
+    if (!StillThere()) return false;
+    const std::string reason = WhyLocked();
+    if (!reason.empty()) DISPINFO(reason, 5);
+    return reason.empty();
 }
 
 // ---- conditions ----

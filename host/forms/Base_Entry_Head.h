@@ -78,7 +78,7 @@ private:
     bool read_head(const std::string& key, TClientDataSet& head);
     void document_saved(const std::string& key); // adds or renews its row
     void show_row(const std::string& key_before, const std::string& key);
-    std::string why_not_deleted(const std::string& key); // "" when it may go
+    bool may_delete(); // as the document stands in the books now; else says why not
     void write_audit(bool audit);
     bool lines_held_ = false;
     std::string lines_of_; // key of the document whose lines are shown

@@ -12,6 +12,8 @@ namespace host {
 //     const HeldReadings held;
 //     if (audited(key)) return;          // reads
 //     ExecSql("661", key, "Delete", …);  // refused if what was read has changed meanwhile
+//
+// What was read before the act began is not held: see ExecSqlUnless.
 class HeldReadings {
 public:
     HeldReadings() : data_(the_host().data) {

@@ -17,14 +17,34 @@ namespace {
 
 // Leaf accounts of the category profit and loss. 5801 corrects former years: it belongs to the
 // distribution of profit, not to the profit of this year.
-const char* const select_accounts =
+const std::string carried_accounts =
     "SELECT KM_ID AS A1,KM_NAME2 A2 ,'3131' as A3,'本年利润' AS A4,FX,0.00 AS E FROM V6801 LEFT "
     "JOIN (SELECT OID AS ID FROM D6801 WHERE OID<>'Z' GROUP BY OID ) A ON KM_ID=A.ID WHERE ID IS "
-    "NULL and km_fl=5  AND KM_ID<>'5801' order by km_id ";
+    "NULL and km_fl=5  AND KM_ID<>'5801'";
+const std::string select_accounts = carried_accounts + " order by km_id ";
 
 std::string select_balance(const std::string& period, const std::string& account) {
     return "SELECT DBO.FASC(0," + quoted(period) + "," + quoted(account) + "," + quoted(account) +
            ") AS A";
+}
+
+// All of them with their balances, in the order in which they are shown.
+std::string select_balances(const std::string& period) {
+    return "SELECT A1,A3,FX,DBO.FASC(0," + quoted(period) + ",A1,A1) AS E FROM (" +
+           carried_accounts + ") T ORDER BY A1";
+}
+
+CarriedAccount account_in(const TClientDataSet& rows, int row) {
+    const auto text = [&](const char* field) {
+        return rows.text_at(row, rows.FieldByName(field).index());
+    };
+    return {text("A1"), text("A3"), text("FX") == "借", Amount::parse(text("E")).value_or(Amount())};
+}
+
+std::vector<CarriedAccount> accounts_in(const TClientDataSet& rows) {
+    std::vector<CarriedAccount> all;
+    for (int row = 0; row < rows.RecordCount(); ++row) all.push_back(account_in(rows, row));
+    return all;
 }
 
 const char* const distribution_accounts = "  (km_id>'3141') and  (km_id like '3141%')";
@@ -96,7 +116,7 @@ void TF6667::load_accounts() {
     cds1.DisableControls();
     for (cds1.First(); !cds1.Eof(); cds1.Next()) {
         read_balance_of_row();
-        totals_.add(account_in_row(cds1.RecNo()));
+        totals_.add(account_in(cds1, cds1.RecNo()));
     }
     cds1.First();
     cds1.MarkSaved();
@@ -110,19 +130,6 @@ void TF6667::read_balance_of_row() {
     cds1.Edit();
     cds1.FieldByName("E").SetText(balance.FieldByName("A").AsText());
     cds1.Post();
-}
-
-CarriedAccount TF6667::account_in_row(int row) const {
-    const auto text = [&](const char* field) {
-        return cds1.text_at(row, cds1.FieldByName(field).index());
-    };
-    return {text("A1"), text("A3"), text("FX") == "借", Amount::parse(text("E")).value_or(Amount())};
-}
-
-std::vector<CarriedAccount> TF6667::accounts() const {
-    std::vector<CarriedAccount> all;
-    for (int row = 0; row < cds1.RecordCount(); ++row) all.push_back(account_in_row(row));
-    return all;
 }
 
 void TF6667::show_totals() {
@@ -179,6 +186,14 @@ void TF6667::require_same_period() {
     refuse("会计期间已由 " + period_ + " 变为 " + now + "!请关闭后重新打开本功能。");
 }
 
+// The balances were read when the dialog opened; what was posted since would stay behind.
+std::string TF6667::why_changed_meanwhile() {
+    TClientDataSet now;
+    opensql(now, FunctionCode, select_balances(period_));
+    if (accounts_in(now) == accounts_in(cds1)) return "";
+    return "损益科目的余额在打开之后已改变,没有结转!请关闭后重新打开本功能。";
+}
+
 // ---- saving ----
 
 void TF6667::btn_okClick() {
@@ -190,9 +205,9 @@ void TF6667::btn_okClick() {
     require_same_period();
     CarryForwardVoucher voucher{period_, "", bdate.Text, G_UserId, Edit1.Text};
     voucher.number = std::to_string(next_voucher_number(FunctionCode, period_, "记"));
-    const std::string batch = carry_forward_batch(voucher, accounts(), totals_);
-    const std::string answer =
-        ExecSql(FunctionCode, voucher.key(), "Add", batch, 0, false, true, false, true);
+    const std::string batch = carry_forward_batch(voucher, accounts_in(cds1), totals_);
+    const std::string answer = ExecSqlUnless([this] { return why_changed_meanwhile(); },
+                                             FunctionCode, voucher.key(), "Add", batch);
     if (answer != "Y") return;
     Made.Caption = "已生成凭证 记-" + voucher.number + "，请审核、登帐。";
 }

@@ -37,12 +37,11 @@ private:
     void build_layout();
     void load_accounts();
     void read_balance_of_row();
-    CarriedAccount account_in_row(int row) const;
-    std::vector<CarriedAccount> accounts() const;
     void show_totals();
     void refresh_date_hint();
     void show_account_name(const std::string& name);
     void require_same_period();
+    std::string why_changed_meanwhile(); // "" while the balances are those shown
     std::string period_;
     CarriedTotals totals_;
 };

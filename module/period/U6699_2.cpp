@@ -3,6 +3,7 @@
 
 #include "host/ports/host.h"
 #include "module/period/opening_posting.h"
+#include "module/refuse.h"
 #include "module/vouchers/voucher_words.h"
 
 namespace module {
@@ -66,11 +67,12 @@ std::string TF6699_2::why_not_again() {
 void TF6699_2::btn_okClick() {
     RequireRight("post", "初始化登帐");
     CheckDate(BDATE, "帐套启用日期");
+    if (const std::string reason = why_not_again(); !reason.empty()) refuse(reason);
     const Date chosen = BDATE.value();
     const OpeningDay opening(chosen);
     BDATE.set(opening.day);
-    const std::string answer = ExecSqlUnless([this] { return why_not_again(); }, FunctionCode,
-                                             opening.first_period, "Edit", opening_batch(opening));
+    const std::string answer =
+        ExecSql(FunctionCode, opening.first_period, "Edit", opening_batch(opening));
     if (answer == "Y") {
         ModalResult = mrOk;
     } else {

@@ -15,6 +15,7 @@ struct CarriedAccount {
     std::string target; // receives the balance: 3131
     bool debit_side;
     Amount balance;
+    friend bool operator==(const CarriedAccount&, const CarriedAccount&) = default;
 };
 
 // What goes forward from each side. Accounts without a balance count for nothing.

@@ -358,6 +358,9 @@ TEST(ModuleForms, profit_is_carried_forward_without_the_mouse) {
                      {"A1 text", "A2 text", "A3 text", "A4 text", "FX text", "E money"},
                      {{"5101", "主营业务收入", "3131", "本年利润", "贷", "0.00"}});
     desk.data.answer("SELECT DBO.FASC(0,'2024-03','5101','5101') AS A", {"A money"}, {{"1234.5"}});
+    desk.data.answer("SELECT A1,A3,FX,DBO.FASC(0,'2024-03',A1,A1) AS E",
+                     {"A1 text", "A3 text", "FX text", "E money"},
+                     {{"5101", "3131", "贷", "1234.5"}});
     desk.data.answer("select km_name from d6801", {"km_name text"}, {{"未分配利润"}});
     desk.when_modal([&] {
         desk.settle();

@@ -33,8 +33,17 @@ protected:
             rows.push_back({account.code, account.name, "3131", "本年利润", account.side, "0.00"});
             data.answer(select_balance(account.code), {"A money"}, {{account.balance}});
         }
+        answer_balances(accounts);
         data.answer("SELECT KM_ID AS A1",
                     {"A1 text", "A2 text", "A3 text", "A4 text", "FX text", "E money"}, rows);
+    }
+    // As they stand when the voucher is written.
+    void answer_balances(const std::vector<Account>& accounts) {
+        std::vector<FakeData::Cells> rows;
+        for (const Account& account : accounts)
+            rows.push_back({account.code, "3131", account.side, account.balance});
+        data.answer("SELECT A1,A3,FX,DBO.FASC(0,'2024-03',A1,A1) AS E FROM (SELECT KM_ID AS A1",
+                    {"A1 text", "A3 text", "FX text", "E money"}, rows);
     }
     void answer_highest_number(const std::string& number) {
         data.answer("SELECT * FROM ( SELECT 1 AS I", {"I int"}, {{number}, {"1"}});
@@ -227,6 +236,22 @@ TEST_F(CarryingForward, a_period_closed_meanwhile_gets_no_voucher) {
     anna.click("btn_ok");
     anna.expect_message("会计期间已由 2024-03 变为 2024-04!请关闭后重新打开本功能。");
     EXPECT_TRUE(data.executed().empty());
+}
+
+TEST_F(CarryingForward, balances_that_changed_since_they_were_shown_are_not_carried) {
+    Person& anna = with_account();
+    const std::string sentence = "损益科目的余额在打开之后已改变,没有结转!请关闭后重新打开本功能。";
+    const std::vector<std::vector<Account>> changes = {
+        {{"5101", "", "贷", "1234.51"}, {"5201", "", "贷", "0"}, {"550201", "", "借", "600"}},
+        {{"5101", "", "贷", "1234.5"}, {"550201", "", "借", "600"}},
+        {{"5101", "", "贷", "1234.5"}, {"5201", "", "借", "0"}, {"550201", "", "借", "600"}}};
+    for (const std::vector<Account>& now : changes) {
+        answer_balances(now);
+        anna.click("btn_ok");
+        anna.expect_message(sentence);
+    }
+    EXPECT_TRUE(data.executed().empty());
+    EXPECT_EQ(anna.value("Made"), "");
 }
 
 TEST_F(CarryingForward, a_date_outside_the_period_is_pointed_out) {
