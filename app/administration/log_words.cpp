@@ -12,7 +12,7 @@ const std::vector<LogOperation>& log_operations() {
         {"Add", "新增"},     {"CopyAdd", "复制新增"}, {"Edit", "修改"},  {"Delete", "删除"},
         {"Audit", "审核"},   {"UnAudit", "反审核"},   {"Update", "保存"}, {"pass", "存为模板"},
         {"Password", "改密码"}, {"Upgrade", "升级"},  {"Red", "红字冲销"}, {"Number", "取单据号"},
-        {"Sql", "执行语句"}};
+        {"Sql", "执行语句"},  {"Restore", "恢复"}};
     return operations;
 }
 
@@ -25,6 +25,7 @@ std::string operation_caption(std::string_view name) {
 std::string function_caption(std::string_view key) {
     if (key == "new") return "建立帐套";
     if (key == "sql") return "直接执行语句";
+    if (key == "restore") return "从备份恢复";
     const host::Function* function = host::function_of(key);
     if (function == nullptr) return std::string(key);
     const std::string name(function->name);

@@ -8,6 +8,8 @@
 #include "app/books/engines.h"
 #include "app/books/open.h"
 #include "app/books/pending_file.h"
+#include "app/data/error_sentence.h"
+#include "app/data/log_entry.h"
 #include "app/refusal.h"
 #include "automation/sql/collected_result.h"
 
@@ -94,6 +96,22 @@ std::unique_ptr<engines::Session> open_backup(const std::string& file) {
     }
 }
 
+// The log goes on from where the backup stood; its reader is told why something is missing. Books
+// of a time without such a log stay without.
+void log_restoring(const std::string& copy, const std::string& file, const Restoring& by) {
+    const auto session = open_books(copy);
+    if (!keeps_log(*session)) return;
+    const auto require = [](const engines::Outcome& outcome) {
+        if (!outcome.ok()) throw Refusal("不能写入操作日志: " + sentence_for(*outcome.error));
+    };
+    std::error_code ignored;
+    require(session->begin());
+    require(append_log_row(*session, by.moment, by.user,
+                           {"restore", fs::path(file).filename().string(), "Restore"},
+                           "恢复自 " + fs::absolute(file, ignored).string()));
+    require(session->commit());
+}
+
 void move_aside(const std::string& books, const std::string& aside) {
     std::error_code error;
     fs::rename(books, aside, error);
@@ -134,7 +152,7 @@ std::string moment_in_name(const host::DateTime& moment) {
 }
 
 std::string restore_books(const std::string& file, const std::string& books,
-                          const std::string& moment, const CopyProgress& progress) {
+                          const Restoring& by, const CopyProgress& progress) {
     require_file(books);
     const Ending ending(progress);
     const auto backup = open_backup(file);
@@ -142,10 +160,11 @@ std::string restore_books(const std::string& file, const std::string& books,
     const bool replaces = fs::exists(books, ignored);
     if (replaces && fs::equivalent(file, books, ignored))
         throw Refusal("备份文件和帐套是同一个文件!");
-    const std::string aside = books + ".before-restore-" + moment;
+    const std::string aside = books + ".before-restore-" + moment_in_name(by.moment);
     // The copy is made and checked before the old books are touched.
     PendingFile pending(replaces ? aside + ".copy" : books);
     copy_verified(*backup, file, pending, progress);
+    log_restoring(pending.path(), file, by);
     if (!replaces) {
         pending.publish();
         return "";

@@ -30,11 +30,18 @@ std::string contents_of_backup(const std::string& file);
 // A moment as it stands in the name of books kept beside: "20240305-140506".
 std::string moment_in_name(const host::DateTime& moment);
 
-// Makes the books what the backup holds. Books that exist are kept beside under a name with the
-// moment of restoring (moment_in_name); the name is answered ("" when there were none). Refused
-// while somebody else has the books open, and when the backup is damaged. Throws Refusal, also
-// when it was stopped: which it can be until the copy is complete.
+// Who restores, and when, for the log of the restored books.
+struct Restoring {
+    std::string user; // of the books, or as the system knows him: "(anna)"
+    host::DateTime moment;
+};
+
+// Makes the books what the backup holds, with one row more in their log: "恢复自 " and the file.
+// Books that exist are kept beside under a name with the moment of restoring (moment_in_name); the
+// name is answered ("" when there were none). Refused while somebody else has the books open, and
+// when the backup is damaged. Throws Refusal, also when it was stopped: which it can be until the
+// copy is complete.
 std::string restore_books(const std::string& file, const std::string& books,
-                          const std::string& moment, const CopyProgress& progress = {});
+                          const Restoring& by, const CopyProgress& progress = {});
 
 } // namespace app

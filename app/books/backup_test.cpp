@@ -7,6 +7,8 @@
 
 #include "app/books/open.h"
 #include "app/refusal.h"
+#include "automation/check/check.h"
+#include "automation/check/log_seal.h"
 #include "automation/sql/collected_result.h"
 #include "tests/support/new_books.h"
 
@@ -30,6 +32,7 @@ protected:
     tests::TemporaryFolder folder_;
     std::string books_ = tests::new_books(folder_, "a.zf");
     std::string copy_ = folder_.file("copy.zf");
+    const Restoring by_{"anna", *host::DateTime::parse("2024-03-05 14:05:06")};
 };
 
 } // namespace
@@ -80,7 +83,7 @@ TEST_F(Backup, stopped_it_leaves_no_file) {
     EXPECT_EQ(folder_.files(), 1u);
     backup_books(books_, copy_);
     write(books_, "after");
-    EXPECT_THROW(restore_books(copy_, books_, "20240305-140506", stop), Refusal);
+    EXPECT_THROW(restore_books(copy_, books_, by_, stop), Refusal);
     EXPECT_TRUE(has(books_, "after"));
     EXPECT_EQ(folder_.files(), 2u);
 }
@@ -89,17 +92,46 @@ TEST_F(Backup, restoring_brings_the_books_back_and_keeps_the_old_ones_aside) {
     write(books_, "before");
     backup_books(books_, copy_);
     write(books_, "after");
-    const std::string aside = restore_books(copy_, books_, "20240305-140506");
+    const std::string aside = restore_books(copy_, books_, by_);
     EXPECT_TRUE(has(books_, "before"));
     EXPECT_FALSE(has(books_, "after"));
-    ASSERT_FALSE(aside.empty());
+    EXPECT_EQ(aside, books_ + ".before-restore-20240305-140506");
     EXPECT_TRUE(has(aside, "after"));
+}
+
+TEST_F(Backup, the_restored_log_says_where_it_was_restored_from) {
+    backup_books(books_, copy_);
+    const std::string seal = automation::log_seal(*open_books(books_));
+    write(books_, "after");
+    const std::string aside = restore_books(copy_, books_, by_);
+    const auto restored = open_books(books_);
+    const auto last = automation::rows_of(
+        *restored, "SELECT TOP 1 CONVERT(varchar(19),LOG_TIME,120),USER_ID,FUNCTION_CODE,DOC_KEY,"
+                   "OPERATION,BATCH "
+                   "FROM SYS_LOG A INNER JOIN SYS_LOG_TEXT B ON A.ID=B.ID ORDER BY A.ID DESC");
+    const std::vector<std::string> told = {"2024-03-05 14:05:06", "anna", "restore", "copy.zf",
+                                           "Restore", "恢复自 " + copy_};
+    for (std::size_t i = 0; i < told.size(); ++i) EXPECT_EQ(last[0][i].value_or(""), told[i]);
+    EXPECT_TRUE(automation::check_books(*restored).empty());
+    EXPECT_EQ(automation::broken_seal(*restored, seal), "") << "the log goes on";
+    const auto rows = "SELECT COUNT(*) FROM SYS_LOG WHERE OPERATION='Restore'";
+    EXPECT_EQ(automation::rows_of(*open_books(copy_), rows)[0][0], "0") << "the backup stays";
+    EXPECT_EQ(automation::rows_of(*open_books(aside), rows)[0][0], "0");
+}
+
+TEST_F(Backup, a_backup_of_a_time_without_such_a_log_is_restored_without_a_row) {
+    automation::rows_of(*open_books(books_), "DROP TABLE SYS_LOG_HEAD; DROP TABLE SYS_LOG_TEXT");
+    backup_books(books_, copy_);
+    restore_books(copy_, books_, by_);
+    EXPECT_TRUE(automation::rows_of(*open_books(books_),
+                                    "SELECT ID FROM SYS_LOG WHERE OPERATION='Restore'")
+                    .empty());
 }
 
 TEST_F(Backup, restoring_where_no_books_are_makes_them) {
     write(books_, "before");
     backup_books(books_, copy_);
-    EXPECT_EQ(restore_books(copy_, folder_.file("new.zf"), "m"), "");
+    EXPECT_EQ(restore_books(copy_, folder_.file("new.zf"), by_), "");
     EXPECT_EQ(folder_.files(), 3u); // the books, the copy, the new books: nothing else is left
     EXPECT_TRUE(has(folder_.file("new.zf"), "before"));
 }
@@ -108,7 +140,7 @@ TEST_F(Backup, damaged_books_are_replaced_too) {
     write(books_, "before");
     backup_books(books_, copy_);
     std::ofstream(books_, std::ios::binary | std::ios::trunc) << std::string(50'000, '\xA5');
-    EXPECT_FALSE(restore_books(copy_, books_, "m").empty());
+    EXPECT_FALSE(restore_books(copy_, books_, by_).empty());
     EXPECT_TRUE(has(books_, "before"));
 }
 
@@ -116,7 +148,7 @@ TEST_F(Backup, restoring_is_refused_while_somebody_works_in_the_books) {
     backup_books(books_, copy_);
     const auto other = open_books(books_);
     automation::rows_of(*other, "INSERT INTO D6803 (GUID, ZY) VALUES ('open','open')");
-    EXPECT_THROW(restore_books(copy_, books_, "m"), Refusal);
+    EXPECT_THROW(restore_books(copy_, books_, by_), Refusal);
     EXPECT_TRUE(has(books_, "open"));
 }
 
@@ -147,9 +179,9 @@ TEST(MomentInName, has_nothing_that_a_file_name_does_not_take) {
 TEST_F(Backup, what_is_no_backup_is_refused_and_the_books_stay) {
     write(books_, "before");
     std::ofstream(copy_) << std::string(10'000, 'x');
-    EXPECT_THROW(restore_books(copy_, books_, "m"), Refusal);
+    EXPECT_THROW(restore_books(copy_, books_, by_), Refusal);
     EXPECT_TRUE(has(books_, "before"));
-    EXPECT_THROW(restore_books(books_, books_, "m"), Refusal);
+    EXPECT_THROW(restore_books(books_, books_, by_), Refusal);
 }
 
 } // namespace app

@@ -4,6 +4,7 @@
 #include "app/books/backup.h"
 #include "app/command_line/commands.h"
 #include "app/command_line/terminal_progress.h"
+#include "app/data/direct_changes.h"
 #include "app/settings/surroundings.h"
 
 namespace app {
@@ -28,7 +29,7 @@ void back_up(const Names& names) {
 
 std::string restore(const Names& names) {
     TerminalProgress terminal;
-    return restore_books(names.file, names.books, moment_in_name(SystemClock().now()),
+    return restore_books(names.file, names.books, {system_user(), SystemClock().now()},
                          shown_on(terminal));
 }
 

@@ -5,21 +5,12 @@
 #include <unistd.h>
 
 #include "app/data/log_entry.h"
-#include "automation/sql/collected_result.h"
 
 namespace app {
 
-namespace {
-
-bool has_log(engines::Session& session) {
-    return automation::rows_of(session, "SELECT OBJECT_ID('SYS_LOG_TEXT')")[0][0].has_value();
-}
-
-} // namespace
-
 void log_direct_changes(engines::Session& session, const host::Clock& clock,
                         const std::string& user) {
-    if (!has_log(session)) return;
+    if (!keeps_log(session)) return;
     session.set_recorder([&session, &clock, user](std::string_view batches) {
         const engines::Outcome logged =
             append_log_row(session, clock.now(), user, {"sql", "", "Sql"}, batches);

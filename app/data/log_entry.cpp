@@ -2,6 +2,7 @@
 #include "app/data/log_entry.h"
 
 #include "app/data/log_text.h"
+#include "automation/sql/collected_result.h"
 #include "host/values/sql_text.h"
 #include "schema/log_chain.h"
 
@@ -58,6 +59,10 @@ std::string insert_row(const schema::LogRow& row, const std::string& hash) {
 }
 
 } // namespace
+
+bool keeps_log(engines::Session& session) {
+    return automation::rows_of(session, "SELECT OBJECT_ID('SYS_LOG_TEXT')")[0][0].has_value();
+}
 
 engines::Outcome begin_log_head(engines::Session& session) {
     engines::ResultReceiver nobody;

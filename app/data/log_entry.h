@@ -10,6 +10,9 @@
 
 namespace app {
 
+// Whether the books have a log with texts; those of a time before it have none.
+bool keeps_log(engines::Session& session);
+
 // Writes down where the log ends, for books that have no such row yet.
 engines::Outcome begin_log_head(engines::Session& session);
 

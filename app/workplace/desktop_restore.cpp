@@ -17,10 +17,10 @@ std::string name_of(const std::string& file) {
 }
 
 std::string restored(const std::string& file, const std::string& books,
-                     const desktop::ReportProgress& report) {
+                     const std::string& user, const desktop::ReportProgress& report) {
     try {
         const std::string aside =
-            restore_books(file, books, moment_in_name(SystemClock().now()), report);
+            restore_books(file, books, {user, SystemClock().now()}, report);
         return "已从备份恢复。原来的帐套改名保留为 " + name_of(aside) + "。";
     } catch (const Refusal& refusal) {
         return std::string("没有恢复: ") + refusal.what();
@@ -38,12 +38,13 @@ std::string restore_question(const std::string& file, const std::string& books,
            "请先让其他用户退出。";
 }
 
-void restore_on_desktop(const std::string& file, const std::string& books) {
+void restore_on_desktop(const std::string& file, const std::string& books,
+                        const std::string& user) {
     char program_name[] = "zhangfang";
     char* argv[] = {program_name, nullptr};
     std::string outcome;
     desktop::work_with_progress(1, argv, [&](const desktop::ReportProgress& report) {
-        outcome = restored(file, books, report);
+        outcome = restored(file, books, user, report);
     });
     desktop::tell(1, argv, outcome);
 }

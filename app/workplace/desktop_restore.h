@@ -11,7 +11,9 @@ std::string restore_question(const std::string& file, const std::string& books,
                              bool administrator);
 
 // Carries it out, once the desktop has closed the books: shows how far it has come and tells the
-// outcome in a window. Books that could not be replaced stay as they were.
-void restore_on_desktop(const std::string& file, const std::string& books);
+// outcome in a window. Books that could not be replaced stay as they were. user: who stands in the
+// log of the restored books.
+void restore_on_desktop(const std::string& file, const std::string& books,
+                        const std::string& user);
 
 } // namespace app

@@ -141,6 +141,7 @@ bool let_in_without_asking(Workplace& work, const DesktopWanted& wanted, const s
 struct Ended {
     int status = 0;
     std::string backup; // to be put in the place of the books; "" for none
+    std::string user;   // who chose it
 };
 
 Ended run_on(const DesktopWanted& wanted, const std::string& books, int argc, char** argv) {
@@ -152,7 +153,10 @@ Ended run_on(const DesktopWanted& wanted, const std::string& books, int argc, ch
     work.settings().write(settings_section, last_books, books);
     desktop::DesktopServices services = services_for(wanted, books, work, frame);
     if (let_in_without_asking(work, wanted, services.last_user)) services.log_in = nullptr;
-    services.restore = [&ended](const std::string& file) { ended.backup = file; };
+    services.restore = [&](const std::string& file) {
+        ended.backup = file;
+        ended.user = work.user().id;
+    };
     ended.status = desktop::run(argc, argv, services);
     return ended;
 }
@@ -169,7 +173,7 @@ int run_desktop(const DesktopWanted& wanted) {
         const std::string books = books_to_open(wanted.books);
         const Ended ended = run_on(wanted, books, 1, argv);
         if (ended.backup.empty()) return ended.status;
-        restore_on_desktop(ended.backup, books);
+        restore_on_desktop(ended.backup, books, ended.user);
         start_over(books);
         return ended.status;
     } catch (const Refusal& refusal) {

@@ -154,6 +154,9 @@ TEST_F(BooksCommands, backup_and_restore_bring_the_books_back) {
     fs::remove(books_);
     EXPECT_EQ(run_program({"restore", folder_.file("copy"), books_}).status, 0);
     EXPECT_EQ(run_program({"check", books_}).status, 0);
+    EXPECT_NE(value(books_, "SELECT BATCH FROM SYS_LOG_TEXT").find("恢复自 " +
+                                                                   folder_.file("copy")),
+              std::string::npos);
 }
 
 TEST_F(BooksCommands, a_foreign_a_missing_and_a_server_name_are_refused_by_every_command) {
