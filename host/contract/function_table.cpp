@@ -38,7 +38,7 @@ constexpr Function trade[] = {
     {641, "采购付款", list},        {642, "采购付款明细表", report},
     {643, "采购付款汇总表", report},     {646, "其他收款单", list},
     {647, "其他付款单", list}};
-constexpr Function cash[] = {{648, "银行存取款单", documents},
+constexpr Function cash[] = {{648, "银行存取款单", list},
                              {650, "现金银行总帐", report},
                              {652, "现金银行日记帐", report},
                              {653, "收支明细表", report}};

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "host/dataset/client_dataset.h"
+#include "host/dataset/field_names.h"
 #include "host/dataset/pinyin_order.h"
 #include "host/values/text.h"
 
@@ -29,6 +30,22 @@ std::vector<std::int64_t> sort_numbers(const RecordStore& store, const std::vect
     return numbers;
 }
 
+// Stable in both directions: equal rows keep the order they have.
+std::vector<Slot> in_order_of(const std::vector<std::int64_t>& numbers,
+                              const std::vector<Slot>& rows, bool descending) {
+    std::vector<std::uint32_t> order(rows.size());
+    std::iota(order.begin(), order.end(), 0U);
+    if (descending)
+        std::stable_sort(order.begin(), order.end(),
+                         [&](auto a, auto b) { return numbers[a] > numbers[b]; });
+    else
+        std::stable_sort(order.begin(), order.end(),
+                         [&](auto a, auto b) { return numbers[a] < numbers[b]; });
+    std::vector<Slot> sorted(rows.size());
+    for (std::size_t i = 0; i < order.size(); ++i) sorted[i] = rows[order[i]];
+    return sorted;
+}
+
 } // namespace
 
 void TClientDataSet::rebuild_view() {
@@ -37,29 +54,22 @@ void TClientDataSet::rebuild_view() {
     view_.reserve(alive_.size());
     for (const Slot row : alive_)
         if (passes(row)) view_.push_back(row);
-    if (sort_field_.empty()) return;
-    const std::vector<std::int64_t> numbers =
-        sort_numbers(store_, view_, FieldByName(sort_field_).index());
-    std::vector<std::uint32_t> order(view_.size());
-    std::iota(order.begin(), order.end(), 0U);
-    // Stable in both directions: equal rows keep the order they were loaded in.
-    if (sort_descending_)
-        std::stable_sort(order.begin(), order.end(),
-                         [&](auto a, auto b) { return numbers[a] > numbers[b]; });
-    else
-        std::stable_sort(order.begin(), order.end(),
-                         [&](auto a, auto b) { return numbers[a] < numbers[b]; });
-    std::vector<Slot> sorted(view_.size());
-    for (std::size_t i = 0; i < order.size(); ++i) sorted[i] = view_[order[i]];
-    view_ = std::move(sorted);
+    // From the last field to the first: what the later ones put in order stays so among equals.
+    std::vector<std::string> fields = field_names(sort_field_);
+    for (; !fields.empty(); fields.pop_back()) {
+        const int field = FieldByName(fields.back()).index();
+        view_ = in_order_of(sort_numbers(store_, view_, field), view_, sort_descending_);
+    }
 }
 
+// `field` may be a list: rows that are equal in one field order by the next.
 void TClientDataSet::SortBy(const std::string& field, bool descending) {
     LeaveRow();
     const std::int64_t before = current_slot();
     const bool as_before = same_text(field, sort_field_) && descending == sort_descending_;
-    if (!field.empty()) sort_field_ = FieldByName(field).FieldName;
-    if (field.empty()) sort_field_.clear();
+    sort_field_.clear();
+    for (const std::string& name : field_names(field))
+        sort_field_ += (sort_field_.empty() ? "" : ",") + FieldByName(name).FieldName;
     sort_descending_ = descending;
     if (!Active()) return;
     if (!as_before || !in_order_) rebuild_view();

@@ -52,6 +52,28 @@ TEST(Sort, numbers_order_by_size_with_empty_ones_first_and_equals_as_they_came) 
     EXPECT_EQ(column(rows, "N"), (Texts{"0", "4", "1", "5", "2", "3"}));
 }
 
+TEST(Sort, rows_equal_in_one_field_order_by_the_next_of_a_list) {
+    TClientDataSet rows;
+    rows.DefineField("DAY", FieldType::Integer);
+    rows.DefineField("NOID", FieldType::Text);
+    rows.Open();
+    const std::pair<std::int64_t, const char*> documents[] = {
+        {2, "B1"}, {1, "B3"}, {2, "A9"}, {1, "B2"}};
+    for (const auto& [day, number] : documents) {
+        rows.Append();
+        rows.FieldByName("DAY").SetValue(day);
+        rows.FieldByName("NOID").SetValue(std::string(number));
+        rows.Post();
+    }
+    rows.SortBy("day,noid", false);
+    EXPECT_EQ(column(rows, "NOID"), (Texts{"B2", "B3", "A9", "B1"}));
+    EXPECT_EQ(rows.sorted_by(), "DAY,NOID");
+    rows.SortBy("day,noid", true);
+    EXPECT_EQ(column(rows, "NOID"), (Texts{"B1", "A9", "B3", "B2"}));
+    rows.SortBy("NOID", false);
+    EXPECT_EQ(column(rows, "NOID"), (Texts{"A9", "B1", "B2", "B3"}));
+}
+
 TEST(Sort, the_row_looked_at_stays_the_current_one) {
     TClientDataSet rows;
     rows.DefineField("N", FieldType::Integer);

@@ -21,7 +21,7 @@ bool TFrm_Base_Dialog::CheckAll() {
 
 std::string TFrm_Base_Dialog::Condition_t(const std::string& field, const std::string& operation,
                                           const std::string& value) {
-    return "(" + field + " " + operation + " " + quoted(value) + ")";
+    return "(" + field + operation + quoted(value) + ")";
 }
 
 void TFrm_Base_Dialog::btn_okClick() {

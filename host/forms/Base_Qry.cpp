@@ -36,12 +36,14 @@ void TFrm_Base_Qry::InitForm(const Trecord& record) {
 void TFrm_Base_Qry::GetData() {
     const std::string key = current_key(AdoQry_Main, KeyField);
     opensql(AdoQry_Main, FunctionCode, SqlText + OrderText);
-    return_to_key(AdoQry_Main, KeyField, key);
+    if (!OrderFields.empty() && AdoQry_Main.sorted_by().empty())
+        AdoQry_Main.SortBy(OrderFields, false);
+    if (!return_to_key(AdoQry_Main, KeyField, key)) AdoQry_Main.First();
 }
 
 void TFrm_Base_Qry::Act_RefreshExecute() {
     if (SqlText.empty()) {
-        DISPINFO("您还没选择任何查询参数,请按【F3】呼出查询选项!", 5);
+        DISPINFO(NothingChosen, 5);
         return;
     }
     GetData();

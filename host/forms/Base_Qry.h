@@ -24,10 +24,14 @@ public:
     std::string OrderText; // appended to SqlText
     std::string SumFields; // "B1,B2": fields with a sum in the footer
     std::string KeyField;
+    // "BDATE,C,NOID": the rows stand in this order until the person chooses another; "" as read.
+    std::string OrderFields;
+    // What 刷新 answers before a condition was chosen.
+    std::string NothingChosen = "您还没选择任何查询参数,请按【F3】呼出查询选项!";
     TLabel ConditionLabel{this, "ConditionLabel"};
 
 protected:
-    void Act_RefreshExecute() override; // "您还没选择任何查询参数,请按【F3】呼出查询选项!"
+    void Act_RefreshExecute() override; // NothingChosen, or the rows anew
     // Shows the condition dialog; on OK takes its statement, clears the order, runs it.
     void Act_LocateExecute() override;
     // The first half of InitForm: rights, sums, the condition dialog made ready; nothing is asked.

@@ -3,6 +3,10 @@
 
 #include "host/contract/U_function.h"
 #include "host/ports/host.h"
+#include "module/cash/U6648.h"
+#include "module/cash/U6650.h"
+#include "module/cash/U6652.h"
+#include "module/cash/U6653.h"
 #include "module/ledgers/U6684.h"
 #include "module/ledgers/U6685.h"
 #include "module/ledgers/U6686.h"
@@ -69,6 +73,10 @@ constexpr Function functions[] = {
     {643, modeless<TF6643, F6643>}, // 采购付款汇总表
     {646, modeless<TF6646, F6646>}, // 其他收款单
     {647, modeless<TF6647, F6647>}, // 其他付款单
+    {648, modeless<TF6648, F6648>}, // 银行存取款单
+    {650, modeless<TF6650, F6650>}, // 现金银行总帐
+    {652, modeless<TF6652, F6652>}, // 现金银行日记帐
+    {653, modeless<TF6653, F6653>}, // 收支明细表
     {661, modeless<TF6661, F6661>}, // 录凭证
     {662, modeless<TF6661, F6661>}, // 凭证审核
     {663, modal<TF6663, F6663>},    // 凭证登帐

@@ -3,6 +3,7 @@
 
 #include "host/forms/Base_Entry_Body.h"
 #include "host/ports/host.h"
+#include "module/cash/U6648_1.h"
 #include "module/entry/U6600.h"
 #include "module/opening.h"
 #include "module/other_documents/U6646_1.h"
@@ -25,6 +26,11 @@ void shown(std::int32_t function, const std::string& key, TForm* opener) {
     open_or_release(form, [&key](Form& opened) { opened.InitForm(key, nullptr, true); });
 }
 
+// A transfer between own accounts has no entry form: its dialog stands over the report.
+void shown_in_dialog(std::int32_t, const std::string& key, TForm* opener) {
+    show_bank_transfer(key, opener);
+}
+
 struct DocumentForm {
     std::int32_t function;
     void (*open)(std::int32_t function, const std::string& key, TForm* opener);
@@ -35,6 +41,7 @@ constexpr DocumentForm documents[] = {
     {641, shown<TF6641_1>}, // 采购付款
     {646, shown<TF6646_1>}, // 其他应收款
     {647, shown<TF6647_1>}, // 其他应付款
+    {648, shown_in_dialog},  // 银行存取款单
 };
 
 } // namespace

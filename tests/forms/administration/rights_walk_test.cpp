@@ -75,7 +75,9 @@ protected:
                       "INSERT INTO D631 (NOID,KH_GYS_ID,JY_ID,BDATE,USER_ID) VALUES "
                       "('R1','K1','1','2024-03-05','admin');"
                       "INSERT INTO D641 (NOID,KH_GYS_ID,JY_ID,BDATE,USER_ID) VALUES "
-                      "('P1','G1','1','2024-03-05','admin')");
+                      "('P1','G1','1','2024-03-05','admin');"
+                      "INSERT INTO D653 (NOID,BDATE,JY_ID_FK,JY_ID_SK,MONEY,USER_ID) VALUES "
+                      "('B1','2024-03-05','1','1',5,'admin')");
         written_ = written();
     }
     std::string written() { return books.value("SELECT COUNT(*) FROM SYS_LOG"); }
