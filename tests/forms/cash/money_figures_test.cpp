@@ -194,14 +194,32 @@ TEST_F(MoneyFigures, a_row_opens_its_document_to_be_looked_at) {
     anna.key("F2");
     anna.click("btn_Cancel");
     anna.expect_active("TF6653");
-    open_row_of("Q1");
-    anna.expect_active("TF6646_1");
-    anna.close();
-    ask(653, "2");
-    open_row_of("E1");
-    anna.expect_active("TF6647_1");
-    anna.close();
     EXPECT_EQ(books.value("SELECT MONEY FROM D653 WHERE NOID='648240315001'"), "300.00");
+}
+
+TEST_F(MoneyFigures, documents_of_each_kind_open_in_the_form_they_were_entered_in) {
+    // account  number  form
+    const struct {
+        const char *account, *number, *form;
+    } documents[] = {{"1", "R1", "TF6631_1"}, {"2", "R3", "TF6631_1"}, {"1", "P3", "TF6641_1"},
+                     {"2", "P1", "TF6641_1"}, {"1", "Q1", "TF6646_1"}, {"2", "E1", "TF6647_1"}};
+    for (const auto& document : documents) {
+        ask(653, document.account);
+        open_row_of(document.number);
+        anna.expect_active(document.form);
+        anna.close();
+        anna.expect_active("TF6653");
+        anna.close();
+    }
+    ask(653);
+    for (const auto& [number, code] : {std::pair{"T1", "204"}, std::pair{"X1", "214"}}) {
+        open_row_of(number);
+        anna.expect_message(std::string("模块暂不开放!") + code);
+    }
+    for (const char* advance : {"R2", "P2"}) {
+        open_row_of(advance); // nothing
+        anna.expect_active("TF6653");
+    }
 }
 
 TEST_F(MoneyFigures, a_document_gone_meanwhile_is_told_of) {
