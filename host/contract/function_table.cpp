@@ -33,7 +33,7 @@ constexpr Function statements[] = {
     {671, "资产负债表", statement}, {673, "利 润 表", statement}, {672, "现金流量表", statement}};
 constexpr Function period[] = {{667, "结转损溢", opens | adds}, {668, "期末结帐", period_step}};
 constexpr Function trade[] = {
-    {630, "销售收款 · 外币", documents}, {631, "销售收款", list},
+    {630, "销售收款 · 外币", list}, {631, "销售收款", list},
     {632, "销售收款明细表", report},     {633, "销售收款汇总表", report},
     {641, "采购付款", list},        {642, "采购付款明细表", report},
     {643, "采购付款汇总表", report},     {646, "其他收款单", list},

@@ -29,6 +29,7 @@
 #include "module/receivables/U6633.h"
 #include "module/receivables/U6642.h"
 #include "module/receivables/U6643.h"
+#include "module/settlement/U6630.h"
 #include "module/settlement/U6631.h"
 #include "module/settlement/U6641.h"
 #include "module/statements/U6671.h"
@@ -65,6 +66,7 @@ struct Function {
 constexpr Function functions[] = {
     {628, modeless<TF6628, F6628>}, // 期初应收款
     {629, modeless<TF6629, F6629>}, // 期初应付款
+    {630, modeless<TF6630, F6630>}, // 销售收款 · 外币
     {631, modeless<TF6631, F6631>}, // 销售收款
     {632, modeless<TF6632, F6632>}, // 销售收款明细表
     {633, modeless<TF6633, F6633>}, // 销售收款汇总表

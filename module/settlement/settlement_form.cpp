@@ -305,7 +305,7 @@ void SettlementForm::refresh_balance() {
 bool SettlementForm::AllCheck() {
     if (!Tfrm_Base_Entry_Body::AllCheck()) return false;
     check_head();
-    if (writes_off()) check_amounts();
+    check_amounts();
     check_advance();
     return true;
 }
@@ -339,7 +339,8 @@ std::string SettlementForm::why_items_changed() const {
     for (int row = 0; row < now.RecordCount(); ++row) open.push_back(at(now, row));
     for (int row = 0; row < AdoQry_Main.RecordCount(); ++row) {
         const TClientDataSet::Peek line(AdoQry_Main, row);
-        if (AdoQry_Main.FieldByName("MONEY").AsAmount().is_zero()) continue;
+        const bool document = !AdoQry_Main.FieldByName("NOID").AsText().empty();
+        if (!document || AdoQry_Main.FieldByName("MONEY").AsAmount().is_zero()) continue;
         if (std::find(open.begin(), open.end(), at(AdoQry_Main, row)) != open.end()) continue;
         return "“" + AdoQry_Main.FieldByName("C_NAME").AsText() + " " +
                AdoQry_Main.FieldByName("NOID").AsText() +

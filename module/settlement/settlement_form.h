@@ -7,6 +7,7 @@
 #include "host/forms/Base_Entry_Body.h"
 #include "module/host_names.h"
 #include "module/settlement/code_name.h"
+#include "module/settlement/money_edit.h"
 #include "module/settlement/settlement_kind.h"
 #include "module/settlement/write_off.h"
 #include "module/trade/opened_document.h"
@@ -71,7 +72,7 @@ protected:
     void define_amounts(std::initializer_list<const char*> fields);
     void spread_over_items();
     void clear_shares();
-    void refresh_totals();
+    virtual void refresh_totals();
     std::vector<WriteOff> write_offs() const;
     void read_party(); // its name and balances; refuses an unknown one
     void load_open_items();

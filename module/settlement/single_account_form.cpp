@@ -10,11 +10,6 @@ namespace module {
 
 namespace {
 
-// What goes into a statement is what the user sees; a blank amount is none.
-std::string amount_text(const TNumberEdit& amount) {
-    return amount.Text->empty() ? "0" : amount.Text.get();
-}
-
 GridColumn hidden(const std::string& field, const std::string& title) {
     return {.FieldName = field, .Title = title, .ReadOnly = true, .Visible = false};
 }
@@ -25,7 +20,7 @@ GridColumn hidden(const std::string& field, const std::string& title) {
 
 SingleAccountForm::SingleAccountForm(TForm* parent, const SettlementKind& kind)
     : SettlementForm(parent, kind, kind.numbers),
-      MONEY(this, "MONEY", kind.paid_caption, 2) {
+      MONEY(this, "MONEY", kind.paid_caption) {
     MONEY.OnChange = YH.OnChange = [this] { MONEYChange(); };
     define_amounts({"TOLMONEY", "SUMMONEY", "REMONEY", "MONEY"});
     build_columns();
@@ -99,6 +94,7 @@ void SingleAccountForm::MONEYChange() {
 // ---- checking ----
 
 void SingleAccountForm::check_amounts() {
+    if (!writes_off()) return;
     const std::vector<WriteOff> lines = write_offs();
     const int wrong = first_wrong_sign(lines);
     if (wrong >= 0) {
@@ -147,8 +143,8 @@ SettlementHead SingleAccountForm::head_to_save() const {
             .account = JY_ID.Text,
             .slip = PH.Text,
             .user = G_UserId,
-            .paid = amount_text(MONEY),
-            .discount = amount_text(YH)};
+            .paid = MONEY.sent_text(),
+            .discount = YH.sent_text()};
 }
 
 std::string SingleAccountForm::batch_to_save() {

@@ -9,9 +9,9 @@ namespace module {
 class SingleAccountForm : public SettlementForm {
 public:
     // What the user sees beside the head of every receipt and payment.
-    TNumberEdit MONEY;                           // money that moved
-    TNumberEdit YH{this, "YH", "优惠金额", 2};   // discount
-    TLabel Credited{this, "Credited"};           // both together
+    MoneyEdit MONEY;                     // money that moved
+    MoneyEdit YH{this, "YH", "优惠金额"}; // discount
+    TLabel Credited{this, "Credited"};   // both together
 
     // What the user does.
     void MONEYChange(); // money or discount: spread over the open items

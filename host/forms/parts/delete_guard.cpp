@@ -11,9 +11,14 @@
 namespace host {
 
 std::string with_key(const std::string& statement, const std::string& key) {
-    const std::size_t at = std::min(statement.find("%S"), statement.find("%s"));
-    if (at == std::string::npos) return statement;
-    return statement.substr(0, at) + quoted(key) + statement.substr(at + 2);
+    std::string text;
+    std::size_t from = 0;
+    for (;;) {
+        const std::size_t at = std::min(statement.find("%S", from), statement.find("%s", from));
+        if (at == std::string::npos) return text + statement.substr(from);
+        text += statement.substr(from, at - from) + quoted(key);
+        from = at + 2;
+    }
 }
 
 void allow_delete(const std::vector<UseRule>& uses, const std::string& function,

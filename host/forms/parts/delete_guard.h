@@ -12,7 +12,7 @@ struct UseRule {
     std::string reason;      // "已有凭证使用该凭证字"
 };
 
-// `statement` with the quoted key in place of its %S or %s.
+// `statement` with the quoted key in place of every %S or %s.
 std::string with_key(const std::string& statement, const std::string& key);
 
 // Refuses with the reason of the first rule that finds a use of `key`; `name` is what the message

@@ -45,7 +45,7 @@ TEST_F(Receipt, a_new_one_writes_the_head_and_a_line_an_item) {
     EXPECT_EQ(last_batch(),
               "INSERT INTO D631 (T, NOID,KH_GYS_ID, JY_KM, KM_ID, JY_ID, "
               "MONEY_SS,MONEY_YH,MONEY,BDATE, EDATE, PH, USER_ID) values "
-              "(1,'631240315001','K1','0','1001','2','80000.00','120.00',(80000.00+120.00),"
+              "(1,'631240315001','K1','0','1001','2','80000','120',(80000+120),"
               "'2024-03-14',NULL,'工行0628''4417','admin');"
               "INSERT INTO D631A (NOID,C,D8102NOID,KH_GYS_ID, MONEY) VALUES "
               "('631240315001','2','初K1','K1','           3600.00');"
@@ -78,8 +78,8 @@ TEST_F(Receipt, a_changed_one_keeps_its_number_and_writes_its_lines_anew) {
     anna.click("Act_Save");
     EXPECT_EQ(last_batch(),
               "UPDATE D631 SET edate=getdate(), KH_GYS_ID='K2',JY_KM='0',BDATE='2024-03-15',"
-              "JY_ID='1',KM_ID='1001',PH='',MONEY_SS='1200.00',MONEY_YH='5.50',"
-              "MONEY=(1200.00+5.50),USER_ID='admin' WHERE noid='631240315001';"
+              "JY_ID='1',KM_ID='1001',PH='',MONEY_SS='1200',MONEY_YH='5.5',"
+              "MONEY=(1200+5.5),USER_ID='admin' WHERE noid='631240315001';"
               "delete from  D631A WHERE NOID='631240315001';"
               "INSERT INTO D631A (NOID,C,D8102NOID,KH_GYS_ID, MONEY) VALUES "
               "('631240315001','0','U1','K2','           1000.00');"
@@ -97,7 +97,7 @@ TEST_F(Receipt, an_advance_writes_the_head_alone_a_blank_discount_as_0) {
     EXPECT_EQ(last_batch(),
               "INSERT INTO D631 (T, NOID,KH_GYS_ID, JY_KM, KM_ID, JY_ID, "
               "MONEY_SS,MONEY_YH,MONEY,BDATE, EDATE, PH, USER_ID) values "
-              "(1,'631240315001','K1','1','1001','1','700.00','0',(700.00+0),"
+              "(1,'631240315001','K1','1','1001','1','700','0',(700+0),"
               "'2024-03-15',NULL,'','admin');");
 }
 

@@ -10,6 +10,9 @@ const Side receipts{"Receipts", 631,     "TF6631_1", "D631",         "D631A",
 const Side payments{"Payments", 641,     "TF6641_1", "D641",         "D641A",
                     "D8202",    "D652",  "D8203",    "641240315001", "付"};
 
+const Side currency_receipts{"CurrencyReceipts", 630,    "TF6630_1", "D631",         "D631A",
+                             "D8102",            "D651", "D8103",    "630240315001", "收"};
+
 std::string name_of_side(const testing::TestParamInfo<const Side*>& side) {
     return side.param->name;
 }

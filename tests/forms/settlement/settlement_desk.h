@@ -31,6 +31,7 @@ struct Side {
     std::string word;       // "收" or "付"
 };
 extern const Side receipts, payments;
+extern const Side currency_receipts; // function 630, on the tables of the receipts
 
 // The opening rows above, as a batch.
 std::string open_documents(const Side& side);
