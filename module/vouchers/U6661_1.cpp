@@ -223,15 +223,21 @@ void TF6661_1::take_account(const LeafAccount& account) {
     AdoQry_Main.FieldByName("KM_K").SetValue(account.cash_flow);
 }
 
-// A text that is no code but fits one account only by name or pinyin stands for that account.
+// The books know a code in whatever width its digits were typed. A text that is no code stands for
+// the account of exactly that name, or for the only one that it fits by name or pinyin.
 const LeafAccount& TF6661_1::account_meant_by(const std::string& typed) {
-    TClientDataSet parent;
-    opensql(parent, FunctionCode, "SELECT KM_NAME_NEW FROM V6801 WHERE KM_ID=" + quoted(typed));
-    if (!parent.IsEmpty()) {
-        refuse("科目 " + typed + " " + parent.FieldByName("KM_NAME_NEW").AsText() +
+    TClientDataSet same;
+    opensql(same, FunctionCode, "SELECT KM_ID,KM_NAME_NEW FROM V6801 WHERE KM_ID=" + quoted(typed));
+    if (!same.IsEmpty()) {
+        const std::string code = same.FieldByName("KM_ID").AsText();
+        if (const LeafAccount* leaf = leaf_accounts_.find(code)) return *leaf;
+        refuse("科目 " + code + " " + same.FieldByName("KM_NAME_NEW").AsText() +
                " 还有下级科目,不能直接记帐!请录入它的末级科目。");
     }
     const auto found = leaf_accounts_.matching(typed);
+    for (const LeafAccount* account : found) {
+        if (account->name == typed) return *account;
+    }
     if (found.size() == 1) return *found.front();
     if (found.empty()) refuse("科目 " + typed + " 不存在!请按 F4 选择科目,或先在会计科目中新增。");
     refuse("有 " + std::to_string(found.size()) + " 个科目与“" + typed +

@@ -26,8 +26,8 @@ host::Trecord menu_pick(int code) {
 
 struct BooksDesk : Desk {
     BooksDesk() : Desk([](int code) { module_entry()(menu_pick(code), nullptr); }, "2024-03-15") {
-        answer_as_small_books(data);
         answer_code_tables();
+        answer_as_small_books(data);
         data.answer("SELECT param,(SELECT COUNT(*)", {"param text", "I int", "J int"},
                     {{"2024-03", "5", "3"}});
         data.answer("SELECT VALUE FROM SYS_SETTING WHERE NAME='mode'", {"VALUE text"}, {});

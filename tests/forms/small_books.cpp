@@ -59,9 +59,11 @@ void answer_accounts(FakeData& data) {
                  {"1131", "应收帐款", "YSZK"},
                  {"1133", "其他应收款", "QTYSK"},
                  {"5101", "主营业务收入", "ZYYWSR"}});
-    data.answer("SELECT KM_NAME_NEW FROM V6801 WHERE KM_ID='1002'", {"KM_NAME_NEW text"},
-                {{"银行存款"}});
-    data.answer("SELECT KM_NAME_NEW FROM V6801 WHERE KM_ID=", {"KM_NAME_NEW text"}, {});
+    const std::string same_code = "SELECT KM_ID,KM_NAME_NEW FROM V6801 WHERE KM_ID=";
+    const std::vector<std::string> code_and_name = {"KM_ID text", "KM_NAME_NEW text"};
+    data.answer(same_code + "'1002'", code_and_name, {{"1002", "银行存款"}});
+    data.answer(same_code + "'１００１'", code_and_name, {{"1001", "现金"}});
+    data.answer(same_code, code_and_name, {});
 }
 
 void answer_summaries(FakeData& data) {

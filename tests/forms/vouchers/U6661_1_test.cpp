@@ -98,6 +98,7 @@ TEST_F(VoucherEntry, an_account_is_typed_by_code_name_or_pinyin) {
     const std::pair<const char*, const char*> typed[] = {// typed, account
                                                          {"1131", "1131"},
                                                          {" 1131 ", "1131"},
+                                                         {"１００１", "1001"},
                                                          {"主营业务收入", "5101"},
                                                          {"qtysk", "1133"},
                                                          {"工行", "100201"}};
@@ -107,7 +108,7 @@ TEST_F(VoucherEntry, an_account_is_typed_by_code_name_or_pinyin) {
         EXPECT_EQ(anna->rows()[static_cast<std::size_t>(row)].at("KM_ID"), code) << text;
         ++row;
     }
-    EXPECT_EQ(anna->rows()[4].at("KM_NAME_NEW"), "银行存款-工行");
+    EXPECT_EQ(anna->rows()[5].at("KM_NAME_NEW"), "银行存款-工行");
 }
 
 TEST_F(VoucherEntry, an_account_that_takes_no_entries_is_refused_with_the_reason) {

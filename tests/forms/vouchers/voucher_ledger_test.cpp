@@ -22,6 +22,17 @@ TEST_F(VoucherLedger, numbers_count_on_from_the_highest_even_after_one_was_delet
     EXPECT_EQ(anna.value("PZZ_H"), "8");
 }
 
+TEST_F(VoucherLedger, an_account_is_known_by_its_whole_name_and_by_digits_of_any_width) {
+    new_voucher();
+    anna.cell(0, "KM_ID", "现金"); // also part of other accounts' names
+    EXPECT_EQ(anna.rows()[0].at("KM_ID"), "1001");
+    anna.cell(1, "KM_ID", "１００２");
+    EXPECT_EQ(anna.rows()[1].at("KM_ID"), "1002");
+    EXPECT_EQ(anna.rows()[1].at("KM_NAME_NEW"), "银行存款");
+    anna.cannot_cell(2, "KM_ID", "２１７１");
+    anna.expect_message("科目 2171 应交税金 还有下级科目,不能直接记帐!请录入它的末级科目。");
+}
+
 TEST_F(VoucherLedger, a_number_taken_by_hand_is_stored_unpadded_under_a_padded_key) {
     new_voucher();
     anna.set("PZZ_H", "12");
