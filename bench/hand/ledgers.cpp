@@ -16,6 +16,11 @@ void set_amount(host::CellView& cell, std::int64_t cents) {
     cell.null = false;
     cell.integer = cents * ten_thousandths_a_cent;
 }
+// An opening row has a balance and no amounts.
+void set_amounts(host::CellView& debit, host::CellView& credit, const std::optional<Sums>& sums) {
+    if (!sums) return void(debit = credit = {});
+    set_amount(debit, sums->debit), set_amount(credit, sums->credit);
+}
 void set_number(host::CellView& cell, std::int64_t number) {
     cell.null = false;
     cell.integer = number;
@@ -63,11 +68,11 @@ void DetailedLedger::show_balance() {
     set_amount(cells_[E], sign_ * balance_);
 }
 
-void DetailedLedger::show_sum(const char* words, std::int64_t debit, std::int64_t credit,
+void DetailedLedger::show_sum(const char* words, const std::optional<Sums>& sums,
                               host::RowReceiver& receiver) {
     for (const int column : {BDATE, PZZ, NOID}) cells_[static_cast<std::size_t>(column)] = {};
     set(cells_[ZY], words);
-    set_amount(cells_[J], debit), set_amount(cells_[D], credit);
+    set_amounts(cells_[J], cells_[D], sums);
     set_number(cells_[INX], -1);
     show_balance();
     receiver.row(cells_);
@@ -112,11 +117,11 @@ void DetailedLedger::read(const std::string& account, const host::Period& period
     receiver.columns(detailed_columns());
     cells_.assign(detailed_columns().size(), {});
     set(cells_[KM_ID], code_), set(cells_[KM_NAME], name_);
-    show_sum(period.month() == 1 ? "上年结转" : "期初余额", 0, 0, receiver);
+    show_sum(period.month() == 1 ? "上年结转" : "期初余额", {}, receiver);
     lines_.bind(1, account).bind(2, from).bind(3, to);
     read_lines(receiver);
-    show_sum("本期合计", debit_, credit_, receiver);
-    show_sum("本年累计", year_debit + debit_, year_credit + credit_, receiver);
+    show_sum("本期合计", Sums{debit_, credit_}, receiver);
+    show_sum("本年累计", Sums{year_debit + debit_, year_credit + credit_}, receiver);
 }
 
 // ---- general ledger
@@ -170,9 +175,9 @@ bool GeneralLedger::read_months(std::string_view account, std::int64_t sign) {
 }
 
 void GeneralLedger::show(std::string_view side, std::int64_t balance, const char* words,
-                         std::int64_t debit, std::int64_t credit, host::RowReceiver& receiver) {
+                         const std::optional<Sums>& sums, host::RowReceiver& receiver) {
     set(cells_[G_ZY], words);
-    set_amount(cells_[G_J], debit), set_amount(cells_[G_D], credit);
+    set_amounts(cells_[G_J], cells_[G_D], sums);
     set(cells_[G_FX], balance == 0 ? std::string_view("平") : side);
     set_amount(cells_[G_E], balance);
     receiver.row(cells_);
@@ -183,11 +188,11 @@ void GeneralLedger::show_months(std::string_view side, host::RowReceiver& receiv
     for (std::size_t at = 1; at < read_.size(); ++at) {
         const Month& month = read_[at];
         set(cells_[G_QJ], periods_[at]), set(cells_[G_QJ_MONTH], periods_[at]);
-        show(side, read_[at - 1].balance, at == 1 ? "上年结转" : "期初余额", 0, 0, receiver);
+        show(side, read_[at - 1].balance, "期初余额", {}, receiver);
         if (!month.moved) continue;
         debit += month.debit, credit += month.credit;
-        show(side, month.balance, "本期合计", month.debit, month.credit, receiver);
-        show(side, month.balance, "本年累计", debit, credit, receiver);
+        show(side, month.balance, "本期合计", Sums{month.debit, month.credit}, receiver);
+        show(side, month.balance, "本年累计", Sums{debit, credit}, receiver);
     }
 }
 

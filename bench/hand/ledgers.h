@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <vector>
 
 #include "bench/hand/connection.h"
@@ -9,6 +10,11 @@
 #include "host/values/period.h"
 
 namespace bench::hand {
+
+// Debit and credit of a row, in cents.
+struct Sums {
+    std::int64_t debit, credit;
+};
 
 // Opening, the lines of one month with the running balance, the month's sum, the year's sum, of an
 // account that takes entries: the columns of SYS_685.
@@ -19,7 +25,7 @@ public:
 
 private:
     void read_lines(host::RowReceiver& receiver);
-    void show_sum(const char* words, std::int64_t debit, std::int64_t credit,
+    void show_sum(const char* words, const std::optional<Sums>& sums,
                   host::RowReceiver& receiver);
     void show_balance();
 
@@ -46,8 +52,8 @@ private:
     };
     bool read_months(std::string_view account, std::int64_t sign);
     void show_months(std::string_view side, host::RowReceiver& receiver);
-    void show(std::string_view side, std::int64_t balance, const char* words, std::int64_t debit,
-              std::int64_t credit, host::RowReceiver& receiver);
+    void show(std::string_view side, std::int64_t balance, const char* words,
+              const std::optional<Sums>& sums, host::RowReceiver& receiver);
 
     Connection connection_;
     Statement accounts_, months_;

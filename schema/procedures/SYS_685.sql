@@ -2,8 +2,8 @@
 -- twice, or alone) with the lines of everything below it; periods @P_month1 to @P_month2 of a year.
 -- Per account the opening row, then per period its lines, their sum and the year's sum to there.
 -- The opening is the closing balance of the period before @P_month1, whatever @P_year says.
--- inx is -1 on rows that are no line. @p_show '1' leaves unposted vouchers out; @p_xj 1 names the
--- accounts on the other side of each line.
+-- inx is -1 on rows that are no line; the opening row has a balance and no amounts. @p_show '1'
+-- leaves unposted vouchers out; @p_xj 1 names the accounts on the other side of each line.
 -- KIND: 0 the opening, 1 a line, 2 the sum of a period, 3 the sum of the year. The opening stands in
 -- the period 00 and brings what the year had moved before @P_month1, so that all sums are sums of
 -- the rows above. Those windows follow the order of the rows, which are sorted once for all. The
@@ -78,14 +78,12 @@ BEGIN
                        WHEN 2 THEN CAST(SUM(X.J) OVER (PARTITION BY X.KM_ID, X.QJ ORDER BY X.KIND
                                                        ROWS UNBOUNDED PRECEDING) AS decimal(18,2))
                        WHEN 3 THEN CAST(SUM(X.J) OVER (PARTITION BY X.KM_ID ORDER BY X.QJ, X.KIND
-                                                       ROWS UNBOUNDED PRECEDING) AS decimal(18,2))
-                       ELSE 0.00 END AS J,
+                                                       ROWS UNBOUNDED PRECEDING) AS decimal(18,2)) END AS J,
            CASE X.KIND WHEN 1 THEN X.D
                        WHEN 2 THEN CAST(SUM(X.D) OVER (PARTITION BY X.KM_ID, X.QJ ORDER BY X.KIND
                                                        ROWS UNBOUNDED PRECEDING) AS decimal(18,2))
                        WHEN 3 THEN CAST(SUM(X.D) OVER (PARTITION BY X.KM_ID ORDER BY X.QJ, X.KIND
-                                                       ROWS UNBOUNDED PRECEDING) AS decimal(18,2))
-                       ELSE 0.00 END AS D,
+                                                       ROWS UNBOUNDED PRECEDING) AS decimal(18,2)) END AS D,
            CASE SUM(X.CHANGE) OVER (PARTITION BY X.KM_ID
                                     ORDER BY X.QJ, X.KIND, X.BDATE, X.PZZ, X.PZZ_H, X.INX
                                     ROWS UNBOUNDED PRECEDING)

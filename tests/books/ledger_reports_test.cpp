@@ -108,7 +108,7 @@ TEST_F(LedgerReports, the_detailed_ledger_of_an_account_runs_its_balance) {
     const std::string day = "2024-03-15 00:00:00.000";
     EXPECT_EQ(
         rows("EXEC SYS_685 @P_year='2023-01',@p_show='1',@KM_ID1='1001',@KM_ID2='1001'," + march),
-        "||期初余额||0.00|0.00|借|500.00|1001|现金|-1|\n" + day +
+        "||期初余额||||借|500.00|1001|现金|-1|\n" + day +
             "|记-1|摘要||100.00|0.00|借|600.00|1001|现金|0|2024-03记001\n" + day +
             "|记-2|摘要||0.00|30.00|借|570.00|1001|现金|1|2024-03记002\n" + day +
             "|记-3|摘要||0.00|20.00|借|550.00|1001|现金|1|2024-03记003\n"
@@ -118,7 +118,7 @@ TEST_F(LedgerReports, the_detailed_ledger_of_an_account_runs_its_balance) {
 
 TEST_F(LedgerReports, one_account_brings_the_lines_of_everything_below_it) {
     EXPECT_EQ(rows("EXEC SYS_685 @P_year='2024-02',@p_show='0',@KM_ID1='5501',@p_xj=1," + march),
-              "||期初余额||0.00|0.00|平|0.00|5501|营业费用|-1|\n"
+              "||期初余额||||平|0.00|5501|营业费用|-1|\n"
               "2024-03-15 00:00:00.000|记-2|摘要|现金|30.00|0.00|借|30.00|5501|营业费用|0|"
               "2024-03记002\n"
               "||本期合计||30.00|0.00|借|30.00|5501|营业费用|-1|\n"
@@ -136,12 +136,27 @@ TEST_F(LedgerReports, a_range_brings_the_accounts_that_take_entries) {
 TEST_F(LedgerReports, the_general_ledger_tells_opening_month_and_year) {
     EXPECT_EQ(rows("EXEC SYS_686 @P_year='2024-02',@p_show='1',@KM_ID1='1001',@KM_ID2='1009'," +
                    march + ", @p_kmjb='1'"),
-              "1001|现金|2024-03|期初余额|0.00|0.00|借|500.00|2024-03\n"
+              "1001|现金|2024-03|期初余额|||借|500.00|2024-03\n"
               "1001|现金|2024-03|本期合计|100.00|50.00|借|550.00|2024-03\n"
               "1001|现金|2024-03|本年累计|300.00|100.00|借|550.00|2024-03\n"
-              "1009|其他货币资金|2024-03|期初余额|0.00|0.00|平|0.00|2024-03\n"
+              "1009|其他货币资金|2024-03|期初余额|||平|0.00|2024-03\n"
               "1009|其他货币资金|2024-03|本期合计|20.00|0.00|借|20.00|2024-03\n"
               "1009|其他货币资金|2024-03|本年累计|20.00|0.00|借|20.00|2024-03");
+}
+
+// Only the detailed ledger names what January brings forward from the year before.
+TEST_F(LedgerReports, an_opening_has_a_balance_and_no_amounts) {
+    const std::string january = "@P_month1='2024-01',@P_month2='2024-01'";
+    const auto detailed = automation::rows_of(
+        *session_, "EXEC SYS_685 @P_year='2023-12',@KM_ID1='1001'," + january);
+    EXPECT_EQ(detailed[0][2], "上年结转");
+    EXPECT_EQ(detailed[0][4], std::nullopt);
+    EXPECT_EQ(detailed[0][5], std::nullopt);
+    const auto general = automation::rows_of(
+        *session_, "EXEC SYS_686 @P_year='2023-12',@KM_ID1='1001'," + january);
+    EXPECT_EQ(general[0][3], "期初余额");
+    EXPECT_EQ(general[0][4], std::nullopt);
+    EXPECT_EQ(general[0][5], std::nullopt);
 }
 
 } // namespace tests

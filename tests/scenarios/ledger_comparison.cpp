@@ -51,6 +51,7 @@ private:
     void balances();
     void trial_balance();
     void detailed_ledger(const std::string& first, const std::string& last);
+    void opening_row(const std::string& what, const Row& row, Cents balance);
     void detailed_rows(const std::string& account, const Rows& rows);
     void general_ledger();
     void account_summary();
@@ -130,13 +131,20 @@ void PeriodComparison::detailed_ledger(const std::string& first, const std::stri
             throw Difference("detailed ledger " + period() + ": no " + leaf);
 }
 
+// An opening row has a balance and no amounts.
+void PeriodComparison::opening_row(const std::string& what, const Row& row, Cents balance) {
+    if (row.at("J") != "<null>" || row.at("D") != "<null>")
+        throw Difference(what + " " + period() + ": the opening row has amounts");
+    same(what + ", opening", amounts(row, {"E"}), {balance});
+}
+
 // Opening, lines with the running balance, the period's sum, the year's sum.
 void PeriodComparison::detailed_rows(const std::string& code, const Rows& rows) {
     const PeriodSums sums = expected_.of(code);
     const std::string what = "detailed ledger of " + code;
     if (rows.size() < 3) throw Difference(what + " " + period() + ": rows are missing");
     Cents balance = own(code, sums.opening);
-    same(what + ", opening", amounts(rows.front(), {"J", "D", "E"}), {0, 0, balance});
+    opening_row(what, rows.front(), balance);
     std::vector<Amounts> shown, expected;
     for (std::size_t i = 1; i + 2 < rows.size(); ++i) {
         const Amounts line = amounts(rows[i], {"J", "D"});
@@ -167,8 +175,7 @@ void PeriodComparison::general_ledger() {
         const std::string what = "general ledger of " + code;
         const Rows& rows = by_account[code];
         if (rows.empty()) throw Difference(what + " " + period() + ": missing");
-        same(what + ", opening", amounts(rows[0], {"J", "D", "E"}),
-             {0, 0, own(code, sums.opening)});
+        opening_row(what, rows[0], own(code, sums.opening));
         // An account opened after the period was posted has no turnover to show.
         if (!ledger_.balances().contains({period(), code, 0})) continue;
         if (rows.size() != 3) throw Difference(what + " " + period() + ": rows are missing");

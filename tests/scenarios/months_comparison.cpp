@@ -22,6 +22,7 @@ bool is_line(const Row& row) {
     return row.at("INX") != "-1";
 }
 
+// The detailed ledger brings a balance forward from the year before by a name of its own.
 std::string opening_words(const std::string& period) {
     return period.ends_with("-01") ? "上年结转" : "期初余额";
 }
@@ -71,6 +72,13 @@ private:
         return words + " " + money(debit) + " " + money(credit) + " " +
                (on_debit == 0 ? "平" : side) + " " + money(own(code, on_debit));
     }
+    // An opening row has a balance and no amounts.
+    std::string opening_text(const std::string& words, const std::string& code,
+                             Cents on_debit) const {
+        const std::string side = ledger_.account(code).debit ? "借" : "贷";
+        return words + " <null> <null> " + (on_debit == 0 ? "平" : side) + " " +
+               money(own(code, on_debit));
+    }
     std::map<std::string, Rows> by_account(const std::string& statement) {
         std::map<std::string, Rows> accounts;
         for (const Row& row : books_.table(statement)) accounts[row.at("KM_ID")].push_back(row);
@@ -105,7 +113,7 @@ void MonthsComparison::detailed_ledger(const std::string& first, const std::stri
 void MonthsComparison::detailed_rows(const std::string& code, const Rows& rows) {
     const Cents opening = months_.front().of(code).opening;
     same("detailed ledger of " + code, text_of(rows.at(0)),
-         sum_text(opening_words(months_.front().period()), code, 0, 0, opening));
+         opening_text(opening_words(months_.front().period()), code, opening));
     Cents balance = opening;
     std::size_t at = 1;
     for (const PeriodFigures& month : months_) month_rows(code, month, rows, at, balance);
@@ -154,7 +162,7 @@ void MonthsComparison::general_ledger() {
         bool moved = false;
         for (const PeriodFigures& month : months_) {
             const PeriodSums sums = month.of(code);
-            expected.push_back(sum_text(opening_words(month.period()), code, 0, 0, sums.opening));
+            expected.push_back(opening_text("期初余额", code, sums.opening));
             if (!ledger_.balances().contains({month.period(), code, 0})) continue; // opened later
             moved = moved || sums.debit != 0 || sums.credit != 0;
             expected.push_back(

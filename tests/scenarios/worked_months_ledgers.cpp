@@ -22,9 +22,8 @@ std::string line_text(const json& row, std::initializer_list<const char*> names)
 
 std::string shown_text(const Row& row) {
     const std::string end = row.at("FX") + " " + row.at("E");
-    if (row.at("ZY") == "上年结转" || row.at("ZY") == "期初余额") return row.at("ZY") + " " + end;
     const std::string amounts = row.at("ZY") + " " + row.at("J") + " " + row.at("D") + " " + end;
-    if (row.at("INX") == "-1") return amounts; // 本期合计, 本年累计
+    if (row.at("INX") == "-1") return amounts; // the opening, 本期合计, 本年累计
     const std::string number = row.at("PZZ").substr(row.at("PZZ").find('-') + 1);
     return row.at("BDATE") + " " + number + " " + amounts;
 }
@@ -33,7 +32,8 @@ std::string wanted_text(const json& row, const std::string& period) {
     const std::string kind = text_in(row, "row");
     if (kind == "opening") {
         const bool january = period.ends_with("-01");
-        return (january ? "上年结转 " : "期初余额 ") + line_text(row, {"fx", "e"});
+        return (january ? "上年结转" : "期初余额") + (" " + text_in(row, "j")) + " " +
+               text_in(row, "d") + " " + line_text(row, {"fx", "e"});
     }
     if (kind != "line") return kind + " " + line_text(row, {"j", "d", "fx", "e"});
     return line_text(row, {"date", "number", "zy", "j", "d", "fx", "e"});

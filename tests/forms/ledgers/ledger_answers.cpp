@@ -11,14 +11,14 @@ void answer_detailed_ledger(FakeData& data) {
         "EXEC SYS_685",
         {"BDATE date", "PZZ text", "ZY text", "KM_ID_DF text", "J money", "D money", "FX text",
          "E money", "KM_ID text", "KM_NAME text", "inx int", "NOID text"},
-        {{none, none, "期初余额", none, "0", "0", "借", "100", cash, cash_name, "-1", none},
+        {{none, none, "期初余额", none, none, none, "借", "100", cash, cash_name, "-1", none},
          {"2024-03-05", "记-7", "收货款", owed_name, "585", "0", "借", "685", cash, cash_name, "0",
           "2024-03记007"},
          {"2024-03-06", "记-8", "付运费", "营业费用", "0", "700", "借", "-15", cash, cash_name, "1",
           "2024-03记008"},
          {none, none, "本期合计", none, "585", "700", "借", "-15", cash, cash_name, "-1", none},
          {none, none, "本年累计", none, "585", "700", "借", "-15", cash, cash_name, "-1", none},
-         {none, none, "期初余额", none, "0", "0", "借", "585", owed, owed_name, "-1", none},
+         {none, none, "期初余额", none, none, none, "借", "585", owed, owed_name, "-1", none},
          {"2024-03-05", "记-7", "收货款", cash_name, "0", "585", "平", "0", owed, owed_name, "1",
           "2024-03记007"},
          {none, none, "本期合计", none, "0", "585", "平", "0", owed, owed_name, "-1", none},
@@ -26,18 +26,18 @@ void answer_detailed_ledger(FakeData& data) {
 }
 
 void answer_general_ledger(FakeData& data) {
-    const std::string february = "2024-02", march = "2024-03";
+    const std::string none = "<null>", february = "2024-02", march = "2024-03";
     data.answer(
         "EXEC SYS_686",
         {"KM_ID text", "KM_NAME text", "QJ text", "ZY text", "J money", "D money", "FX text",
          "E money", "QJ_MONTH text"},
-        {{"1001", "现金", february, "期初余额", "0", "0", "借", "50", february},
+        {{"1001", "现金", february, "期初余额", none, none, "借", "50", february},
          {"1001", "现金", february, "本期合计", "50", "0", "借", "100", february},
          {"1001", "现金", february, "本年累计", "50", "0", "借", "100", february},
-         {"1001", "现金", march, "期初余额", "0", "0", "借", "100", march},
+         {"1001", "现金", march, "期初余额", none, none, "借", "100", march},
          {"1001", "现金", march, "本期合计", "585", "700", "借", "-15", march},
          {"1001", "现金", march, "本年累计", "635", "700", "借", "-15", march},
-         {"1131", "应收帐款", march, "期初余额", "0", "0", "借", "585", march},
+         {"1131", "应收帐款", march, "期初余额", none, none, "借", "585", march},
          {"1131", "应收帐款", march, "本期合计", "0", "585", "平", "0", march},
          {"1131", "应收帐款", march, "本年累计", "0", "585", "平", "0", march}});
 }

@@ -32,7 +32,7 @@ protected:
         anna.click("btn_ok");
         anna.expect_active("TF6685");
     }
-    // "期初余额 0.00 0.00 平 0.00", a line a row; a voucher's number stands before its summary.
+    // "期初余额   平 0.00", a line a row; a voucher's number stands before its summary.
     std::string ledger() {
         std::string text;
         for (const Row& row : anna.rows()) {
@@ -51,7 +51,7 @@ protected:
     }
 };
 
-const std::string posted_cash = "期初余额 0.00 0.00 平 0.00\n"
+const std::string posted_cash = "期初余额   平 0.00\n"
                                 "记-1 1000.00 0.00 借 1000.00\n"
                                 "记-2 0.00 30.50 借 969.50\n"
                                 "记-3 0.00 12.25 借 957.25\n"
@@ -75,7 +75,7 @@ TEST_F(LedgerFigures, unposted_vouchers_stand_in_it_when_asked_for) {
 
 TEST_F(LedgerFigures, one_account_brings_the_lines_of_everything_below_it) {
     detailed_ledger("5501", "5501", false);
-    EXPECT_EQ(ledger(), "期初余额 0.00 0.00 平 0.00\n"
+    EXPECT_EQ(ledger(), "期初余额   平 0.00\n"
                         "记-2 30.50 0.00 借 30.50\n"
                         "记-3 12.25 0.00 借 42.75\n"
                         "本期合计 42.75 0.00 借 42.75\n"
@@ -169,7 +169,7 @@ TEST_F(LedgerFigures, a_balance_of_the_trial_balance_leads_to_its_lines) {
     }
     anna.double_click(row, "D1");
     anna.expect_active("TF6685");
-    EXPECT_EQ(ledger(), "期初余额 0.00 0.00 平 0.00\n"
+    EXPECT_EQ(ledger(), "期初余额   平 0.00\n"
                         "记-2 30.50 0.00 借 30.50\n"
                         "本期合计 30.50 0.00 借 30.50\n"
                         "本年累计 30.50 0.00 借 30.50\n");

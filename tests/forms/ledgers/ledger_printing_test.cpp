@@ -23,8 +23,8 @@ protected:
     }
     // 1001 现金: an opening of 100.00 and `lines` receipts of 1.00.
     void answer_long_ledger(int lines) {
-        std::vector<FakeData::Cells> rows = {{"<null>", "<null>", "期初余额", "0", "0", "借", "100",
-                                              "1001", "现金", "-1", "<null>"}};
+        std::vector<FakeData::Cells> rows = {{"<null>", "<null>", "期初余额", "<null>", "<null>",
+                                              "借", "100", "1001", "现金", "-1", "<null>"}};
         for (int i = 1; i <= lines; ++i)
             rows.push_back({"2024-03-05", "记-" + std::to_string(i), "收款" + std::to_string(i),
                             "1", "0", "借", std::to_string(100 + i), "1001", "现金",
@@ -104,7 +104,7 @@ TEST_F(LedgerPrinting, an_export_holds_plain_numbers_and_the_account_of_each_lin
     EXPECT_TRUE(
         sheet.starts_with("\xEF\xBB\xBF科目,凭证日期,凭证字,摘要,借方金额,贷方金额,方向,"
                           "余额\r\n"
-                          "1001,,,期初余额,0.00,0.00,借,100.00\r\n"
+                          "1001,,,期初余额,,,借,100.00\r\n"
                           "1001,2024-03-05,记-7,收货款,585.00,0.00,借,685.00\r\n"))
         << sheet;
 }
