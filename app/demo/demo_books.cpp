@@ -5,8 +5,12 @@
 #include "app/books/open.h"
 #include "app/books/pending_file.h"
 #include "app/demo/told_months.h"
+#include "app/demo/told_trade.h"
+#include "app/demo/trade_tables.h"
 #include "app/demo/typed_story.h"
+#include "app/demo/typed_trade.h"
 #include "app/demo/verify_month.h"
+#include "app/demo/verify_trade.h"
 #include "app/login/password.h"
 #include "app/refusal.h"
 #include "app/workplace/run_driver.h"
@@ -26,8 +30,9 @@ using nlohmann::json;
 // A person who is busy with one part of the story on one day.
 struct Sitting {
     host::Date today;
-    std::string what;            // "正在录入2023-05的凭证"
+    std::string what; // "正在录入2023-05的凭证"
     std::vector<json> requests;
+    std::string from_elsewhere = {};  // what other modules wrote before
     const ToldMonth* month = nullptr; // looked at afterwards
 };
 
@@ -39,23 +44,40 @@ void create_empty(const std::string& books, const Story& story) {
     create_books(wanted, SystemClock(story.start.first_day()));
 }
 
-std::vector<Sitting> sittings_of(const Story& story, const std::vector<ToldMonth>& months) {
+// Before the books are opened: the chart, the parties of the trade, what everything stood at.
+void begin(const Story& story, const TradeStory& trade, std::vector<Sitting>& sittings) {
+    const host::Date day = story.start.first_day();
+    sittings.push_back({day, "正在录入科目", typed_chart(story)});
+    sittings.push_back({day, "正在录入往来期初余额", typed_trade_start(story, trade),
+                        trade_masters(story, trade)});
+    sittings.push_back({day, "正在录入期初余额", typed_opening(story)});
+}
+
+// The trade of a month is entered first, its vouchers after.
+std::vector<Sitting> sittings_of(const Story& story, const TradeStory& trade,
+                                 const std::vector<ToldMonth>& months) {
     std::vector<Sitting> sittings;
-    sittings.push_back(
-        {story.start.first_day(), "正在录入科目和期初余额", typed_start(story), nullptr});
-    for (const ToldMonth& month : months)
-        sittings.push_back({month.period.last_day(),
-                            "正在录入" + month.period.to_text() + "的凭证", typed_month(month),
-                            &month});
+    begin(story, trade, sittings);
+    TradeTeller teller(trade);
+    for (const ToldMonth& month : months) {
+        const std::vector<TradeDocument> documents = teller.documents_of(month);
+        const std::string name = month.period.to_text();
+        Sitting sitting{month.period.last_day(), "正在录入" + name + "的单据和凭证",
+                        typed_documents(documents), goods_documents(story, trade, documents),
+                        &month};
+        for (json& request : typed_month(month)) sitting.requests.push_back(std::move(request));
+        sittings.push_back(std::move(sitting));
+    }
     sittings.push_back({story.today, "正在存凭证模板",
-                        typed_templates(template_places(story, months.back())), nullptr});
+                        typed_templates(template_places(story, months.back()))});
     return sittings;
 }
 
 class Typist {
 public:
-    Typist(std::string books, const DemoProgress& progress, std::int64_t total)
-        : books_(std::move(books)), progress_(progress), total_(total) {}
+    Typist(std::string books, const TradeStory& trade, const DemoProgress& progress,
+           std::int64_t total)
+        : books_(std::move(books)), trade_(trade), progress_(progress), total_(total) {}
 
     void sit(Sitting& sitting) {
         Workplace work(books_, sitting.today, Access::Unpublished);
@@ -63,11 +85,16 @@ public:
         ScriptedPerson person(std::move(sitting.requests),
                               [&] { return go_on(sitting.what); });
         work.data().begin_unit(); // what a sitting breaks off is thrown away with the books
+        if (!sitting.from_elsewhere.empty())
+            automation::rows_of(work.session(), sitting.from_elsewhere);
         run_driver(person, person);
         if (stopped_) throw Refusal("已取消,没有建立演示帐套。");
         if (!person.trouble().empty())
             throw Refusal("演示数据没有全部录入: " + person.trouble());
-        if (sitting.month) verify_month(work.session(), *sitting.month);
+        if (sitting.month) {
+            verify_month(work.session(), *sitting.month);
+            verify_trade(work.session(), trade_, *sitting.month);
+        }
         work.data().keep_unit();
     }
 
@@ -81,6 +108,7 @@ private:
     }
 
     std::string books_;
+    const TradeStory& trade_;
     const DemoProgress& progress_;
     std::int64_t done_ = 0, total_ = 0; // requests
     bool stopped_ = false;
@@ -88,10 +116,11 @@ private:
 
 void type_in(const std::string& books, const Story& story, const DemoProgress& progress) {
     const std::vector<ToldMonth> months = told_months(story);
-    std::vector<Sitting> sittings = sittings_of(story, months);
+    const TradeStory trade = told_trade_story();
+    std::vector<Sitting> sittings = sittings_of(story, trade, months);
     std::size_t total = 0;
     for (const Sitting& sitting : sittings) total += sitting.requests.size();
-    Typist typist(books, progress, static_cast<std::int64_t>(total));
+    Typist typist(books, trade, progress, static_cast<std::int64_t>(total));
     for (Sitting& sitting : sittings) typist.sit(sitting);
 }
 

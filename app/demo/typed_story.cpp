@@ -1,6 +1,8 @@
 // Requests, in the order in which a bookkeeper would work.
 #include "app/demo/typed_story.h"
 
+#include "app/demo/typed_requests.h"
+
 namespace app {
 
 namespace {
@@ -8,35 +10,7 @@ namespace {
 using host::Amount;
 using nlohmann::json;
 
-constexpr const char* main_grid = "DBGridEh";
 constexpr const char* undistributed_profit = "314115";
-
-class Requests {
-public:
-    void open(int code) { add({{"op", "open"}, {"code", code}}); }
-    void click(const std::string& control) { add({{"op", "click"}, {"control", control}}); }
-    void set(const std::string& control, const json& value) {
-        add({{"op", "set"}, {"control", control}, {"value", value}});
-    }
-    // row: a number, or what stands in the row, {"KM_ID": "1001"}, after the rows were read.
-    void cell(const std::string& grid, const json& row, const char* field,
-              const std::string& value) {
-        add({{"op", "cell"}, {"control", grid}, {"row", row}, {"field", field}, {"value", value}});
-    }
-    void rows(const std::string& grid) {
-        add({{"op", "rows"}, {"control", grid}, {"count", 1000}});
-    }
-    void node(const std::string& text) {
-        add({{"op", "node"}, {"control", "TreeView1"}, {"text", text}});
-    }
-    void row(std::size_t row) { add({{"op", "row"}, {"control", main_grid}, {"row", row}}); }
-    void close() { add({{"op", "close"}}); }
-    std::vector<json> take() { return std::move(all_); }
-
-private:
-    void add(json request) { all_.push_back(std::move(request)); }
-    std::vector<json> all_;
-};
 
 // ---- before the first month ----
 
@@ -157,9 +131,14 @@ void work_out_statements(const host::Period& period, Requests& to) {
 
 } // namespace
 
-std::vector<json> typed_start(const Story& story) {
+std::vector<json> typed_chart(const Story& story) {
     Requests requests;
     enter_accounts(story, requests);
+    return requests.take();
+}
+
+std::vector<json> typed_opening(const Story& story) {
+    Requests requests;
     enter_opening(story, requests);
     return requests.take();
 }

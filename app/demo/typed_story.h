@@ -9,8 +9,11 @@
 
 namespace app {
 
-// Accounts into the chart, opening balances, trial balance, initial posting.
-std::vector<nlohmann::json> typed_start(const Story& story);
+// Accounts into the chart.
+std::vector<nlohmann::json> typed_chart(const Story& story);
+
+// Opening balances, trial balance, initial posting.
+std::vector<nlohmann::json> typed_opening(const Story& story);
 
 // A month's vouchers one by one with the allocation of their cash, audit, posting; a month that
 // closes also has its profit and loss carried forward and is closed; a year ends with its

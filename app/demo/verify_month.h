@@ -1,6 +1,8 @@
 // Looks whether a month stands in the books as the story told it.
 #pragma once
 
+#include <string>
+
 #include "app/demo/told_months.h"
 #include "engines/session.h"
 
@@ -10,5 +12,9 @@ namespace app {
 // vouchers and their states, adds up the cash-flow allocation, and compares every balance of a
 // closed month with what the story knows. Throws Refusal that names what differs.
 void verify_month(engines::Session& session, const ToldMonth& month);
+
+// Throws Refusal that names `what` unless the books hold what the story told of it.
+void verify_text(const ToldMonth& month, const std::string& what, const std::string& found,
+                 const std::string& told);
 
 } // namespace app

@@ -201,7 +201,8 @@ std::vector<Row> loading(const BigBooks& books) {
     const ScratchBooks scratch(books);
     const auto fresh = [&] {
         create(scratch, story);
-        type(scratch, day, app::typed_start(story));
+        type(scratch, day, app::typed_chart(story));
+        type(scratch, day, app::typed_opening(story));
         host::the_host().statements.clear();
     };
     fresh();
