@@ -29,15 +29,15 @@ OpeningAmounts::OpeningAmounts(TForm* parent, const OpeningAmountsKind& kind)
 
 void OpeningAmounts::build_columns() {
     const auto& titles = kind_.titles;
-    AddColumn("KH_GYS_ID", titles.code, 12).ReadOnly = true;
-    AddColumn("KG_NAME", "简称", 20).ReadOnly = true;
+    AddColumn("KH_GYS_ID", titles.code, 10).ReadOnly = true;
+    AddColumn("KG_NAME", "简称", 14).ReadOnly = true;
     AddColumn("FULL_NAME", "全称", -1).ReadOnly = true;
-    AddAmountColumn("BEGINYS_MONEY", titles.advance);
-    AddAmountColumn("BEGIN_MONEY", titles.opening);
-    AddAmountColumn("SUMMONEY", titles.difference).ReadOnly = true;
-    AddAmountColumn("YM", titles.open).ReadOnly = true;
-    AddAmountColumn("YSM", titles.advance_left).ReadOnly = true;
-    AddAmountColumn("XJYS", titles.net).ReadOnly = true;
+    AddAmountColumn("BEGINYS_MONEY", titles.advance, 12);
+    AddAmountColumn("BEGIN_MONEY", titles.opening, 12);
+    AddAmountColumn("SUMMONEY", titles.difference, 12).ReadOnly = true;
+    AddAmountColumn("YM", titles.open, 12).ReadOnly = true;
+    AddAmountColumn("YSM", titles.advance_left, 12).ReadOnly = true;
+    AddAmountColumn("XJYS", titles.net, 12).ReadOnly = true;
     for (const char* field : typed_fields) {
         AdoQry_Main.FieldByName(field).OnSetText = [this](TField& amount, const std::string& text) {
             AdoQry_MainBEGINYS_MONEYSetText(amount, text);

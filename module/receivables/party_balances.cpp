@@ -22,15 +22,16 @@ PartyReport::PartyReport(TForm* parent, const PartyReportKind& kind)
     : TFrm_Base_Qry(parent), kind_(kind) {
     Caption = kind.caption;
     KeyField = "KH_GYS_ID";
+    NothingChosen = kind.nothing_asked;
     Act_Open.Caption = kind.open_caption;
     Act_Open.OnExecute = [this] {
         DBGridEhDblClick();
     };
     TipLabel.Caption = kind.tip;
     DBGridEh.EmptyText = "没有数据，请按 F3 选择查询条件";
-    const std::string party = kind.side.party;
-    AddColumn("KH_GYS_ID", party + "代号", 12);
-    AddColumn("KG_NAME", party + "简称", -1);
+    const TradeCode& party = kind.side.parties;
+    AddColumn("KH_GYS_ID", party.code_title, 10);
+    AddColumn("KG_NAME", std::string(party.what) + "简称", -1);
     layout = Rows({ToolBar({&Act_Locate, &Act_Refresh, nullptr, &Act_Open, nullptr, &Act_Print,
                             &Act_Preview, &Act_Export, nullptr, &Act_Quit}),
                    Control(ConditionLabel), Rest(DBGridEh), StatusLine({Control(TipLabel)})});
@@ -39,14 +40,14 @@ PartyReport::PartyReport(TForm* parent, const PartyReportKind& kind)
 PartyDetail::PartyDetail(TForm* parent, const PartyReportKind& kind) : PartyReport(parent, kind) {
     SumFields = "A,B,C,F,D";
     DBGridEh.Columns.front().Tag = group_tag;
-    AddColumn("BDATE", "日期", 11);
-    AddColumn("NOID", "单号", 16);
-    AddColumn("MNAME", "单据类型", 12);
-    AddAmountColumn("A", kind.side.opening);
-    AddAmountColumn("B", kind.side.added);
-    AddAmountColumn("C", kind.side.settled);
-    AddAmountColumn("F", kind.side.discount, 12);
-    AddAmountColumn("D", kind.side.closing);
+    AddColumn("BDATE", "日期", 10);
+    AddColumn("NOID", "单号", 14);
+    AddColumn("MNAME", "单据类型", 10);
+    AddAmountColumn("A", kind.side.opening, 12);
+    AddAmountColumn("B", kind.side.added, 12);
+    AddAmountColumn("C", kind.side.settled, 12);
+    AddAmountColumn("F", kind.side.discount, 10);
+    AddAmountColumn("D", kind.side.closing, 12);
     AdoQry_Main.DefineField("BDATE", FieldType::DateTime).DisplayFormat = "yyyy-mm-dd";
     AdoQry_Main.DefineField("mytype", FieldType::Integer); // function of the document, 0 for none
 }
@@ -72,11 +73,6 @@ PartySummary::PartySummary(TForm* parent, const PartyReportKind& kind)
 }
 
 // ---- rows ----
-
-void PartyReport::Act_RefreshExecute() {
-    if (SqlText.empty()) return DISPINFO(kind_.nothing_asked, 5), void();
-    TFrm_Base_Qry::Act_RefreshExecute();
-}
 
 std::unique_ptr<PaperDocument> PartyReport::MakeDocument() {
     if (SqlText.empty()) refuse(nothing_asked_to_print);

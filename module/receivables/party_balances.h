@@ -26,7 +26,6 @@ public:
 
 protected:
     PartyReport(TForm* parent, const PartyReportKind& kind);
-    void Act_RefreshExecute() override;
     const TradeSide& side() const { return kind_.side; }
 
 private:

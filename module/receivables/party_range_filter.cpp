@@ -1,7 +1,6 @@
 // What the condition dialogs of the balances with customers and suppliers share.
 #include "module/receivables/party_range_filter.h"
 
-#include "host/contract/U_linkedit.h"
 #include "host/values/sql_text.h"
 #include "host/values/text.h"
 #include "module/refuse.h"
@@ -14,21 +13,11 @@ PartyRangeFilter::PartyRangeFilter(TForm* parent, const PartyDialog& dialog)
     : DateRangeFilter(parent, "日    期："), KH_GYS_ID(this, "KH_GYS_ID", dialog.party),
       dialog_(dialog) {
     Caption = dialog.caption;
-    for (TLinkEdit* edit : {&KH_GYS_ID, &KH_GYS_ID2}) bind_party(*edit);
+    for (TLinkEdit* edit : {&KH_GYS_ID, &KH_GYS_ID2}) offer_trade_codes(*edit, dialog.side.parties);
     layout = Rows({Field(KH_GYS_ID.Caption, KH_GYS_ID, 18),
                    Field(KH_GYS_ID2.Caption, KH_GYS_ID2, 18), date_row(),
                    Columns({Control(CK1), Control(CK2), Spring()}),
                    Buttons({&btn_ok, &btn_Cancel})});
-}
-
-void PartyRangeFilter::bind_party(TLinkEdit& edit) {
-    const TradeSide& side = dialog_.side;
-    edit.OnButtonClick = [this, &edit, &side] {
-        CommonHint(edit, offered_, side.parties, "KH_GYS_ID", std::string(side.party) + "代号",
-                   "KG_NAME", side.party, side.parties_condition);
-    };
-    OfferHint(edit, side.parties, "KH_GYS_ID", "KG_NAME", side.parties_condition);
-    edit.OnChange = [&edit] { edit.DisplayName = ""; }; // the name belongs to the code before
 }
 
 void PartyRangeFilter::InitForm() {
@@ -53,7 +42,8 @@ void PartyRangeFilter::check_parties() {
     const std::string first = trimmed(KH_GYS_ID.Text.get()), last = trimmed(KH_GYS_ID2.Text.get());
     if (last.empty() || upper_case(first) <= upper_case(last)) return;
     KH_GYS_ID.SetFocus();
-    refuse(std::string("开始") + dialog_.side.party + "不能大于结束" + dialog_.side.party + "!");
+    const std::string what = dialog_.side.parties.what;
+    refuse("开始" + what + "不能大于结束" + what + "!");
 }
 
 // ---- statements ----
@@ -71,8 +61,8 @@ std::string PartyRangeFilter::description() const {
     const std::string parties = first.empty() && last.empty()  ? "全部"
                                 : last.empty() || first == last ? first
                                                                 : first + " 至 " + last;
-    return std::string(" ●") + dialog_.side.party + ":" + parties + "     ●日期:" + date_text() +
-           (CK1.Checked ? "     ●" + CK1.Caption.get() : "") +
+    return std::string(" ●") + dialog_.side.parties.what + ":" + parties + "     ●日期:" +
+           date_text() + (CK1.Checked ? "     ●" + CK1.Caption.get() : "") +
            (CK2.Checked ? "     ●" + CK2.Caption.get() : "");
 }
 

@@ -37,13 +37,11 @@ protected:
     PartyRangeFilter(TForm* parent, const PartyDialog& dialog);
 
 private:
-    void bind_party(TLinkEdit& edit);
     void check_parties();
     std::string parties_asked() const;
     std::string description() const;
 
     const PartyDialog& dialog_;
-    TClientDataSet offered_;
     AskedDays days_;
 };
 

@@ -197,6 +197,53 @@ TEST_F(PartyFigures, documents_of_other_modules_open_nothing_here) {
     }
 }
 
+TEST_F(PartyFigures, a_document_kept_here_is_shown_and_cannot_be_changed) {
+    struct Shown {
+        int code, row;
+        const char *form, *number, *amount, *value;
+    };
+    const Shown documents[] = {{632, 4, "TF6631_1", "K1", "MONEY", "1150.00"},
+                               {632, 8, "TF6631_1", "K5", "MONEY", "250.00"},
+                               {632, 3, "TF6646_1", "O1", "TOLMONEY", "50.00"},
+                               {642, 4, "TF6641_1", "K1", "YH", "50.00"},
+                               {642, 3, "TF6647_1", "O1", "TOLMONEY", "50.00"}};
+    for (const Shown& document : documents) {
+        SCOPED_TRACE(document.form);
+        ask(document.code, "2024-03-01", "2024-03-31");
+        anna.double_click(document.row, "NOID");
+        anna.expect_active(document.form);
+        EXPECT_EQ(anna.value("Edit1"), document.number);
+        EXPECT_EQ(anna.value("KH_GYS_ID"), "C01");
+        EXPECT_EQ(anna.value(document.amount), document.value);
+        EXPECT_NE(anna.cannot_set("BDATE", "2024-03-02"), "");
+        anna.cannot_click("Act_Save");
+        anna.close();
+        anna.expect_active(document.code == 632 ? "TF6632" : "TF6642");
+        anna.close();
+    }
+}
+
+TEST_F(PartyFigures, a_document_deleted_meanwhile_is_told_of) {
+    ask(632, "2024-03-01", "2024-03-31");
+    books.execute("DELETE FROM D631 WHERE NOID='K2'");
+    anna.double_click(5, "NOID");
+    EXPECT_NE(anna.next_message().find("K2"), std::string::npos);
+    anna.expect_active("TF6632");
+}
+
+TEST_F(PartyFigures, who_may_not_open_receipts_sees_their_amounts_alone) {
+    PersonOptions options = books.person();
+    options.may = [](const host::Right& right) { return right.function != "631"; };
+    Person carl(books.data(), options);
+    carl.open(632);
+    carl.set("BDATE", "2024-03-01");
+    carl.set("EDATE", "2024-03-31");
+    carl.click("btn_ok");
+    carl.double_click(4, "NOID");
+    carl.expect_message("您没有打开单据“K1”的权限，请与系统管理员联系。");
+    carl.expect_active("TF6632");
+}
+
 TEST_F(PartyFigures, a_file_holds_what_is_shown_with_the_sums_below) {
     ask(632, "2024-03-01", "2024-03-31");
     const std::string sheet = anna.export_spreadsheet();
