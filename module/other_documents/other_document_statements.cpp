@@ -1,7 +1,6 @@
 // What other receipts and payments ask of the books, and what they write into them.
 #include "module/other_documents/other_document_statements.h"
 
-#include "host/contract/U_function.h"
 #include "host/forms/parts/delete_guard.h"
 #include "host/values/sql_text.h"
 #include "host/values/text.h"
@@ -101,8 +100,8 @@ std::string delete_lines(const OtherDocumentKind& kind, const std::string& numbe
 std::string insert_line(const OtherDocumentKind& kind, const std::string& number,
                         const OtherDocumentLine& line) {
     return of_kind(kind, "INSERT INTO [lines] (NOID, SZLB, MONEY, NOTE, SZLB_CLASS)  VALUES (") +
-           quoted(number) + "," + quoted(line.category) + "," +
-           quoted(FormatAmount(line.amount)) + "," + quoted(line.note) + ",0);";
+           quoted(number) + "," + quoted(line.category) + "," + quoted(line.amount.to_text()) + "," +
+           quoted(line.note) + ",0);";
 }
 
 } // namespace module

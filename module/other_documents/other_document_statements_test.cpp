@@ -40,7 +40,7 @@ TEST(OtherDocumentStatements, lines_are_written_anew_by_category) {
     EXPECT_EQ(delete_lines(other_receipts, "N1"), "delete from  d651A WHERE NOID='N1';");
     EXPECT_EQ(insert_line(other_receipts, "N1", {"01", Amount::from_cents(7000), "利'息"}),
               "INSERT INTO D651A (NOID, SZLB, MONEY, NOTE, SZLB_CLASS)  VALUES ('N1','01','"
-              "             70.00','利''息',0);");
+              "70.00','利''息',0);");
 }
 
 TEST(OtherDocumentStatements, payments_say_the_same_of_their_own_tables) {
@@ -54,7 +54,7 @@ TEST(OtherDocumentStatements, payments_say_the_same_of_their_own_tables) {
     EXPECT_EQ(delete_lines(other_payments, "N1"), "delete from  D652A WHERE NOID='N1';");
     EXPECT_EQ(insert_line(other_payments, "N1", {"31", Amount::from_cents(-5), ""}),
               "INSERT INTO D652A (NOID, SZLB, MONEY, NOTE, SZLB_CLASS)  VALUES ('N1','31','"
-              "             -0.05','',0);");
+              "-0.05','',0);");
 }
 
 TEST(OtherDocumentStatements, a_new_document_begins_with_every_category_of_its_kind) {

@@ -58,8 +58,8 @@ TEST_F(OtherReceipt, settled_at_once_is_written_with_its_total_settled_and_witho
     EXPECT_EQ(batch_sent(), insert_head + "0','" + number +
                                 "','K1','Y1','B1','2','2024-03-15','罚''款','admin','57.65',"
                                 "'57.65');" +
-                                insert_line + "02','             70.00','',0);" + insert_line +
-                                "03','            -12.35','退''租',0);");
+                                insert_line + "02','70.00','',0);" + insert_line +
+                                "03','-12.35','退''租',0);");
     EXPECT_EQ(documents("D651"), number + " 0 57.65 57.65 0.00 2");
     EXPECT_EQ(anna.value("Edit1"), "646240315002"); // ready for the next
     EXPECT_EQ(anna.value("KH_GYS_ID"), "");
@@ -74,7 +74,7 @@ TEST_F(OtherReceipt, left_open_lies_on_account_0_whatever_account_is_shown) {
     EXPECT_EQ(batch_sent(), insert_head + "1','" + number +
                                 "','K1','','','0','2024-03-15','','admin','120.00','0');"
                                 "UPDATE D651 SET YSMONEY=TOLMONEY-SUMMONEY WHERE NOID='" +
-                                number + "';" + insert_line + "01','            120.00','',0);");
+                                number + "';" + insert_line + "01','120.00','',0);");
     EXPECT_EQ(documents("D651"), number + " 1 120.00 0.00 120.00 0");
 }
 
@@ -248,8 +248,8 @@ TEST_F(StoredReceipt, settled_is_changed_but_for_its_number_and_type) {
               "UPDATE d651 SET KH_GYS_ID='K1',BDATE='2024-03-15',JY_ID='2',bm_ID='',YW_ID='',ZY='',"
               "TOLMONEY='81.50',sumMONEY='81.50',USER_ID='admin',C='0' WHERE noid='" +
                   number + "';delete from  d651A WHERE NOID='" + number + "';" + insert_line +
-                  "02','             80.00','',0);" + insert_line +
-                  "01','              1.50','',0);");
+                  "02','80.00','',0);" + insert_line +
+                  "01','1.50','',0);");
     anna.expect_active("TF6646");
     EXPECT_EQ(documents("D651"), number + " 0 81.50 81.50 0.00 2");
     EXPECT_EQ(anna.rows()[0].at("TOLMONEY"), "81.50");
@@ -268,7 +268,7 @@ TEST_F(StoredReceipt, open_keeps_its_account_too) {
               "TOLMONEY='90.00',USER_ID='admin',C='1' WHERE noid='" +
                   number + "';UPDATE D651 SET YSMONEY=TOLMONEY-SUMMONEY WHERE NOID='" + number +
                   "';delete from  d651A WHERE NOID='" + number + "';" + insert_line +
-                  "02','             90.00','',0);");
+                  "02','90.00','',0);");
     EXPECT_EQ(documents("D651"), number + " 1 90.00 0.00 90.00 0");
 }
 

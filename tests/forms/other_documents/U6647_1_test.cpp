@@ -30,7 +30,7 @@ TEST_F(OtherPayment, settled_at_once_writes_its_lines_with_class_0) {
               "TOLMONEY,SUMMONEY) VALUES ('0','" + number +
                   "','G1','','','1','2024-03-15','','admin','25.00','25.00');"
                   "INSERT INTO D652A (NOID, SZLB, MONEY, NOTE, SZLB_CLASS)  VALUES ('" + number +
-                  "','22','             25.00','',0);");
+                  "','22','25.00','',0);");
     EXPECT_EQ(documents("D652"), number + " 0 25.00 25.00 0.00 1");
 }
 
@@ -73,7 +73,7 @@ TEST_F(OtherPayment, a_change_rewrites_the_lines_of_its_own_table) {
                   "';UPDATE D652 SET YSMONEY=TOLMONEY-SUMMONEY WHERE NOID='" + number +
                   "';delete from  D652A WHERE NOID='" + number +
                   "';INSERT INTO D652A (NOID, SZLB, MONEY, NOTE, SZLB_CLASS)  VALUES ('" + number +
-                  "','21','            310.00','',0);");
+                  "','21','310.00','',0);");
 }
 
 TEST_F(OtherPayment, is_deleted_and_asked_for_in_its_own_table) {
