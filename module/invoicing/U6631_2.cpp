@@ -27,22 +27,22 @@ const char* const select_accounts =
 
 TF6631_2::TF6631_2(TForm* parent) : TFrm_Base_Dialog(parent) {
     Caption = "派车单导入";
-    PreferredWidth = 128;
+    PreferredWidth = 146;
     Edit1.MaxLength = 20;
     btn_ok.Caption = "导入";
     btn_Cancel.Caption = "关闭";
     btn_ref.KeyHint = "F5";
     btn_ref.OnClick = [this] { btn_refClick(); };
     define_fields();
-    GRID1.Columns = {{.FieldName = "KH_GYS_ID", .Title = "客户代号", .Width = 9, .ReadOnly = true},
+    GRID1.Columns = {{.FieldName = "KH_GYS_ID", .Title = "客户代号", .Width = 8, .ReadOnly = true},
                      {.FieldName = "KG_NAME", .Title = "客户简称", .Width = -1, .ReadOnly = true},
                      {.FieldName = "NOID", .Title = "销售单号", .Width = 14, .ReadOnly = true},
-                     amount_column("TOLMONEY", "金额", 12, FooterKind::None),
-                     amount_column("SMONEY", "本次收款", 12),
-                     {.FieldName = "BDATE", .Title = "日期", .Width = 11},
-                     {.FieldName = "JY_ID", .Title = "收款帐户", .Width = 8},
-                     {.FieldName = "JY_NAME", .Title = "帐户名称", .Width = 14, .ReadOnly = true},
-                     {.FieldName = "PH", .Title = "票号", .Width = 12}};
+                     amount_column("TOLMONEY", "金额", 10, FooterKind::None),
+                     amount_column("SMONEY", "本次收款", 10),
+                     {.FieldName = "BDATE", .Title = "日期", .Width = 10},
+                     {.FieldName = "JY_ID", .Title = "收款帐户", .Width = 7},
+                     {.FieldName = "JY_NAME", .Title = "帐户名称", .Width = 11, .ReadOnly = true},
+                     {.FieldName = "PH", .Title = "票号", .Width = 9}};
     GRID1.Columns[3].ReadOnly = GRID1.Columns[4].ReadOnly = true;
     GRID1.Columns[6].Button = true;
     GRID1.FixedOrder = true; // a customer's documents stand before his total
@@ -75,7 +75,7 @@ void TF6631_2::define_fields() {
         AdoQry_Main.DefineField(amount, FieldType::Amount).DisplayFormat = "0.00";
     AdoQry_Main.DefineField("BDATE", FieldType::DateTime).DisplayFormat = "yyyy-mm-dd";
     AdoQry_Main.DefineField("JY_ID", FieldType::Text, 2);
-    AdoQry_Main.DefineField("PH", FieldType::Text, 20);
+    AdoQry_Main.DefineField("PH", FieldType::Text, 50);
     for (const char* changed : {"BDATE", "JY_ID", "PH"})
         AdoQry_Main.FieldByName(changed).OnSetText = [this](TField& field,
                                                             const std::string& typed) {
@@ -193,9 +193,8 @@ void TF6631_2::btn_okClick() {
             {number, text("KH_GYS_ID"), text("JY_ID"),
              AdoQry_Main.FieldByName("BDATE").AsDateTime().date.to_text(), text("PH"), G_UserId,
              AdoQry_Main.FieldByName("SMONEY").AsAmount()});
-        const bool done = text("B") == imported_mark || send(number, batch);
-        if (done && customer_follows() && text("KG_NAME").ends_with(number))
-            number = fresh_number(receipt_numbers);
+        const bool sent = text("B") != imported_mark && send(number, batch);
+        if (sent && customer_follows()) number = fresh_number(receipt_numbers);
         batch.clear();
     }
 }

@@ -6,6 +6,7 @@
 #include "host/ports/host.h"
 #include "host/printing/paper.h"
 #include "host/values/sql_text.h"
+#include "host/values/text.h"
 #include "module/invoicing/invoice_pickers.h"
 #include "module/refuse.h"
 #include "module/trade/document_number.h"
@@ -70,13 +71,13 @@ void TF6631_3::build_layout() {
                   &Act_Print, &Act_Preview, nullptr, &Act_Quit}),
          Columns({Title("销售开单"), Space(),
                   Rows({Field("销售单号", Edit1, 14), Field("客    户", KH_GYS_ID, 10),
-                        Field("送货方式", SEND_ID, 8)}),
-                  Rows({Field("开单日期", BDATE, 12), Field("仓    库", CK_ID, 6),
-                        Field("业 务 员", YW_ID, 6)}),
-                  Rows({Field("公司名称", FULL_NAME, -1), Field("电    话", TEL, -1),
-                        Field("地    址", ADDR, -1)}),
+                        Field("备    注", NOTE, 26)}),
+                  Rows({Field("开单日期", BDATE, 12), Field("仓    库", CK_ID, 6), Spring()}),
+                  Rows({Field("送货方式", SEND_ID, 6), Field("业 务 员", YW_ID, 6), Spring()}),
                   Spring()}),
-         Columns({Field("备    注", NOTE, 60), Spring(), Text("更改日期"), Control(EDATE)}),
+         Columns({Text("公司名称"), Control(FULL_NAME), Space(2), Text("电话"), Control(TEL),
+                  Space(2), Text("地址"), Control(ADDR), Spring(), Text("更改日期"),
+                  Control(EDATE)}),
          Control(LockReason), Rest(DBGridEh),
          Columns({Field("本次收款", BQMONEY, 14), Field("优惠", YHMONEY, 10), Spring(),
                   Control(CK1), Control(CK2), Control(CK3)}),
@@ -411,7 +412,7 @@ void TF6631_3::Act_PreviewExecute() {
     document_printed();
 }
 
-void TF6631_3::FormKeyDown(Key& key) {
+void TF6631_3::FormKeyDown(host::Key& key) {
     if (key.code == KeyCode::F6 && !key.ctrl && !key.alt && !key.shift) {
         key = {};
         CK1.set_checked(!CK1.Checked);

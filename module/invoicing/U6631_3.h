@@ -52,7 +52,7 @@ protected:
     void Act_PrintExecute() override;
     void Act_PreviewExecute() override;
     void Act_OtherExecute() override; // opens an earlier document to be changed
-    void FormKeyDown(Key& key) override;
+    void FormKeyDown(host::Key& key) override;
 
 private:
     // This form's own rules.

@@ -29,26 +29,26 @@ GridColumn looked_up(const char* field, const char* title, int width) {
 } // namespace
 
 std::vector<GridColumn> invoice_columns() {
-    GridColumn name = shown("WL_NAME", "商品名称", 16);
+    GridColumn name = shown("WL_NAME", "商品名称", 13);
     name.Footer = FooterKind::Text;
     name.FooterText = "合计";
-    GridColumn returned = figure("SL_RETURN", "退货数量", 8);
+    GridColumn returned = figure("SL_RETURN", "退货数量", 7);
     returned.ReadOnly = true;
-    return {looked_up("WL_ID", "商品编号", 10),
+    return {looked_up("WL_ID", "商品编号", 9),
             name,
-            shown("WL_GG", "规格", 8),
-            looked_up("DW_NAME", "单位", 7),
-            figure("SL", "数量", 8, FooterKind::Sum),
-            figure("DW_J", "数量|件", 6),
-            figure("DW_L", "数量|零数", 6),
-            figure("SJ", "售价", 8),
-            figure("SMONEY", "售价金额", 11, FooterKind::Sum),
-            figure("DJ", "成本价", 8),
-            figure("MONEY", "成本金额", 11, FooterKind::Sum),
+            shown("WL_GG", "规格", 7),
+            looked_up("DW_NAME", "单位", 6),
+            figure("SL", "数量", 7, FooterKind::Sum),
+            figure("DW_J", "数量|件", 5),
+            figure("DW_L", "数量|零数", 5),
+            figure("SJ", "售价", 7),
+            figure("SMONEY", "售价金额", 10, FooterKind::Sum),
+            figure("DJ", "成本价", 7),
+            figure("MONEY", "成本金额", 10, FooterKind::Sum),
             returned,
-            {.FieldName = "NOTE", .Title = "备注", .Width = 10},
-            shown("TM", "条码", 12),
-            looked_up("NOID", "订单编号", 12)};
+            {.FieldName = "NOTE", .Title = "备注", .Width = 8},
+            shown("TM", "条码", 10),
+            looked_up("NOID", "订单编号", 10)};
 }
 
 void InvoiceGrid::define_fields() {
