@@ -12,7 +12,7 @@ namespace module {
 // One good in one packing unit; a good without units has one entry with a blank unit.
 struct Good {
     std::string code, name, pinyin;
-    std::string size;               // model, specification
+    std::string size;               // model, packing size
     std::string unit_key;           // ADW
     std::string unit, unit_name;    // "03", "箱"
     std::string bar_code;

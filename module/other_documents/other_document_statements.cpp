@@ -100,8 +100,8 @@ std::string delete_lines(const OtherDocumentKind& kind, const std::string& numbe
 std::string insert_line(const OtherDocumentKind& kind, const std::string& number,
                         const OtherDocumentLine& line) {
     return of_kind(kind, "INSERT INTO [lines] (NOID, SZLB, MONEY, NOTE, SZLB_CLASS)  VALUES (") +
-           quoted(number) + "," + quoted(line.category) + "," + quoted(line.amount.to_text()) + "," +
-           quoted(line.note) + ",0);";
+           quoted(number) + "," + quoted(line.category) + "," +
+           quoted(line.amount.to_text()) + "," + quoted(line.note) + ",0);";
 }
 
 } // namespace module
