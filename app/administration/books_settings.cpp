@@ -34,6 +34,7 @@ TFrm_Books::TFrm_Books(TForm* parent) : TFrm_Base_Dialog(parent) {
     PreferredWidth = 56;
     layout = Rows({Field("公司名称", COMPANY, 40),
                    Group("管理方式", {Control(SMALL), Control(STRICT)}), Control(TWO_PERSONS),
+                   Control(ADVANCE_LIMIT),
                    Text("公司名称在下次登录时显示；登过帐后不能从严格方式改回。"),
                    Buttons({&btn_ok, &btn_Cancel})});
 }
@@ -46,13 +47,15 @@ void TFrm_Books::InitForm(const Trecord& record) {
 void TFrm_Books::read() {
     TClientDataSet settings;
     opensql(settings, FunctionCode,
-            "SELECT NAME,VALUE FROM SYS_SETTING WHERE NAME IN ('company','mode','two_persons')");
+            "SELECT NAME,VALUE FROM SYS_SETTING WHERE NAME IN ('company','mode','two_persons',"
+            "'advance_limit')");
     for (settings.First(); !settings.Eof(); settings.Next()) {
         const std::string name = settings.FieldByName("NAME").AsText();
         const std::string value = settings.FieldByName("VALUE").AsText();
         if (name == "company") COMPANY.Text = value;
         if (name == "mode") was_strict_ = value == "strict";
         if (name == "two_persons") TWO_PERSONS.Checked = value == "1";
+        if (name == "advance_limit") ADVANCE_LIMIT.Checked = value == "1";
     }
     SMALL.Checked = !was_strict_;
     STRICT.Checked = was_strict_;
@@ -92,7 +95,8 @@ void TFrm_Books::btn_okClick() {
                                   : "";
     const std::string batch = guard + set("company", trimmed(COMPANY.Text.get())) +
                               set("mode", mode) +
-                              set("two_persons", TWO_PERSONS.Checked ? "1" : "0");
+                              set("two_persons", TWO_PERSONS.Checked ? "1" : "0") +
+                              set("advance_limit", ADVANCE_LIMIT.Checked ? "1" : "0");
     if (ExecSql(FunctionCode, mode, "Edit", batch) == "Y") ModalResult = mrOk;
 }
 

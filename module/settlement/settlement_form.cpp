@@ -47,7 +47,9 @@ void SettlementForm::bind_events() {
         if (!holding_) CB1Change();
     };
     Act_Clear.OnExecute = [this] { Act_ClearExecute(); };
-    AdoQry_Main.OnDataChange = [this](TField*) { refresh_totals(); };
+    AdoQry_Main.OnDataChange = [this](TField*) {
+        if (!writing_shares_) refresh_totals();
+    };
 }
 
 void SettlementForm::define_amounts(std::initializer_list<const char*> fields) {
@@ -63,6 +65,16 @@ void SettlementForm::define_amounts(std::initializer_list<const char*> fields) {
         SetFloatText(field, typed);
     };
     AdoQry_Main.Open();
+}
+
+// The number is there already: who types all day begins with the party.
+void SettlementForm::FormShow() {
+    Tfrm_Base_Entry_Body::FormShow();
+    go_to_first_field();
+}
+
+void SettlementForm::go_to_first_field() {
+    if (new_document() && KH_GYS_ID.usable()) SetFocusTo(KH_GYS_ID);
 }
 
 void SettlementForm::OpenNoid(const std::string& key) {
@@ -229,7 +241,19 @@ void SettlementForm::spread_over_items() {
         const TClientDataSet::Peek at(AdoQry_Main, row);
         items.push_back({column("TOLMONEY"), column("SUMMONEY"), column("REMONEY")});
     }
-    const std::vector<Amount> shares = spread(money_to_spread(), items);
+    write_shares(spread(money_to_spread(), items));
+}
+
+void SettlementForm::clear_shares() {
+    if (AdoQry_Main.IsEmpty()) return;
+    DBGridEh.cancel_edit();
+    write_shares(std::vector<Amount>(static_cast<std::size_t>(AdoQry_Main.RecordCount())));
+}
+
+// The person sees the result, not each step; the totals are made once, by the caller.
+void SettlementForm::write_shares(const std::vector<Amount>& shares) {
+    writing_shares_ = true;
+    AdoQry_Main.DisableControls();
     const int before = AdoQry_Main.RecNo();
     for (std::size_t row = 0; row < shares.size(); ++row) {
         AdoQry_Main.GotoRow(static_cast<int>(row));
@@ -238,19 +262,8 @@ void SettlementForm::spread_over_items() {
         AdoQry_Main.Post();
     }
     AdoQry_Main.GotoRow(before);
-}
-
-void SettlementForm::clear_shares() {
-    if (AdoQry_Main.IsEmpty()) return;
-    DBGridEh.cancel_edit();
-    const int before = AdoQry_Main.RecNo();
-    for (int row = 0; row < AdoQry_Main.RecordCount(); ++row) {
-        AdoQry_Main.GotoRow(row);
-        AdoQry_Main.Edit();
-        AdoQry_Main.FieldByName("MONEY").SetValue(Amount());
-        AdoQry_Main.Post();
-    }
-    AdoQry_Main.GotoRow(before);
+    AdoQry_Main.EnableControls();
+    writing_shares_ = false;
 }
 
 void SettlementForm::Act_OtherExecute() {
@@ -365,6 +378,7 @@ void SettlementForm::Act_SaveExecute() {
     CommitActive();
     if (!writes_off()) prepare_advance();
     Tfrm_Base_Entry_Body::Act_SaveExecute();
+    if (!Closed()) go_to_first_field();
 }
 
 std::string SettlementForm::save(const std::string& number, const std::string& batch) {

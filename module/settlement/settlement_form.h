@@ -61,6 +61,7 @@ protected:
     virtual void check_amounts() = 0;              // in order; refuses
     virtual std::string batch_to_save() = 0;
 
+    void FormShow() override;
     void Act_SaveExecute() override;
     void Act_OtherExecute() override;   // the money is spread anew
     void Act_RefreshExecute() override; // the party's open items are read anew
@@ -83,6 +84,8 @@ protected:
 private:
     // This form's own rules.
     static bool writes_off_at(int purpose);
+    void go_to_first_field();
+    void write_shares(const std::vector<Amount>& shares); // one a row
     void bind_events();
     void begin_document();
     void show_document();
@@ -96,6 +99,7 @@ private:
     std::string party_;         // whose items are listed
     std::string balance_text_;  // of the party
     Amount advance_at_hand_;    // of the party, without this document
+    bool writing_shares_ = false;
     OpenedDocument opened_;
 };
 

@@ -31,7 +31,7 @@ void SettlementList::InitForm(const Trecord& record) {
 }
 
 std::vector<GridColumn> SettlementList::opening_columns() const {
-    return {{.FieldName = "NOID", .Title = "单号", .Width = 14},
+    return {{.FieldName = "NOID", .Title = "单号", .Width = 17},
             {.FieldName = "BDATE", .Title = "开单日期", .Width = 11},
             {.FieldName = "KH_GYS_ID", .Title = kind_.party_code_title, .Width = 10},
             {.FieldName = "KG_NAME", .Title = kind_.party_name_title, .Width = 16},

@@ -49,6 +49,16 @@ TEST_F(BooksSettings, the_way_back_is_open_until_something_was_posted) {
     EXPECT_EQ(setting("mode"), "strict");
 }
 
+TEST_F(BooksSettings, advances_may_be_used_up_beyond_what_was_paid_unless_the_books_forbid_it) {
+    admin.open_host("books");
+    EXPECT_FALSE(admin.checked("ADVANCE_LIMIT"));
+    admin.check("ADVANCE_LIMIT");
+    admin.click("btn_ok");
+    EXPECT_EQ(setting("advance_limit"), "1");
+    admin.open_host("books");
+    EXPECT_TRUE(admin.checked("ADVANCE_LIMIT"));
+}
+
 TEST_F(BooksSettings, books_have_a_company_name) {
     admin.open_host("books");
     admin.set("COMPANY", "");

@@ -299,5 +299,23 @@ TEST_F(CurrencyReceipt, a_receipt_without_a_split_stands_on_the_account_of_its_h
     EXPECT_EQ(document("U2"), "500.00 1500.00");
 }
 
+TEST_F(CurrencyReceipt, its_money_is_changed_where_it_was_split) {
+    new_document("K2");
+    on_account(0, "1000");
+    save();
+    anna.close();
+    anna.open(631);
+    anna.click("Act_Modify");
+    anna.set("MONEY", "900");
+    anna.click("Act_Save");
+    anna.expect_message("本单的收款 1000.00 已分到各帐户，实收金额请在“销售收款 · 外币”（功能 630）"
+                        "中修改!");
+    anna.set("MONEY", "1000");
+    anna.set("PH", "工行");
+    anna.click("Act_Save");
+    EXPECT_EQ(books.value("SELECT PH FROM D631"), "工行");
+    EXPECT_EQ(books.value("SELECT SUM(MONEY) FROM D631B"), "1000.00");
+}
+
 } // namespace
 } // namespace tests

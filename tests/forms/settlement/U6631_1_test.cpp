@@ -12,12 +12,13 @@ protected:
 TEST_F(Receipt, reads_the_customer_and_what_stands_open) {
     anna.open(631);
     anna.click("Act_Add");
+    anna.set("Edit1", "A7");
     anna.mark();
     anna.set("KH_GYS_ID", "K1");
     anna.focus("PH");
     EXPECT_EQ(anna.sent_texts(),
               (std::vector<std::string>{
-                  "SELECT NOID FROM d631 WHERE NOID='631240315001'",
+                  "SELECT NOID FROM d631 WHERE NOID='A7'",
                   "SELECT B.KH_GYS_ID, B.KG_NAME, A.YM, A.YSM, A.XJYS FROM VD631 A RIGHT OUTER "
                   "JOIN D1102 B ON A.KH_GYS_ID = B.KH_GYS_ID WHERE B.KH_GYS_ID='K1';",
                   "SELECT NOID,C,CASE C WHEN 2 THEN '期初应收' ELSE NOID END AS D8102NOID, "

@@ -53,6 +53,7 @@ protected:
     std::string document(const std::string& number) { return settled(side.documents, number); }
     void expect_not_saved(const std::string& message);
 
+    std::string findings_expected; // of the audit at the end
     const Side& side;
     Books books;
     Person anna;

@@ -272,6 +272,37 @@ TEST_P(SingleAccount, using_more_than_was_paid_in_advance_turns_the_line_red) {
     books.execute("DELETE FROM SYS_SETTING WHERE NAME='advance_limit'");
     save(); // books that do not forbid it only show it
     EXPECT_EQ(books.value("SELECT YSM FROM V" + side.heads + " WHERE KH_GYS_ID='K1'"), "-100.00");
+    findings_expected = "收付款单金额不符: K1: " +
+                        std::string(side.code == 631 ? "客户预收款用超" : "供应商预付款用超") +
+                        " -100.00\n";
+}
+
+TEST_P(SingleAccount, the_cursor_waits_at_the_party_of_the_next_document) {
+    new_document("");
+    EXPECT_EQ(anna.focused(), "CB1");
+    anna.set("KH_GYS_ID", "K2");
+    pay("5");
+    anna.click("Act_Save");
+    EXPECT_EQ(anna.focused(), "KH_GYS_ID");
+    anna.close();
+    anna.click("Act_Add");
+    EXPECT_EQ(anna.focused(), "KH_GYS_ID");
+}
+
+TEST_P(SingleAccount, a_thousand_open_items_are_spread_while_the_amount_is_typed) {
+    std::string batch;
+    for (int number = 1000; number < 2000; ++number)
+        batch += "INSERT INTO " + side.documents +
+                 " (NOID,C,KH_GYS_ID,BDATE,USER_ID,TOLMONEY,YSMONEY) VALUES ('V" +
+                 std::to_string(number) + "',0,'K2','2024-03-05','admin',10,10);";
+    books.execute(batch);
+    new_document("K2");
+    anna.focus("MONEY");
+    for (const char* digit : {"8", "0", "0", "5"}) anna.key(digit);
+    EXPECT_EQ(anna.value("ShareTotal"), "8005.00");
+    EXPECT_EQ(anna.rows()[502].at("MONEY"), "5.00"); // 1000 + 2000 + 500 * 10
+    save();
+    EXPECT_EQ(books.value("SELECT COUNT(*) FROM " + side.lines), "503");
 }
 
 // ---- changing ----
