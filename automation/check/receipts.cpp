@@ -31,20 +31,12 @@ constexpr const char* advance_payments_with_lines =
     "SELECT NOID + ':', '预付单不应有明细或优惠' FROM D641 H WHERE JY_KM IN (1, 2) AND "
     "(MONEY_YH <> 0 OR EXISTS (SELECT * FROM D641A L WHERE L.NOID = H.NOID)) ORDER BY NOID";
 
-// More was paid back or set off than had been paid in advance.
-constexpr const char* advances_used_up_twice =
-    "SELECT KH_GYS_ID + ':', '客户预收款用超', YSM FROM VD631 WHERE YSM < 0 ORDER BY KH_GYS_ID";
-
-constexpr const char* advance_payments_used_up_twice =
-    "SELECT KH_GYS_ID + ':', '供应商预付款用超', YSM FROM VD641 WHERE YSM < 0 ORDER BY KH_GYS_ID";
-
 } // namespace
 
 void check_receipts(engines::Session& session, Findings& findings) {
     for (const char* query :
          {receipts_and_their_lines, payments_and_their_lines, receipts_and_their_accounts,
-          advances_with_lines, advance_payments_with_lines, advances_used_up_twice,
-          advance_payments_used_up_twice})
+          advances_with_lines, advance_payments_with_lines})
         add_rows(session, query, findings);
 }
 

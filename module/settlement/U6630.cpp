@@ -23,6 +23,8 @@ TF6630::TF6630(TForm* parent) : SettlementList(parent, receipt_kind) {
                       amount_column("MONEY", "收款金额|本位币", 13),
                       amount_column("MONEY_RS", "其他应收", 10)});
     AdoQry_Main.DefineField("MONEY_RS", FieldType::Amount).DisplayFormat = "";
+    for (TClientDataSet* rows : {&AdoQry_Main, &AdoQry_Line})
+        rows->DefineField("HL", FieldType::Amount); // in its shortest form
     add_head_columns(closing_columns());
     add_line_columns(open_item_columns());
 }

@@ -228,10 +228,14 @@ void TF6630_1::DS2DataChange() {
 
 void TF6630_1::refresh_totals() {
     SettlementForm::refresh_totals();
-    Amount over_receipts;
+    OverReceipts.Caption = over_receipts().to_text();
+}
+
+Amount TF6630_1::over_receipts() const {
+    Amount sum;
     for (const WriteOff& line : write_offs())
-        if (!line.category.empty()) over_receipts += line.share;
-    OverReceipts.Caption = over_receipts.to_text();
+        if (!line.category.empty()) sum += line.share;
+    return sum;
 }
 
 std::vector<AccountShare> TF6630_1::split() const {

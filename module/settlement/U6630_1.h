@@ -51,6 +51,7 @@ protected:
     void check_amounts() override;
     std::string batch_to_save() override;
     void refresh_totals() override;
+    Amount document_shares() const override { return share_sum() - over_receipts(); }
     void Act_SaveExecute() override;
 
 private:
@@ -62,6 +63,7 @@ private:
     void put_on_head_account(); // unless other accounts hold money already
     void set_money(Amount money);
     void set_foreign();
+    Amount over_receipts() const; // of all income categories
     Amount split_sum() const { return cd_jy.Sum("MONEY"); }
     std::vector<AccountShare> split() const;
     CurrencyHead head_to_save() const;

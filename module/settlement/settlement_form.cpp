@@ -299,7 +299,7 @@ void SettlementForm::refresh_totals() {
     const Amount open =
         AdoQry_Main.Sum("TOLMONEY") - AdoQry_Main.Sum("SUMMONEY") - AdoQry_Main.Sum("REMONEY");
     ShareTotal.Caption = shares.to_text();
-    LeftOpen.Caption = writes_off() ? (open - shares).to_text() : "";
+    LeftOpen.Caption = writes_off() ? (open - document_shares()).to_text() : "";
     Difference.Caption = "误差: " + difference.to_text();
     Difference.FontColor = difference.is_zero() ? clDefault : clRed;
     refresh_balance();

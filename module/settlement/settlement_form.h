@@ -74,6 +74,8 @@ protected:
     void spread_over_items();
     void clear_shares();
     virtual void refresh_totals();
+    Amount share_sum() const { return AdoQry_Main.Sum("MONEY"); }
+    virtual Amount document_shares() const { return share_sum(); } // without income
     std::vector<WriteOff> write_offs() const;
     void read_party(); // its name and balances; refuses an unknown one
     void load_open_items();
@@ -95,7 +97,6 @@ private:
     void check_advance();
     std::string why_items_changed() const; // "" while they are as they were listed
     std::string save(const std::string& number, const std::string& batch);
-    Amount share_sum() const { return AdoQry_Main.Sum("MONEY"); }
     std::string party_;         // whose items are listed
     std::string balance_text_;  // of the party
     Amount advance_at_hand_;    // of the party, without this document

@@ -168,6 +168,7 @@ TEST_F(CurrencyReceipt, writes_something_off_and_exactly_what_came_in) {
     expect_not_saved("本单累计收款必须与表格中明细累计收款一致");
     anna.cell(0, "MONEY", "100");
     EXPECT_EQ(anna.value("OverReceipts"), "100.00");
+    EXPECT_EQ(anna.value("LeftOpen"), "8700.00"); // 1000 + 2000 + 7100 - 900 - 500
     EXPECT_EQ(anna.value("Difference"), "误差: 0.00");
     anna.click("Act_Save");
     EXPECT_EQ(document("U1"), "900.00 100.00");

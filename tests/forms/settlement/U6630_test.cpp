@@ -44,6 +44,7 @@ TEST_F(CurrencyReceiptsListed, heads_and_lines_are_read_with_their_currency) {
         "ORDER BY D631.BDATE,D631.NOID";
     EXPECT_NE(std::find(sent.begin(), sent.end(), heads), sent.end());
     EXPECT_EQ(anna.rows()[0].at("HB_NAME"), "RMB");
+    EXPECT_EQ(anna.rows()[0].at("HL"), "1");
     EXPECT_EQ(anna.footer("MONEY"), "100.00");
     const Rows lines = anna.rows("DBGridEhLine");
     ASSERT_EQ(lines.size(), 2u); // the income category stands there too

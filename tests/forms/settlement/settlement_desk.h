@@ -53,7 +53,6 @@ protected:
     std::string document(const std::string& number) { return settled(side.documents, number); }
     void expect_not_saved(const std::string& message);
 
-    std::string findings_expected; // of the audit at the end
     const Side& side;
     Books books;
     Person anna;

@@ -272,9 +272,6 @@ TEST_P(SingleAccount, using_more_than_was_paid_in_advance_turns_the_line_red) {
     books.execute("DELETE FROM SYS_SETTING WHERE NAME='advance_limit'");
     save(); // books that do not forbid it only show it
     EXPECT_EQ(books.value("SELECT YSM FROM V" + side.heads + " WHERE KH_GYS_ID='K1'"), "-100.00");
-    findings_expected = "收付款单金额不符: K1: " +
-                        std::string(side.code == 631 ? "客户预收款用超" : "供应商预付款用超") +
-                        " -100.00\n";
 }
 
 TEST_P(SingleAccount, the_cursor_waits_at_the_party_of_the_next_document) {
