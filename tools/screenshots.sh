@@ -22,6 +22,7 @@ picture ledger --function 685 --key F2 --key Tab --key Down --key Down --key Dow
 picture trial_balance --function 689 --key Tab --key Up --key F2
 picture balance_sheet --function 671 --key F9 --key Down --key Down --key Down --key Down --key Down \
     --key Down --key Right --key Right --key Right
+picture receivables --function 632 --key F2
 # The manual's first month, taken where each step of it stands.
 guide=$folder/guide.zf
 "$program" new "$guide" --company 华新贸易有限公司

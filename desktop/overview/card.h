@@ -88,6 +88,7 @@ public:
         QString what, detail;
         int code = 0;     // 0: nothing to open
         bool warning = false;
+        bool amount = false; // the detail is one
     };
     const std::vector<Item>& items() const { return items_; }
 

@@ -90,6 +90,17 @@ void read_months(Figures& figures, const host::Period& period) {
                  take);
 }
 
+OpenBalances read_open_balances(const std::string& view) {
+    OpenBalances open;
+    for_each_row("SELECT COUNT(*) AS PARTIES,ISNULL(SUM(XJYS),0) AS OWED FROM " + view +
+                     " WHERE XJYS>0",
+                 [&](TClientDataSet& row) {
+                     open.parties = static_cast<int>(row.FieldByName("PARTIES").AsInteger());
+                     open.sum = row.FieldByName("OWED").AsAmount();
+                 });
+    return open;
+}
+
 bool may_open_one_of(std::initializer_list<const char*> functions) {
     for (const char* function : functions)
         if (host::the_host().may({function, "open"})) return true;
@@ -113,6 +124,8 @@ Figures read_figures() {
     figures.may_see_vouchers = may_open_one_of({"661", "662", "663"});
     figures.may_see_money = may_open_one_of({"650", "652", "689", "690"});
     figures.may_see_result = may_open_one_of({"673", "689"});
+    figures.may_see_receivable = may_open_one_of({"632", "633"});
+    figures.may_see_payable = may_open_one_of({"642", "643"});
     try {
         read_period(figures);
         const auto period = host::Period::parse(figures.period);
@@ -123,6 +136,8 @@ Figures read_figures() {
         if (figures.may_see_vouchers) read_vouchers(figures);
         if (figures.may_see_money) read_money(figures, *period);
         if (figures.may_see_result) read_months(figures, *period);
+        if (figures.may_see_receivable) figures.receivable = read_open_balances("VD631");
+        if (figures.may_see_payable) figures.payable = read_open_balances("VD641");
     } catch (const host::DataError& error) {
         figures.trouble = error.what();
     }

@@ -19,6 +19,12 @@ struct MonthResult {
     host::Amount profit;  // income less expense of the month, before it is carried forward
 };
 
+// What stands open with customers, or suppliers; whoever has paid in advance is left out.
+struct OpenBalances {
+    int parties = 0;
+    host::Amount sum;
+};
+
 inline constexpr int months_shown = 12;
 
 // Vouchers count whether posted or not, so the figures are of this moment.
@@ -29,9 +35,11 @@ struct Figures {
     std::vector<std::string> gaps;         // voucher words whose numbers are not continuous
     std::vector<MoneyAccount> money;       // leaf accounts of cash and bank
     std::vector<MonthResult> months;       // of the months_shown up to the period
+    OpenBalances receivable, payable;
     std::string trouble;                   // why there are no figures; "" when there are
     // Figures are shown to those who may open a function that tells them; the others are left out.
     bool may_see_vouchers = true, may_see_money = true, may_see_result = true;
+    bool may_see_receivable = true, may_see_payable = true;
 };
 
 // The current period alone; "" when there is none.

@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "desktop/overview/card.h"
+#include "desktop/theme/amount_text.h"
 #include "desktop/theme/fonts.h"
 #include "desktop/theme/icons.h"
 #include "desktop/theme/text.h"
@@ -12,7 +13,7 @@
 namespace desktop {
 namespace {
 
-constexpr int item_height = 48;
+constexpr int item_height = 43; // five of them
 
 } // namespace
 
@@ -36,10 +37,18 @@ void TodoCard::show_figures(const Figures& figures) {
     for (const MoneyAccount& account : figures.money)
         if (account.closing().is_negative())
             items_.push_back({"triangle-alert", qt(account.name) + QStringLiteral("余额为负"),
-                              amount_of(account.closing()), 661, true});
+                              amount_of(account.closing()), 661, true, true});
     for (const std::string& word : figures.gaps)
         items_.push_back({"triangle-alert", QStringLiteral("凭证号不连续"),
                           qt(word) + QStringLiteral("字有断号"), 661, true});
+    if (figures.receivable.parties > 0)
+        items_.push_back({"arrow-left-right",
+                          QStringLiteral("向 %1 家客户收款").arg(figures.receivable.parties),
+                          amount_of(figures.receivable.sum), 633, false, true});
+    if (figures.payable.parties > 0)
+        items_.push_back({"arrow-left-right",
+                          QStringLiteral("向 %1 家供应商付款").arg(figures.payable.parties),
+                          amount_of(figures.payable.sum), 643, false, true});
     if (figures.gaps.empty() && figures.vouchers > 0)
         items_.push_back({"circle-check", QStringLiteral("凭证号连续"),
                           QStringLiteral("%1 张，无断号").arg(figures.vouchers), 0, false});
@@ -75,9 +84,11 @@ void TodoCard::paint_body(QPainter& painter, const QRect& body) {
         painter.setPen(item.code == 0 ? token::ink_3 : token::ink_1);
         painter.drawText(line.adjusted(42, 0, -16, 0), Qt::AlignVCenter, item.what);
         painter.setFont(fonts::small());
-        painter.setPen(item.detail.startsWith('-') ? token::cinnabar_1 : token::ink_2);
-        painter.drawText(line.adjusted(0, 0, -52, 0), Qt::AlignVCenter | Qt::AlignRight,
-                         item.detail);
+        const QColor detail = item.detail.startsWith('-') ? token::cinnabar_1 : token::ink_2;
+        painter.setPen(detail);
+        const QRect place = line.adjusted(0, 0, -52, 0);
+        if (item.amount) paint_amount(painter, place, item.detail, detail);
+        else painter.drawText(place, Qt::AlignVCenter | Qt::AlignRight, item.detail);
         if (item.code != 0) {
             painter.setFont(fonts::tiny());
             painter.setPen(token::ink_3);

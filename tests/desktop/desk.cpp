@@ -72,6 +72,10 @@ Desk::Desk(std::function<void(int)> open, const std::string& today,
                  {"2016-01", "5768"}, {"2016-02", "-13019"}, {"2016-03", "21782"},
                  {"2016-04", "36270"}, {"2016-05", "42858"}});
     data.answer("SELECT H.PZQJ,SUM", {"PZQJ text", "P money"}, {{"2016-06", "31056"}});
+    const std::string owed = "SELECT COUNT(*) AS PARTIES,ISNULL(SUM(XJYS),0) AS OWED FROM ";
+    const std::vector<std::string> columns = {"PARTIES int", "OWED money"};
+    data.answer(owed + "VD631 WHERE XJYS>0", columns, {{"4", "168340.50"}});
+    data.answer(owed + "VD641 WHERE XJYS>0", columns, {{"2", "96000.00"}});
     desktop::DesktopServices services;
     services.books = [] {
         return desktop::BooksLabel{"苏州嘉禾贸易有限公司", "李敏", "jiahe.db", "本机", "小企业"};

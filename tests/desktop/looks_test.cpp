@@ -4,7 +4,9 @@
 #include "tests/desktop/desk.h"
 #include "tests/desktop/forms.h"
 
+#include "desktop/overview/card.h"
 #include "desktop/overview/figures.h"
+#include "desktop/theme/text.h"
 #include "desktop/theme/tokens.h"
 
 namespace tests {
@@ -38,6 +40,21 @@ TEST(Looks, the_overview_tells_the_results_of_twelve_months_the_open_one_last) {
     EXPECT_TRUE(std::any_of(queries.begin(), queries.end(), [](const std::string& query) {
         return query.find("B.QJ>='2015-07' AND B.QJ<'2016-06'") != std::string::npos;
     }));
+}
+
+TEST(Looks, the_overview_tells_what_customers_owe_and_what_suppliers_wait_for) {
+    Desk desk;
+    std::vector<std::string> told;
+    for (const QWidget* part : desk.window().findChildren<QWidget*>())
+        if (const auto* todo = dynamic_cast<const desktop::TodoCard*>(part))
+            for (const auto& item : todo->items())
+                told.push_back(desktop::utf8(item.what + " " + item.detail) +
+                               std::to_string(item.code));
+    const auto has = [&](const std::string& text) {
+        return std::find(told.begin(), told.end(), text) != told.end();
+    };
+    EXPECT_TRUE(has("向 4 家客户收款 168340.50633")) << testing::PrintToString(told);
+    EXPECT_TRUE(has("向 2 家供应商付款 96000.00643")) << testing::PrintToString(told);
 }
 
 TEST(Looks, a_voucher_is_drawn_as_its_paper_form) {

@@ -42,6 +42,11 @@ TEST(DesktopRights, figures_are_read_only_for_those_who_may_open_a_function_that
     const desktop::Figures cash = desktop::read_figures();
     EXPECT_EQ(cash.money.size(), 3u);
     EXPECT_TRUE(cash.months.empty());
+    EXPECT_EQ(cash.receivable.parties, 0);
+    host::the_host().may = [](const host::Right& right) { return right.function == "642"; };
+    const desktop::Figures payable = desktop::read_figures();
+    EXPECT_EQ(payable.payable.parties, 2);
+    EXPECT_EQ(payable.receivable.parties, 0);
 }
 
 TEST(DesktopRights, a_function_that_may_not_be_opened_is_pale) {

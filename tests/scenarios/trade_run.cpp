@@ -268,7 +268,12 @@ void TradeRun::delete_settlement(Ledger& ledger) {
     std::vector<NaiveSettlement>& all = ledger.trade.settlements;
     if (all.empty()) return;
     const std::size_t chosen = any(all.size());
-    if (!select(ledger.side->settlement_code, all[chosen].number)) return;
+    const NaiveSettlement& one = all[chosen];
+    // An advance that was used stays, or more would be used up than there was.
+    if (one.purpose == NaiveSettlement::advance &&
+        ledger.trade.advance_at_hand(one.party) < one.paid)
+        return;
+    if (!select(ledger.side->settlement_code, one.number)) return;
     anna_.answer_next(true);
     anna_.click("Act_Delete");
     EXPECT_NE(anna_.next_message().find("确定要删除"), std::string::npos);

@@ -225,9 +225,9 @@ TEST_F(PartyFigures, a_document_kept_here_is_shown_and_cannot_be_changed) {
 
 TEST_F(PartyFigures, a_document_deleted_meanwhile_is_told_of) {
     ask(632, "2024-03-01", "2024-03-31");
-    books.execute("DELETE FROM D631 WHERE NOID='K2'");
-    anna.double_click(5, "NOID");
-    EXPECT_NE(anna.next_message().find("K2"), std::string::npos);
+    books.execute("DELETE FROM D631 WHERE NOID='K3'");
+    anna.double_click(6, "NOID");
+    EXPECT_NE(anna.next_message().find("K3"), std::string::npos);
     anna.expect_active("TF6632");
 }
 
