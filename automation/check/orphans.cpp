@@ -15,14 +15,18 @@ struct Reference {
     const char* says;
     const char* where = nullptr;
     const char* where_says = "";
+    const char* may_be = nullptr; // the rows that refer to nothing by right
 };
+
+// A line of a voucher that is a remark has neither account nor amount.
+constexpr const char* remark = "A.KM_ID = '' AND A.J = 0 AND A.D = 0";
 
 constexpr Reference references[] = {
     {"D6601A", "NOID", "D6601", "NOID", "分录没有凭证头"},
-    {"D6601A", "KM_ID", "D6801", "KM_ID", "分录的科目不存在", "NOID", "凭证"},
+    {"D6601A", "KM_ID", "D6801", "KM_ID", "分录的科目不存在", "NOID", "凭证", remark},
     {"D6601B", "NOID", "D6601", "NOID", "现金流量分配没有凭证"},
     {"D6601B", "D6820ID", "D6820", "ID", "现金流量分配的项目不存在", "NOID", "凭证"},
-    {"D6601M", "KM_ID", "D6801", "KM_ID", "凭证模板的科目不存在", "NOID", "模板"},
+    {"D6601M", "KM_ID", "D6801", "KM_ID", "凭证模板的科目不存在", "NOID", "模板", remark},
     {"D6602", "KM_ID", "D6801", "KM_ID", "余额的科目不存在", "QJ", "期间"},
     {"D6601", "USER_ID", "SYS_USER", "USER_ID", "凭证的制单人不存在", "NOID", "凭证"},
     {"D6804", "KM_ID", "D6801", "KM_ID", "收支类别的科目不存在", "SZLB", "类别"},
@@ -47,17 +51,18 @@ std::string query_of(const Reference& reference) {
     if (reference.where)
         place = ", '(" + std::string(reference.where_says) + " ' + CAST(A." + reference.where +
                 " AS nvarchar(50)) + ')'";
+    const std::string but =
+        reference.may_be ? " AND NOT (" + std::string(reference.may_be) + ")" : "";
     return "SELECT DISTINCT '" + std::string(reference.says) + ":', " + column + place + " FROM " +
-           reference.table + " A WHERE " + column +
-           " IS NOT NULL AND NOT EXISTS (SELECT * FROM " + reference.target + " B WHERE B." +
-           reference.key + " = " + column + ") ORDER BY " + column;
+           reference.table + " A WHERE " + column + " IS NOT NULL AND NOT EXISTS (SELECT * FROM " +
+           reference.target + " B WHERE B." + reference.key + " = " + column + ")" + but +
+           " ORDER BY " + column;
 }
 
 } // namespace
 
 void check_orphans(engines::Session& session, Findings& findings) {
-    for (const Reference& reference : references)
-        add_rows(session, query_of(reference), findings);
+    for (const Reference& reference : references) add_rows(session, query_of(reference), findings);
     add_rows(session, "SELECT '未完成的删除:', NOID FROM SYS_6601_GONE", findings);
 }
 

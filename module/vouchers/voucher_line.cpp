@@ -44,4 +44,14 @@ std::optional<LineRefusal> why_not_saved(const std::vector<VoucherLine>& lines) 
     return std::nullopt;
 }
 
+std::vector<VoucherLine> lines_to_save(const std::vector<VoucherLine>& lines) {
+    std::vector<VoucherLine> kept;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const bool repeats = i > 0 && lines[i].summary == lines[i - 1].summary;
+        const bool remark = lines[i].has_summary() && !repeats;
+        if (lines[i].is_booked() || remark) kept.push_back(lines[i]);
+    }
+    return kept;
+}
+
 } // namespace module

@@ -21,8 +21,8 @@ struct VoucherLine {
     bool has_summary() const { return !trimmed(summary).empty(); }
     bool has_account() const { return !trimmed(account).empty(); }
     bool has_amount() const { return !debit.is_zero() || !credit.is_zero(); }
-    // A line that was only begun (a summary and nothing else) or never named stays out of the
-    // books.
+    // Moves an account, or means to: a line without a summary stays out of the books, and a summary
+    // alone is a remark.
     bool is_booked() const { return has_summary() && (has_account() || has_amount()); }
 };
 
@@ -35,5 +35,9 @@ struct LineRefusal {
 //
 //     {"收货款", "1002", 100, 0}, {"收货款", "1131", 0, 99.99}   →   借贷不平衡!
 std::optional<LineRefusal> why_not_saved(const std::vector<VoucherLine>& lines);
+
+// The lines with a summary, remarks among them. A summary that only repeats the line above is none:
+// Enter puts it into the line that the bookkeeper did not go on with.
+std::vector<VoucherLine> lines_to_save(const std::vector<VoucherLine>& lines);
 
 } // namespace module

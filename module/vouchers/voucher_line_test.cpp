@@ -54,7 +54,7 @@ std::vector<Attempt> attempts() {
         {"an amount with summary needs an account",
          {debit, credit, line("运费", "", "5", "0"), line("运费", "", "0", "5")},
          "第 3 行没有科目!请录入科目代号,或删除该行。"},
-        {"a summary alone is a line only begun", {debit, credit, line("运费", "", "0", "0")}, ""},
+        {"a summary alone is a remark", {debit, credit, line("运费", "", "0", "0")}, ""},
     };
 }
 
@@ -65,7 +65,18 @@ TEST(VoucherLine, decides_whether_a_voucher_is_saved) {
     }
 }
 
-TEST(VoucherLine, only_begun_or_unnamed_lines_stay_out_of_the_books) {
+TEST(VoucherLine, lines_without_a_summary_and_summaries_only_repeated_are_not_saved) {
+    const std::vector<VoucherLine> lines = {
+        line("收货款", "1002", "100", "0"), line("  ", "", "0", "0"),
+        line("收货款", "1131", "0", "100"), line("收货款", "", "0", "0"), // by Enter
+        line("见合同 12 号", "", "0", "0"), line("", "", "7", "0"),
+    };
+    std::string kept;
+    for (const VoucherLine& one : lines_to_save(lines)) kept += one.summary + one.account + ";";
+    EXPECT_EQ(kept, "收货款1002;收货款1131;见合同 12 号;");
+}
+
+TEST(VoucherLine, remarks_and_unnamed_lines_move_no_account) {
     EXPECT_TRUE(line("收货款", "1002", "100", "0").is_booked());
     EXPECT_FALSE(line("收货款", "", "0", "0").is_booked());
     EXPECT_FALSE(line("  ", "", "100", "0").is_booked());

@@ -37,8 +37,7 @@ std::string insert_voucher_head(const VoucherHead& head) {
 std::string insert_voucher_lines(const std::string& key, const std::vector<VoucherLine>& lines) {
     std::string batch;
     int order = 0;
-    for (const VoucherLine& line : lines) {
-        if (!line.is_booked()) continue;
+    for (const VoucherLine& line : lines_to_save(lines)) {
         batch += "INSERT INTO D6601A (NOID, ZY, KM_ID, J, D, INX)  VALUES (" + quoted(key) + "," +
                  quoted(line.summary) + "," + quoted(line.account) + "," +
                  quoted(FormatAmount(line.debit)) + "," + quoted(FormatAmount(line.credit)) + "," +

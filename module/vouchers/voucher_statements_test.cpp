@@ -23,6 +23,12 @@ TEST(VoucherStatements, booked_lines_are_numbered_from_zero_without_gaps) {
         "'              0.00','           1234.50',1);");
 }
 
+TEST(VoucherStatements, a_remark_is_saved_without_account_and_amount) {
+    EXPECT_EQ(insert_voucher_lines("K", {{"见合同", "", {}, {}}}),
+              "INSERT INTO D6601A (NOID, ZY, KM_ID, J, D, INX)  VALUES ('K','见合同','',"
+              "'              0.00','              0.00',0);");
+}
+
 TEST(VoucherStatements, quotes_and_semicolons_in_a_summary_stay_text) {
     const std::vector<VoucherLine> lines = {{"O'Brien; delete", "1002", *Amount::parse("1"), {}}};
     EXPECT_NE(insert_voucher_lines("K", lines).find("'O''Brien; delete'"), std::string::npos);

@@ -47,6 +47,16 @@ TEST_F(Check, an_account_that_the_chart_does_not_hold) {
     EXPECT_TRUE(finds("孤立的记录", "分录的科目不存在: 9999 (凭证 2024-03记003)")) << findings();
 }
 
+TEST_F(Check, a_line_without_an_account_unless_it_is_a_remark) {
+    const std::string line = "INSERT INTO D6601A (NOID, ZY, KM_ID, J, D, INX) VALUES "
+                             "('2024-03记003','见合同','',";
+    const std::string before = findings();
+    damage(line + "0,0,7)");
+    EXPECT_EQ(findings(), before);
+    damage(line + "1,1,8)");
+    EXPECT_TRUE(finds("孤立的记录", "分录的科目不存在:  (凭证 2024-03记003)")) << findings();
+}
+
 TEST_F(Check, a_movement_changed_by_a_cent) {
     damage("UPDATE D6602 SET J = J + 0.01 WHERE QJ='2024-03' AND INX=0 AND KM_ID='5502'");
     EXPECT_TRUE(finds("发生额与凭证不符", "2024-03 5502: 余额表 借 30.01")) << findings();

@@ -79,10 +79,23 @@ TEST_F(VoucherSaving, lines_without_summary_and_account_are_left_out) {
     EXPECT_EQ(last_batch(), saved_head("2024-03记009", "9") + saved_lines("2024-03记009"));
 }
 
-TEST_F(VoucherSaving, a_summary_alone_is_not_a_line) {
+TEST_F(VoucherSaving, a_summary_alone_is_saved_as_a_remark) {
     new_voucher();
     type_balanced_lines();
     anna->cell(2, "ZY", "运费");
+    anna->click("Act_Save");
+    EXPECT_EQ(last_batch(),
+              saved_head("2024-03记009", "9") + saved_lines("2024-03记009") +
+                  "INSERT INTO D6601A (NOID, ZY, KM_ID, J, D, INX)  VALUES ('2024-03记009','运费',"
+                  "'','              0.00','              0.00',2);");
+}
+
+TEST_F(VoucherSaving, a_summary_that_enter_repeated_is_no_remark) {
+    new_voucher();
+    type_balanced_lines();
+    anna->cell(2, "ZY", "");
+    anna->key("Enter", "DBGridEh");
+    EXPECT_EQ(anna->rows()[2].at("ZY"), anna->rows()[1].at("ZY"));
     anna->click("Act_Save");
     EXPECT_EQ(last_batch(), saved_head("2024-03记009", "9") + saved_lines("2024-03记009"));
 }

@@ -46,6 +46,14 @@ TEST_F(VoucherLedger, a_number_taken_by_hand_is_stored_unpadded_under_a_padded_k
     EXPECT_EQ(books.value("SELECT COUNT(*) FROM D6601"), "1");
 }
 
+TEST_F(VoucherLedger, a_line_of_a_summary_alone_is_kept_as_a_remark) {
+    new_voucher();
+    anna.line(2, {{"ZY", "见合同 12 号"}});
+    save_voucher("1001", "1002", "100");
+    EXPECT_EQ(books.value("SELECT ZY FROM D6601A WHERE KM_ID='' AND J=0 AND D=0 AND INX=2"),
+              "见合同 12 号");
+}
+
 TEST_F(VoucherLedger, a_changed_voucher_keeps_its_number_and_only_its_new_lines) {
     new_voucher();
     anna.line(2, {{"ZY", "手续费"}, {"KM_ID", "1131"}, {"J", "5"}});
