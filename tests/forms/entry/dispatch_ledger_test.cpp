@@ -38,7 +38,7 @@ const Opened* form_of(int code) {
     return nullptr;
 }
 
-bool closed_for_now(const json& answer, int code) {
+bool has_no_form(const json& answer, int code) {
     const json told = {{{"text", "模块暂不开放!" + std::to_string(code)}, {"kind", 5}}};
     return answer.at("messages") == told;
 }
@@ -66,7 +66,7 @@ TEST_F(DispatchLedger, every_code_opens_its_form_or_says_that_it_has_none) {
         const Opened* expected = form_of(code);
         const json answer = anna.request({{"op", "open"}, {"code", code}});
         anna.forget_messages();
-        if (closed_for_now(answer, code)) {
+        if (has_no_form(answer, code)) {
             EXPECT_TRUE(answer.at("active").is_null());
             EXPECT_EQ(expected, nullptr) << "has a form";
             continue;
