@@ -67,7 +67,23 @@ void FormDialog::leave() {
     follow();
 }
 
+// In a small window the grid gives up rows, down to three: what stands below it must be seen.
+void FormDialog::give_up_rows(int room) {
+    int excess = sizeHint().expandedTo(minimumSize()).height() - room;
+    if (excess <= 0) return;
+    setMinimumHeight(std::min(minimumHeight(), room));
+    for (auto* grid : view_->findChildren<QTableView*>("grid")) {
+        const int least = token::header + 3 * token::grid_row;
+        const int given = std::clamp(grid->minimumHeight() - least, 0, excess);
+        grid->setMinimumHeight(grid->minimumHeight() - given);
+        excess -= given;
+    }
+    layout()->activate();
+    setMaximumHeight(std::max(room, layout()->minimumSize().height()));
+}
+
 void FormDialog::showEvent(QShowEvent* event) {
+    if (parentWidget()) give_up_rows(parentWidget()->window()->height());
     PanelDialog::showEvent(event);
     QTimer::singleShot(0, view_, [this] {
         view_->setFocus();

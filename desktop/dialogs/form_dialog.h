@@ -26,6 +26,7 @@ protected:
 
 private:
     void follow();
+    void give_up_rows(int room);
     FormView* view_;
 };
 

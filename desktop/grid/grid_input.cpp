@@ -91,7 +91,7 @@ void GridView::offer() {
         popup_->hide();
         return;
     }
-    popup_->offer(offered_, qt(grid_->edit_text()), *editor_);
+    popup_->offer(offered_, {}, qt(grid_->edit_text()), *editor_);
 }
 
 bool GridView::take_suggestion(int index) {

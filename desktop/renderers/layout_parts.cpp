@@ -68,6 +68,17 @@ void fit_label(const LayoutNode& node, QWidget& widget, const LayoutPlace& place
     if (place.label_height > 0) widget.setMinimumHeight(place.label_height);
 }
 
+// A text that comes and goes in the room between others stands before what follows it, and keeps
+// that room while it is hidden: nothing else moves.
+void fill_gap(QWidget& widget) {
+    auto* text = qobject_cast<QLabel*>(&widget);
+    if (text == nullptr) return;
+    text->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    policy.setRetainSizeWhenHidden(true);
+    text->setSizePolicy(policy);
+}
+
 QWidget* draw_in_place(const LayoutNode& node, const LayoutPlace& place) {
     const bool formula = place.formula && node.width < 0;
     place.view.set_label_look(formula       ? LabelLook::Formula
@@ -110,7 +121,10 @@ void add_field(const LayoutNode& node, QBoxLayout& box, const LayoutPlace& place
 void add_control(const LayoutNode& node, QBoxLayout& box, const LayoutPlace& place) {
     QWidget* widget = draw_in_place(node, place);
     if (!place.in_rows) {
-        box.addWidget(widget, node.width < 0 ? 1 : 0, Qt::AlignVCenter);
+        if (node.width < 0) fill_gap(*widget);
+        // Aligned in a cell of its own size, a widget would not fill it.
+        const bool fills = node.width < 0 && qobject_cast<QLabel*>(widget);
+        box.addWidget(widget, node.width < 0 ? 1 : 0, fills ? Qt::Alignment() : Qt::AlignVCenter);
         return;
     }
     // A text that is hidden leaves no gap where it would stand.

@@ -10,6 +10,15 @@
 #include "host/contract/U_linkedit.h"
 
 namespace desktop {
+namespace {
+
+// A code field offers codes with their names; a field of free text, the texts themselves.
+std::vector<std::string> titles_of(const std::vector<host::Suggestion>& offered) {
+    if (offered.front().cells.size() != 2) return {};
+    return {"代码", "名称"};
+}
+
+} // namespace
 
 // The edit has handed its text to the control before it is told here that it was edited.
 LinkSuggestions::LinkSuggestions(FieldEdit& widget, host::TLinkEdit& edit, FormView& view)
@@ -31,7 +40,7 @@ void LinkSuggestions::offer() {
         view_.run([&] { offered_ = edit_.OnSuggest(typed); });
     if (!alive || !popup_) return;
     if (!view_.form() || offered_.empty() || !widget_.hasFocus()) return popup_->hide();
-    popup_->offer(offered_, qt(typed), widget_);
+    popup_->offer(offered_, titles_of(offered_), qt(typed), widget_);
 }
 
 void LinkSuggestions::take(int index) {

@@ -15,7 +15,7 @@
 namespace desktop {
 namespace {
 
-constexpr int row = 28, hint = 26, most_rows = 10;
+constexpr int row = 28, title = 24, hint = 26, most_rows = 10;
 
 QString hint_text() {
     return QStringLiteral("↑↓ 选择    Enter 填入    Esc 关闭");
@@ -33,18 +33,29 @@ int SuggestionPopup::shown() const {
     return std::min<int>(static_cast<int>(rows_.size()), most_rows);
 }
 
+int SuggestionPopup::rows_top() const { return titles_.empty() ? 1 : 1 + title; }
+
+// The balance is the last of several columns; a code in front is digits too.
+bool SuggestionPopup::is_amount(std::size_t column, const QString& text) const {
+    return column >= 2 && column + 1 == widths_.size() && looks_like_amount(text);
+}
+
 // The text of most bytes is about the widest; measuring each would cost more than finding them.
 int SuggestionPopup::width_of(std::size_t column) const {
     std::string longest;
     for (const auto& entry : rows_)
         if (column < entry.cells.size() && entry.cells[column].size() > longest.size())
             longest = entry.cells[column];
+    if (column < titles_.size() && titles_[column].size() > longest.size())
+        longest = titles_[column];
     return QFontMetrics(fonts::body(true)).horizontalAdvance(qt(longest)) + 8;
 }
 
-void SuggestionPopup::offer(const std::vector<host::Suggestion>& rows, const QString& typed,
+void SuggestionPopup::offer(const std::vector<host::Suggestion>& rows,
+                            const std::vector<std::string>& titles, const QString& typed,
                             QWidget& edit) {
     rows_ = rows;
+    titles_ = titles;
     typed_ = typed;
     top_ = 0;
     widths_.clear();
@@ -57,7 +68,8 @@ void SuggestionPopup::offer(const std::vector<host::Suggestion>& rows, const QSt
     }
     choose_first();
     keep_in_sight();
-    stand_beside(edit, QSize(std::max({width, edit.width(), 320}), shown() * row + hint + 2));
+    stand_beside(edit, QSize(std::max({width, edit.width(), 320}),
+                             rows_top() + shown() * row + hint + 1));
     show();
     raise();
     update();
@@ -153,8 +165,7 @@ void SuggestionPopup::paint_row(QPainter& painter, int index, const QRect& box) 
     for (std::size_t i = 0; i < cells.size(); ++i) {
         const QString text = qt(cells[i]);
         const QRect cell(x, box.y(), widths_[i], box.height());
-        // The balance is the last of several columns; a code in front is digits too.
-        if (i >= 2 && i + 1 == cells.size() && looks_like_amount(text)) {
+        if (is_amount(i, text)) {
             painter.setFont(fonts::body());
             paint_amount(painter, cell, text,
                          current ? QColor(Qt::white) : amount_color(text, token::ink_1));
@@ -165,12 +176,30 @@ void SuggestionPopup::paint_row(QPainter& painter, int index, const QRect& box) 
     }
 }
 
+// A title stands on the side on which its column stands.
+void SuggestionPopup::paint_titles(QPainter& painter) const {
+    if (titles_.empty()) return;
+    painter.fillRect(1, title, width() - 2, 1, token::rule_1);
+    painter.setFont(fonts::small());
+    painter.setPen(token::ink_3);
+    const auto& first = rows_.front().cells;
+    int x = 11;
+    for (std::size_t i = 0; i < widths_.size() && i < titles_.size(); ++i) {
+        const bool right = i < first.size() && is_amount(i, qt(first[i]));
+        painter.drawText(QRect(x, 1, widths_[i], title - 1),
+                         Qt::AlignVCenter | (right ? Qt::AlignRight : Qt::AlignLeft),
+                         qt(titles_[i]));
+        x += widths_[i] + 16;
+    }
+}
+
 void SuggestionPopup::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), token::paper_0);
+    paint_titles(painter);
     for (int i = 0; i < shown(); ++i)
-        paint_row(painter, top_ + i, QRect(1, 1 + i * row, width() - 2, row));
-    const QRect below(1, 1 + shown() * row, width() - 2, hint);
+        paint_row(painter, top_ + i, QRect(1, rows_top() + i * row, width() - 2, row));
+    const QRect below(1, rows_top() + shown() * row, width() - 2, hint);
     painter.fillRect(below, token::paper_1);
     painter.fillRect(below.left(), below.top(), below.width(), 1, token::rule_1);
     painter.setFont(fonts::small());
@@ -183,9 +212,10 @@ void SuggestionPopup::paintEvent(QPaintEvent*) {
 }
 
 void SuggestionPopup::mousePressEvent(QMouseEvent* event) {
-    const int index = top_ + (event->position().toPoint().y() - 1) / row;
+    const int below_titles = event->position().toPoint().y() - rows_top();
+    const int index = top_ + below_titles / row;
     event->accept();
-    if (index < static_cast<int>(rows_.size()) && on_chosen) on_chosen(index);
+    if (below_titles >= 0 && index < static_cast<int>(rows_.size()) && on_chosen) on_chosen(index);
 }
 
 void SuggestionPopup::wheelEvent(QWheelEvent* event) {

@@ -19,7 +19,9 @@ public:
     // wanted (rows with a key) the row that says what was typed, else the first, is chosen at once.
     // A free text stays until the person moves into the list; so does a number that is not the
     // whole code of any row: it may stand for a branch of the chart, and no account is guessed.
-    void offer(const std::vector<host::Suggestion>& rows, const QString& typed, QWidget& edit);
+    // titles: of the columns, over the first row; none for lists that say enough themselves.
+    void offer(const std::vector<host::Suggestion>& rows, const std::vector<std::string>& titles,
+               const QString& typed, QWidget& edit);
     int current() const { return current_; } // the chosen row; -1 while none is
     // Enter and Tab take the chosen row; taking it is the owner's.
     bool chosen_by(const host::Key& key) const;
@@ -33,13 +35,17 @@ protected:
 
 private:
     int shown() const;
+    int rows_top() const; // below the titles
+    bool is_amount(std::size_t column, const QString& text) const;
     void choose_first();
     void stand_beside(QWidget& edit, QSize size);
     int width_of(std::size_t column) const;
+    void paint_titles(QPainter& painter) const;
     void paint_row(QPainter& painter, int index, const QRect& row) const;
     void paint_match(QPainter& painter, const QRect& box, const QString& text, bool current) const;
     void keep_in_sight();
     std::vector<host::Suggestion> rows_;
+    std::vector<std::string> titles_;
     std::vector<int> widths_;
     QString typed_;
     int current_ = -1, top_ = 0;

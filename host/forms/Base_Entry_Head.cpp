@@ -37,6 +37,7 @@ TFrm_Base_Entry_Head::TFrm_Base_Entry_Head(TForm* parent) : TFrm_Base_Panel(pare
     DBGridEhLine.ReadOnly = true;
     DBGridEhLine.OnDblClick = [this] { DBGridEhDblClick(); };
     AdoQry_Main.AfterScroll = [this] { LoadLines(); };
+    Act_Modify.ShortCut = "Enter"; // which the grid hands to the double click
     layout = Rows({ToolBar({&Act_Add, &Act_CopyAdd, &Act_Modify, &Act_Delete, nullptr, &Act_Audit,
                             &Act_UnAudit, nullptr, &Act_Locate, &Act_Refresh, nullptr, &Act_Print,
                             &Act_Preview, &Act_Export, nullptr, &Act_Quit}),

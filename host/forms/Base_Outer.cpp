@@ -10,6 +10,13 @@ TFrm_Base_Outer::TFrm_Base_Outer(TForm* parent) : TFrm_Base_Panel(parent) {
     hide({&Act_Save, &Act_Locate, &Act_Other});
     DBGridEh.ReadOnly = true;
     SearchBox.OnChange = [this] { narrow(); };
+    // Enter goes on from what was typed to the rows that it left.
+    SearchBox.OnKeyDown = [this](Key& key) {
+        if (key.code != KeyCode::Enter || key.ctrl || key.alt || key.shift) return;
+        key = {};
+        SetFocusTo(DBGridEh);
+    };
+    Act_Modify.ShortCut = "Enter"; // which the grid hands to the double click
     layout = Rows({ToolBar({&Act_Add, &Act_CopyAdd, &Act_Modify, &Act_Delete, nullptr, &Act_Refresh,
                             nullptr, &Act_Print, &Act_Preview, &Act_Export, nullptr, &Act_Quit}),
                    Columns({Field("", SearchBox, 24), Spring()}), Rest(DBGridEh)});

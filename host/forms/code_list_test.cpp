@@ -98,6 +98,21 @@ TEST_F(CodeList, a_field_never_entered_is_checked_too) {
     EXPECT_TRUE(desk.data.executed().empty());
 }
 
+TEST_F(CodeList, enter_goes_from_the_search_to_the_rows_and_there_changes_one) {
+    EXPECT_EQ(list.Act_Modify.ShortCut, "Enter") << "as the tool bar says";
+    list.SearchBox.SetFocus();
+    tests::type(list, "s");
+    tests::press(list, "Enter");
+    EXPECT_TRUE(list.DBGridEh.focused());
+    bool changed = false;
+    desk.ui.inside.push_back([&](TForm& form) {
+        changed = list.dialog.Word.Text.get() == "收";
+        tests::press(form, "Esc");
+    });
+    tests::press(list, "Enter");
+    EXPECT_TRUE(changed);
+}
+
 TEST_F(CodeList, changing_locks_the_key_and_esc_asks_only_about_changes) {
     desk.ui.inside.push_back([&](TForm& form) {
         EXPECT_TRUE(list.dialog.Word.ReadOnly);

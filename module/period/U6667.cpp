@@ -88,9 +88,9 @@ TF6667::TF6667(TForm* parent) : TFrm_Base_Dialog(parent) {
 void TF6667::build_layout() {
     layout = Rows(
         {Columns({Field("凭证日期", bdate, 14), Control(DateHint), Spring()}),
-         Field("凭证摘要", Edit1, 40), Text("5801         以前年度损益调整"),
-         Field("会计科目", KM_ID, 18), Rest(DBGridEh),
-         Columns({Control(Totals), Spring(), Control(Made)}), Rule(),
+         Columns({Field("凭证摘要", Edit1, 40), Spring()}),
+         Columns({Field("会计科目", KM_ID, 18), Text("5801         以前年度损益调整"), Spring()}),
+         Rest(DBGridEh), Columns({Control(Totals), Spring(), Control(Made)}), Rule(),
          Text("1、损益类科目的余额结转到“本年利润”，其中“以前年度损益调整”属于“利润分配”。"),
          Text("2、在开始结转本期损益之前，应当将所有的凭证过帐，否则可能会出现不正确的结果。"),
          Buttons({&btn_ok, &btn_Cancel})});

@@ -33,7 +33,7 @@ LayoutNode voucher_layout(TF6661_1& form) {
          Columns({Field("凭证字", form.PZZ, 6), Field("号", form.PZZ_H, 6), Spring(),
                   Rows({Title("记帐凭证"),
                         Columns({Spring(), Text("第"), Control(form.PZQJ), Text("期"), Spring()})}),
-                  Spring(), Control(form.DateHint), Field("日期", form.BDATE, 12),
+                  Control(form.DateHint, -1), Field("日期", form.BDATE, 12),
                   Field("附单据(张)", form.PZZ_Z, 5)}),
          Control(form.LockReason), Rest(form.DBGridEh),
          Columns({Text("制单人:"), Control(form.USER_ID), Space(3), Text("审核"),

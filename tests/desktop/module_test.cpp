@@ -4,8 +4,10 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
+#include <QTableView>
 
 #include "desktop/theme/text.h"
+#include "desktop/theme/tokens.h"
 #include "host/contract/U_glo.h"
 #include "host/controls/grid.h"
 #include "host/forms/form.h"
@@ -96,6 +98,11 @@ struct BooksDesk : Desk {
         return form ? form->ClassName() : "";
     }
 };
+
+void answer_balance(BooksDesk& desk, const std::string& account) {
+    desk.data.answer("SELECT DBO.FASC(0,'2024-03','" + account + "','" + account + "') AS A",
+                     {"A money"}, {{"100"}});
+}
 
 TEST(ModuleForms, a_voucher_is_typed_from_the_menu_to_the_books_without_the_mouse) {
     BooksDesk desk;
@@ -377,6 +384,59 @@ TEST(ModuleForms, profit_is_carried_forward_without_the_mouse) {
     EXPECT_EQ(desk.messages, std::vector<std::string>());
     ASSERT_EQ(desk.data.executed().size(), 1u);
     EXPECT_TRUE(host::the_host().modal.empty());
+}
+
+TEST(ModuleForms, the_carry_forward_fits_into_a_small_window_with_all_it_says) {
+    BooksDesk desk;
+    std::vector<FakeData::Cells> accounts;
+    for (int code = 5101; code < 5131; ++code) {
+        const std::string text = std::to_string(code);
+        accounts.push_back({text, "科目" + text, "3131", "本年利润", "贷", "0.00"});
+        answer_balance(desk, text);
+    }
+    desk.data.answer("SELECT KM_ID AS A1",
+                     {"A1 text", "A2 text", "A3 text", "A4 text", "FX text", "E money"}, accounts);
+    for (const int height : {600, 520}) {
+        desk.window().setMinimumHeight(height);
+        desk.window().resize(960, height);
+        desk.when_modal([&desk, height] {
+            desk.settle();
+            const QWidget* dialog = QApplication::activeModalWidget();
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_LE(dialog->height(), height);
+            const QWidget* grid = dialog->findChild<QTableView*>("grid");
+            ASSERT_NE(grid, nullptr);
+            EXPECT_GE(grid->height(), desktop::token::header + 3 * desktop::token::grid_row);
+            EXPECT_LT(grid->mapTo(dialog, QPoint(0, grid->height())).y(), height - 150)
+                << "totals, two sentences and the buttons stand below";
+            desk.keep("667_" + std::to_string(height));
+            desk.keys({"Esc"});
+        });
+        desk.keys({"Ctrl+G", "6", "6", "7", "Enter"});
+        EXPECT_TRUE(host::the_host().modal.empty());
+    }
+}
+
+TEST(ModuleForms, a_voucher_dated_outside_its_period_says_so_and_moves_nothing) {
+    BooksDesk desk;
+    desk.keys({"Ctrl+G", "6", "6", "1", "Enter", "Insert"});
+    host::TForm& form = *host::the_host().active;
+    auto& date = dynamic_cast<host::TDateEdit&>(*form.FindComponent("BDATE"));
+    const auto place_of = [&desk](const char* name) {
+        for (QWidget* widget : desk.window().findChildren<QWidget*>())
+            if (widget->isVisible() && widget->accessibleName() == QString::fromUtf8(name))
+                return widget->mapTo(&desk.window(), QPoint());
+        return QPoint(-1, -1);
+    };
+    const QPoint title = place_of("记帐凭证"), day = place_of("BDATE");
+    ASSERT_NE(title, QPoint(-1, -1));
+    ASSERT_NE(day, QPoint(-1, -1));
+    date.enter_text("2024-04-01");
+    desk.settle();
+    desk.keep("661_1_other_period");
+    EXPECT_TRUE(dynamic_cast<host::TLabel&>(*form.FindComponent("DateHint")).Visible);
+    EXPECT_EQ(place_of("记帐凭证"), title);
+    EXPECT_EQ(place_of("BDATE"), day);
 }
 
 TEST(ModuleForms, the_trial_balance_asks_for_its_period_and_shows_it) {

@@ -85,7 +85,9 @@ TEST(Suggestions, a_row_is_taken_by_the_mouse) {
     desk.work([&] {
         desk.type("100");
         ASSERT_NE(list_shown(), nullptr);
-        QTest::mouseClick(list_shown(), Qt::LeftButton, {}, QPoint(20, 1 + 28 + 14));
+        QTest::mouseClick(list_shown(), Qt::LeftButton, {}, QPoint(20, 1 + 12)); // the titles
+        EXPECT_EQ(desk.account(), "100|");
+        QTest::mouseClick(list_shown(), Qt::LeftButton, {}, QPoint(20, 1 + 24 + 28 + 14));
         EXPECT_EQ(desk.form.ActiveControl(), &desk.form.Account);
     });
     EXPECT_EQ(desk.account(), "1002|银行存款");
