@@ -116,6 +116,43 @@ TEST_F(LedgerReports, the_detailed_ledger_of_an_account_runs_its_balance) {
             "||本年累计||300.00|100.00|借|550.00|1001|现金|-1|");
 }
 
+// The dialog asks for months of one year; a statement typed in may ask for more.
+TEST_F(LedgerReports, a_detailed_ledger_across_the_years_sums_each_year_by_itself) {
+    const auto next = [this](int periods) {
+        for (int i = 0; i < periods; ++i) {
+            close_period();
+            post();
+        }
+    };
+    next(9);
+    voucher(1, {{"1001", "7.00", "0.00"}, {"3101", "0.00", "7.00"}});
+    post();
+    next(1);
+    voucher(1, {{"550109", "2.00", "0.00"}, {"1001", "0.00", "2.00"}});
+    post();
+    next(1);
+    voucher(1, {{"1001", "4.00", "0.00"}, {"3101", "0.00", "4.00"}});
+    post();
+    const std::string cash = "EXEC SYS_685 @P_year='2024-11',@p_show='1',@KM_ID1='1001',"
+                             "@KM_ID2='1001',@P_month2='2025-02',@P_month1=";
+    EXPECT_EQ(rows(cash + "'2024-12'"),
+              "||期初余额||||借|550.00|1001|现金|-1|\n"
+              "2024-12-15 00:00:00.000|记-1|摘要||7.00|0.00|借|557.00|1001|现金|0|2024-12记001\n"
+              "||本期合计||7.00|0.00|借|557.00|1001|现金|-1|\n"
+              "||本年累计||307.00|100.00|借|557.00|1001|现金|-1|\n"
+              "2025-01-15 00:00:00.000|记-1|摘要||0.00|2.00|借|555.00|1001|现金|1|2025-01记001\n"
+              "||本期合计||0.00|2.00|借|555.00|1001|现金|-1|\n"
+              "||本年累计||0.00|2.00|借|555.00|1001|现金|-1|\n"
+              "2025-02-15 00:00:00.000|记-1|摘要||4.00|0.00|借|559.00|1001|现金|0|2025-02记001\n"
+              "||本期合计||4.00|0.00|借|559.00|1001|现金|-1|\n"
+              "||本年累计||4.00|2.00|借|559.00|1001|现金|-1|");
+    // The opening, the lines of March, December and the two months, two sums for each of 12 months.
+    EXPECT_EQ(automation::rows_of(*session_, cash + "'2024-03'").size(), 1U + 3 + 3 + 2 * 12);
+    EXPECT_EQ(rows(cash + "'2025-02'").find("上年结转"), std::string::npos);
+    EXPECT_NE(rows(cash + "'2025-01'").find("||上年结转||||借|557.00|"),
+              std::string::npos);
+}
+
 TEST_F(LedgerReports, one_account_brings_the_lines_of_everything_below_it) {
     EXPECT_EQ(rows("EXEC SYS_685 @P_year='2024-02',@p_show='0',@KM_ID1='5501',@p_xj=1," + march),
               "||期初余额||||平|0.00|5501|营业费用|-1|\n"
