@@ -27,12 +27,12 @@ TF6630_1::TF6630_1(TForm* parent)
     for (MoneyEdit* amount : {&MONEY, &yh, &MONEY_RS}) amount->Visible = false;
     AccountHint.FontColor = clRed;
     OfferCodes(HB_ID, "SELECT HB_ID,HB_NAME,PYM FROM D1013 ORDER BY HB_ID");
-    define_amounts({"TOLSMONEY", "TOLMONEY", "YSW", "YSB", "SUMMONEY", "REMONEY", "MONEY"});
-    AdoQry_Main.DefineField("HL", FieldType::Amount);
-    AdoQry_Main.DefineField("SZLB", FieldType::Text);
     for (const char* text : {"JY_ID", "JY_NAME"}) cd_jy.DefineField(text, FieldType::Text);
     cd_jy.DefineField("MONEY", FieldType::Amount).DisplayFormat = "0.00";
     cd_jy.Open();
+    define_amounts({"TOLSMONEY", "TOLMONEY", "YSW", "YSB", "SUMMONEY", "REMONEY", "MONEY"});
+    AdoQry_Main.DefineField("HL", FieldType::Amount);
+    AdoQry_Main.DefineField("SZLB", FieldType::Text);
     DBGridEh.Columns = open_item_columns();
     Accounts.Columns = account_columns();
     Accounts.AppendOnEnter = false;
@@ -226,9 +226,16 @@ void TF6630_1::DS2DataChange() {
                               : "预收、退款整笔记入收款帐户，不按上表分帐户";
 }
 
+// The statements leave the order open among the categories, which have no day.
+void TF6630_1::items_loaded() {
+    AdoQry_Main.SortBy("BDATE,SZLB", false);
+    AdoQry_Main.First();
+}
+
 void TF6630_1::refresh_totals() {
     SettlementForm::refresh_totals();
     OverReceipts.Caption = over_receipts().to_text();
+    DS2DataChange();
 }
 
 Amount TF6630_1::over_receipts() const {

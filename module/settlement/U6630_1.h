@@ -50,6 +50,7 @@ protected:
     Amount money_moved() const override { return MONEY.value(); }
     void check_amounts() override;
     std::string batch_to_save() override;
+    void items_loaded() override;
     void refresh_totals() override;
     Amount document_shares() const override { return share_sum() - over_receipts(); }
     void Act_SaveExecute() override;

@@ -35,6 +35,7 @@ SettlementForm::SettlementForm(TForm* parent, const SettlementKind& kind, Number
     Act_Refresh.Visible = true;
     hide({&Act_AddLine, &Act_DeleteLine}); // open items come from the books alone
     DBGridEh.AppendOnEnter = false;
+    DBGridEh.OnTitleClick = [](int) {}; // money is spread in the order shown: the oldest first
     bind_trade_code(*this, JY_ID, money_accounts);
     offer_trade_codes(KH_GYS_ID, kind.party);
     bind_events();
@@ -83,6 +84,7 @@ void SettlementForm::OpenNoid(const std::string& key) {
     if (AdoQry_Head.IsEmpty()) refuse("单据 " + key + " 已不存在，请按 F5 刷新!");
     opensql(AdoQry_Main, FunctionCode, lines);
     opened_.remember(AdoQry_Head, AdoQry_Main, head, lines);
+    items_loaded();
     Tfrm_Base_Entry_Body::OpenNoid(key);
 }
 
@@ -203,8 +205,12 @@ bool SettlementForm::writes_off_at(int purpose) {
 
 void SettlementForm::load_open_items() {
     DBGridEh.cancel_edit();
-    if (writes_off()) opensql(AdoQry_Main, FunctionCode, open_items_query(party_));
-    else AdoQry_Main.EmptyDataSet();
+    if (writes_off()) {
+        opensql(AdoQry_Main, FunctionCode, open_items_query(party_));
+        items_loaded();
+    } else {
+        AdoQry_Main.EmptyDataSet();
+    }
     refresh_lines_access();
     refresh_totals();
 }
@@ -228,6 +234,21 @@ void SettlementForm::SetFloatText(TField& field, const std::string& typed) {
     AdoQry_Main.Edit();
     Tfrm_Base_Entry_Body::SetFloatText(field, typed);
     field.SetValue(field.AsAmount().rounded(2)); // a blank counts as nothing
+}
+
+// Nothing forbids to write off more than is open; it does not go unseen.
+void SettlementForm::DBGridEhColorLine(TField& field, CellParams& params) {
+    if (field.FieldName != "MONEY" || !writes_off()) return;
+    const auto amount = [this](const char* name) {
+        return AdoQry_Main.FieldByName(name).AsAmount();
+    };
+    const OpenItem item{amount("TOLMONEY"), amount("SUMMONEY"), amount("REMONEY")};
+    const Amount share = field.AsAmount(), open = item.open();
+    const bool too_much = item.total > Amount() ? share > open
+                                                : item.total < Amount() && share < open;
+    if (!too_much) return;
+    params.Font = clRed;
+    params.Bold = true;
 }
 
 void SettlementForm::spread_over_items() {

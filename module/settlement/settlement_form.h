@@ -36,7 +36,6 @@ public:
     // What the user does.
     void Edit1Exit();           // number left: empty or taken gives way to a fresh one
     void KH_GYS_IDExit();       // party left: its balances and open items are read
-    void KH_GYS_IDButtonClick(); // picks the party
     void CB1Change();           // advances and their refunds write nothing off
     void Act_ClearExecute();    // nothing is written off
 
@@ -46,6 +45,7 @@ public:
     bool AllCheck() override;
     void SaveData() override;
     void SetFloatText(TField& field, const std::string& typed) override;
+    void DBGridEhColorLine(TField& field, CellParams& params) override; // more than is open
 
 protected:
     SettlementForm(TForm* parent, const SettlementKind& kind, NumberSeries numbers);
@@ -65,6 +65,7 @@ protected:
     void Act_SaveExecute() override;
     void Act_OtherExecute() override;   // the money is spread anew
     void Act_RefreshExecute() override; // the party's open items are read anew
+    virtual void items_loaded() {}  // into the grid, from a query
     virtual void prepare_advance(); // before an advance is saved: one row with the whole amount
 
     Purpose purpose() const { return static_cast<Purpose>(CB1.item_index()); }

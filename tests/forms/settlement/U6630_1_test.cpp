@@ -57,6 +57,25 @@ TEST_F(CurrencyReceipt, income_categories_stand_before_the_items_and_nothing_is_
                      "销货单 USD 1000.00 7100.00 0.00;");
 }
 
+TEST_F(CurrencyReceipt, income_categories_stand_by_their_codes) {
+    books.execute("INSERT INTO D6804 (SZLB_CLASS,SZLB,SZLB_NAME,KM_ID) VALUES "
+                  "(0,'00','罚款','5102')");
+    const auto categories = [this] {
+        std::string codes;
+        for (const Row& row : anna.rows()) codes += row.at("SZLB") + " ";
+        return codes;
+    };
+    new_document("K2");
+    EXPECT_EQ(categories(), "00 01 02    ");
+    on_account(0, "1000");
+    save();
+    anna.click("Act_Modify");
+    EXPECT_EQ(categories(), "00 01 02  ");
+    anna.set("PH", "改");
+    anna.click("Act_Save");
+    EXPECT_EQ(books.value("SELECT PH FROM D631"), "改");
+}
+
 TEST_F(CurrencyReceipt, the_columns_in_their_order) {
     new_document();
     EXPECT_EQ(columns(true),
@@ -231,9 +250,10 @@ TEST_F(CurrencyReceipt, income_alone_writes_no_document_off) {
 
 TEST_F(CurrencyReceipt, an_advance_keeps_the_head_alone_and_says_which_account_takes_it) {
     new_document("K2");
+    on_account(1, "700");
+    EXPECT_EQ(anna.value("AccountHint"), "");
     anna.set("CB1", "预收款");
     EXPECT_EQ(anna.row_count(), 0);
-    on_account(1, "700");
     EXPECT_EQ(anna.value("AccountHint"), "预收、退款整笔记入收款帐户，不按上表分帐户");
     anna.set("JY_ID", "2");
     EXPECT_EQ(anna.value("AccountHint"), "");

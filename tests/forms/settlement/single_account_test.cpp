@@ -143,6 +143,15 @@ TEST_P(SingleAccount, lines_changed_by_hand_can_be_spread_anew_or_cleared) {
     EXPECT_EQ(anna.value("Difference"), "误差: 1500.00");
 }
 
+TEST_P(SingleAccount, more_than_is_open_is_shown_in_red) {
+    new_document();
+    EXPECT_TRUE(anna.colors(0).is_null() || !anna.colors(0).contains("MONEY"));
+    anna.cell(0, "MONEY", "3600.01");
+    EXPECT_EQ(anna.colors(0)["MONEY"]["font"], host::clRed);
+    anna.cell(0, "MONEY", "3600");
+    EXPECT_TRUE(anna.colors(0).is_null() || !anna.colors(0).contains("MONEY"));
+}
+
 // ---- checking ----
 
 TEST_P(SingleAccount, an_amount_has_the_sign_of_what_is_owed) {
