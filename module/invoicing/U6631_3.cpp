@@ -133,6 +133,17 @@ void TF6631_3::RefreshData() {
     SetTabTitle(Caption.get() + " " + Edit1.Text.get());
 }
 
+// The number is there already: who types all day begins with the party.
+void TF6631_3::FormShow() {
+    Tfrm_Base_Entry_Body::FormShow();
+    go_to_first_field();
+}
+
+void TF6631_3::go_to_first_field() {
+    const bool begins = Mode == "Add" || Mode == "CopyAdd";
+    if (begins && KH_GYS_ID.usable()) SetFocusTo(KH_GYS_ID);
+}
+
 void TF6631_3::begin_new() {
     for (TLinkEdit* field : {&KH_GYS_ID, &SEND_ID, &YW_ID}) {
         field->Text = "";
@@ -371,6 +382,11 @@ InvoiceHead TF6631_3::head_to_save() const {
 }
 
 // ---- saving ----
+
+void TF6631_3::Act_SaveExecute() {
+    Tfrm_Base_Entry_Body::Act_SaveExecute();
+    if (!Closed()) go_to_first_field();
+}
 
 void TF6631_3::SaveData() {
     const InvoiceHead head = head_to_save();

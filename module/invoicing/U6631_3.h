@@ -49,6 +49,8 @@ public:
     void SetFloatText(TField& field, const std::string& typed) override;
 
 protected:
+    void FormShow() override;
+    void Act_SaveExecute() override;
     void Act_PrintExecute() override;
     void Act_PreviewExecute() override;
     void Act_OtherExecute() override; // opens an earlier document to be changed
@@ -60,6 +62,7 @@ private:
     void build_layout();
     void read_options();
     void begin_new();
+    void go_to_first_field();
     void show_stored_head();
     void read_customer(const std::string& code);
     void pick_order();

@@ -138,6 +138,16 @@ void OtherDocument::RefreshData() {
     SetTabTitle(Caption.get() + " " + Edit1.Text.get());
 }
 
+// The number is there already: who types all day begins with the party.
+void OtherDocument::FormShow() {
+    Tfrm_Base_Entry_Body::FormShow();
+    go_to_first_field();
+}
+
+void OtherDocument::go_to_first_field() {
+    if (new_document() && KH_GYS_ID.usable()) SetFocusTo(KH_GYS_ID);
+}
+
 void OtherDocument::begin_new() {
     opensql(AdoQry_Main, FunctionCode, select_blank_lines(kind_));
     for (TLinkEdit* field : {&KH_GYS_ID, &NOTE, &YW_ID, &BM_ID}) {
@@ -320,6 +330,11 @@ std::string OtherDocument::lines_to_save() const {
 }
 
 // ---- saving ----
+
+void OtherDocument::Act_SaveExecute() {
+    Tfrm_Base_Entry_Body::Act_SaveExecute();
+    if (!Closed()) go_to_first_field();
+}
 
 void OtherDocument::SaveData() {
     const std::string lines = lines_to_save();

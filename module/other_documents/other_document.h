@@ -44,7 +44,9 @@ public:
     void SetFloatText(TField& field, const std::string& typed) override; // amount of a line
 
 protected:
+    void FormShow() override;
     void FormKeyPress(char32_t& character) override;
+    void Act_SaveExecute() override;
 
 private:
     // This form's own rules.
@@ -52,6 +54,7 @@ private:
     void build_layout();
     void bind_events();
     void begin_new();
+    void go_to_first_field();
     void show_stored_head();
     void lock_what_stays();
     void lock_category_where_set();

@@ -42,6 +42,7 @@ TEST_F(OtherReceipt, begins_with_every_income_category_a_number_cash_and_today) 
     EXPECT_EQ(rows[1].at("SZLB_NAME"), "罚款收入");
     EXPECT_EQ(rows[1].at("MONEY"), "0.00");
     EXPECT_FALSE(anna.enabled("Act_Save"));
+    EXPECT_EQ(anna.focused(), "KH_GYS_ID");
 }
 
 TEST_F(OtherReceipt, settled_at_once_is_written_with_its_total_settled_and_without_empty_lines) {
@@ -63,6 +64,7 @@ TEST_F(OtherReceipt, settled_at_once_is_written_with_its_total_settled_and_witho
     EXPECT_EQ(documents("D651"), number + " 0 57.65 57.65 0.00 2");
     EXPECT_EQ(anna.value("Edit1"), "646240315002"); // ready for the next
     EXPECT_EQ(anna.value("KH_GYS_ID"), "");
+    EXPECT_EQ(anna.focused(), "KH_GYS_ID");
 }
 
 TEST_F(OtherReceipt, left_open_lies_on_account_0_whatever_account_is_shown) {
