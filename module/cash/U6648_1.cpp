@@ -164,7 +164,7 @@ BankTransfer TF6648_1::entered() const {
             .date = BDATE.value().to_text(),
             .paying = trimmed(JY_ID_FK.Text.get()),
             .receiving = trimmed(JY_ID_SK.Text.get()),
-            .amount = MONEY.value().to_text(2),
+            .amount = MONEY.sent_text(),
             .summary = EDIT2.Text,
             .staff = trimmed(YW_ID.Text.get()),
             .department = trimmed(BM_ID.Text.get()),
@@ -214,8 +214,8 @@ Sheet TF6648_1::slip() const {
     const auto name = [](const TLinkEdit& edit) {
         return edit.Text.get() + " " + edit.DisplayName.get();
     };
-    const std::vector<std::string> cells = {name(JY_ID_FK), name(JY_ID_SK), MONEY.Text.get(),
-                                            EDIT2.Text.get()};
+    const std::vector<std::string> cells = {name(JY_ID_FK), name(JY_ID_SK),
+                                            MONEY.value().to_text(2), EDIT2.Text.get()};
     Sheet sheet;
     sheet.title = Caption;
     sheet.conditions = {"单号：" + Edit1.Text.get() + "    日期：" + BDATE.Text.get(),

@@ -3,6 +3,7 @@
 
 #include "host/forms/Base_Detail.h"
 #include "module/host_names.h"
+#include "module/trade/money_edit.h"
 
 namespace host {
 struct Sheet;
@@ -19,7 +20,7 @@ public:
     TDateEdit BDATE{this, "BDATE", "日期"};
     TLinkEdit JY_ID_FK{this, "JY_ID_FK", "付款帐户"}; // account that pays
     TLinkEdit JY_ID_SK{this, "JY_ID_SK", "收款帐户"}; // account that receives
-    TNumberEdit MONEY{this, "MONEY", "金    额", 2};
+    MoneyEdit MONEY{this, "MONEY", "金    额"};
     TLinkEdit EDIT2{this, "EDIT2", "摘    要"};       // summary, from the common ones or typed
     TLinkEdit YW_ID{this, "YW_ID", "经 手 人"};       // member of the staff
     TLinkEdit BM_ID{this, "BM_ID", "部门"};           // department

@@ -7,7 +7,7 @@
 
 namespace module {
 
-// A row of D653 as a person enters it. The amount is plain text with two decimals: "1000.00".
+// A row of D653 as a person enters it. The amount is sent as it was typed: "1000", "12.30".
 struct BankTransfer {
     std::string number, date;      // "648240305001", "2024-03-05"
     std::string paying, receiving; // codes of money accounts

@@ -7,9 +7,9 @@
 #include "host/forms/Base_Entry_Body.h"
 #include "module/host_names.h"
 #include "module/settlement/code_name.h"
-#include "module/settlement/money_edit.h"
 #include "module/settlement/settlement_kind.h"
 #include "module/settlement/write_off.h"
+#include "module/trade/money_edit.h"
 #include "module/trade/opened_document.h"
 
 namespace module {

@@ -61,7 +61,7 @@ TEST(CashForms, a_deposit_is_typed_from_the_menu_to_the_books_without_the_mouse)
     ASSERT_EQ(desk.data.executed().size(), 2U); // the number, then the document
     EXPECT_EQ(desk.data.executed().back().batch,
               "insert into D653 (NOID, BDATE, JY_ID_FK, JY_ID_SK, MONEY, ZY, YW_ID, BM_ID, USER_ID)"
-              "ValueS('648240315001','2024-03-15','1','2','1000.00','存现金','','','anna')");
+              "ValueS('648240315001','2024-03-15','1','2','1000','存现金','','','anna')");
     EXPECT_EQ(desk.active(), "TF6648");
 }
 

@@ -1,5 +1,5 @@
 // The field of an amount in the head of a document.
-#include "module/settlement/money_edit.h"
+#include "module/trade/money_edit.h"
 
 #include <algorithm>
 
