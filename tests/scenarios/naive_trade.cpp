@@ -18,10 +18,12 @@ Cents NaiveTrade::open(const NaiveItem& item) const {
     return item.total - item.credited - settled(item);
 }
 
-std::vector<NaiveShare> NaiveTrade::offered(const std::string& party) const {
+std::vector<NaiveShare> NaiveTrade::offered(const std::string& party, bool with_returns) const {
     std::vector<const NaiveItem*> found;
     for (const NaiveItem& item : items)
-        if (item.party == party && open(item) > 0) found.push_back(&item);
+        if (item.party == party && open(item) > 0 &&
+            (with_returns || item.kind != NaiveItem::goods_back))
+            found.push_back(&item);
     std::sort(found.begin(), found.end(), [](const NaiveItem* a, const NaiveItem* b) {
         return std::tie(a->date, a->kind, a->number) < std::tie(b->date, b->kind, b->number);
     });
@@ -32,9 +34,10 @@ std::vector<NaiveShare> NaiveTrade::offered(const std::string& party) const {
     return shares;
 }
 
-std::vector<NaiveShare> NaiveTrade::spread(const std::string& party, Cents money) const {
+std::vector<NaiveShare> NaiveTrade::spread(const std::string& party, Cents money,
+                                           bool with_returns) const {
     std::vector<NaiveShare> shares;
-    for (const NaiveShare& item : offered(party)) {
+    for (const NaiveShare& item : offered(party, with_returns)) {
         const Cents taken = money == 0 ? 0 : std::min(item.amount, money);
         if (taken != 0) shares.push_back({item.item, taken});
         money -= taken;

@@ -31,6 +31,7 @@ struct NaiveSettlement {
     int purpose = settles;
     Cents paid = 0, discount = 0;
     std::vector<NaiveShare> shares;
+    std::map<std::string, Cents> split; // by money account; empty: all of it on the one above
 };
 
 // Opening, new, settled (discounts in it) and closing of a range of days.
@@ -49,10 +50,11 @@ public:
     Cents open(const NaiveItem& item) const;
 
     // Everything open with a party, the oldest first, as signed amounts.
-    std::vector<NaiveShare> offered(const std::string& party) const;
+    std::vector<NaiveShare> offered(const std::string& party, bool with_returns = true) const;
     // Money over what is offered: each item takes what it can. What came back takes its whole
     // negative amount while there is money left, and so leaves more for those after it.
-    std::vector<NaiveShare> spread(const std::string& party, Cents money) const;
+    std::vector<NaiveShare> spread(const std::string& party, Cents money,
+                                   bool with_returns = true) const;
 
     Cents owed(const std::string& party) const;          // 应收
     Cents advance_at_hand(const std::string& party) const; // 预收

@@ -1,4 +1,5 @@
 // Random trade, kept by the program's forms and by plain addition, agrees to the cent.
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -15,7 +16,7 @@ unsigned number_from(const char* name, unsigned otherwise) {
     return text == nullptr ? otherwise : static_cast<unsigned>(std::atoi(text));
 }
 
-constexpr unsigned usual_books = 6;
+constexpr unsigned usual_books = 10;
 constexpr int acts = 60;
 
 } // namespace
@@ -43,8 +44,33 @@ TEST(RandomTrade, settles_balances_and_moves_money_as_plain_addition_does) {
     for (const auto& [name, times] : sum.acts) std::cout << "  " << times << " " << name << "\n";
     EXPECT_GT(sum.figures, 0u);
     if (count >= usual_books) { // enough for each kind of act to have had its chance
-        EXPECT_EQ(sum.acts.size(), 18u);
+        EXPECT_EQ(sum.acts.size(), 22u);
     }
+}
+
+// ---- the test itself
+
+// How many differences are told once the books were changed past the forms.
+int differences_after(const std::string& damage) {
+    TradeRun run(7);
+    for (int act = 0; act < 10; ++act) run.step();
+    run.books().execute(damage);
+    testing::TestPartResultArray told;
+    const testing::ScopedFakeTestPartResultReporter reporter(
+        testing::ScopedFakeTestPartResultReporter::INTERCEPT_ALL_THREADS, &told);
+    run.compare_both_sides();
+    run.compare_reports();
+    return told.size();
+}
+
+TEST(RandomTrade, a_cent_that_the_books_hold_otherwise_is_found) {
+    EXPECT_EQ(differences_after(""), 0);
+    for (const char* damage : {"UPDATE D8102 SET YSMONEY=YSMONEY+0.01 WHERE NOID='初P1'",
+                               "UPDATE D8202 SET SUMMONEY=SUMMONEY-0.01 WHERE NOID='初P1'",
+                               "UPDATE D1010 SET BEGIN_MONEY=0.01 WHERE JY_ID='3'",
+                               "INSERT INTO D641 (NOID,KH_GYS_ID,JY_ID,JY_KM,MONEY,MONEY_SS,BDATE,"
+                               "USER_ID) VALUES ('X','P1','1',1,0.01,0.01,'2024-03-01','admin')"})
+        EXPECT_GT(differences_after(damage), 0) << damage;
 }
 
 // ---- the plain addition itself, on figures worked out by hand

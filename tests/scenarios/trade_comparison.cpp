@@ -29,6 +29,10 @@ void TradeRun::compare(const Ledger& ledger) {
     }
 }
 
+void TradeRun::compare_both_sides() {
+    for (const Ledger* ledger : {&sales_, &purchases_}) compare(*ledger);
+}
+
 void TradeRun::compare_items(const Ledger& ledger) {
     std::map<std::string, Row> stored;
     const TradeSide& side = *ledger.side;
@@ -86,8 +90,11 @@ Cents TradeRun::money_before(const std::string& account, const std::string& day)
         if (one.account == account && one.date < day) sum += one.moved;
     for (const Ledger* ledger : {&sales_, &purchases_})
         for (const NaiveSettlement& one : ledger->trade.settlements) {
-            if (one.account != account || one.date >= day) continue;
-            const Cents moved = ledger->side->money_direction * one.paid;
+            if (one.date >= day) continue;
+            const auto share = one.split.find(account);
+            if (one.split.empty() ? one.account != account : share == one.split.end()) continue;
+            const Cents moved = ledger->side->money_direction *
+                                (one.split.empty() ? one.paid : share->second);
             if (one.purpose == NaiveSettlement::refund) sum -= moved;
             else if (one.purpose != NaiveSettlement::set_off) sum += moved;
         }

@@ -25,6 +25,11 @@ std::string beginning() {
     std::string batch =
         "INSERT INTO D1010 (JY_ID,JY_NAME,BEGIN_MONEY) VALUES ('2','工行',1000),('3','建行',0);"
         "INSERT INTO D1101 (YW_ID,YW_NAME) VALUES ('1','王强');"
+        "INSERT INTO D1007 (CK_ID,CK_NAME) VALUES ('1','总仓');"
+        "INSERT INTO D1011 (SEND_ID,SEND_NAME) VALUES ('1','自提');"
+        "INSERT INTO D1003 (DW_ID,DW_NAME) VALUES ('1','台');"
+        "INSERT INTO D1801 (WL_ID,WL_NAME) VALUES ('W1','电视机'),('W2','电风扇');"
+        "INSERT INTO D1801DW (WL_ID,DW_ID) VALUES ('W1','1'),('W2','1');"
         "INSERT INTO D6804 (SZLB_CLASS,SZLB,SZLB_NAME,KM_ID) VALUES (0,'01','租金','5102'),"
         "(0,'02','利息','550302'),(1,'21','运费','550101'),(1,'22','罚款','560102');";
     for (const TradeSide* side : {&sales_side, &purchase_side})
@@ -34,7 +39,7 @@ std::string beginning() {
                  " (NOID,C,KH_GYS_ID,BDATE,USER_ID,TOLMONEY,YSMONEY) VALUES "
                  "('初P1',2,'P1','2023-12-31','admin',500,500),"
                  "('预P2',3,'P2','2023-12-31','admin',200,200);";
-    return batch;
+    return batch + "UPDATE D1102 SET SEND_ID='1';";
 }
 
 std::vector<NaiveShare> in_order(std::vector<NaiveShare> shares) {
@@ -79,7 +84,7 @@ std::string TradeRun::day() {
 
 void TradeRun::step() {
     Ledger& ledger = once_in(2) ? sales_ : purchases_;
-    switch (any(16)) {
+    switch (any(18)) {
     case 0: case 1: case 2: deliver(ledger); break;
     case 3: take_back(ledger); break;
     case 4: enter_other(ledger, true); break;
@@ -91,9 +96,11 @@ void TradeRun::step() {
     case 12: change_settlement(ledger); break;
     case 13: delete_settlement(ledger); break;
     case 14: once_in(2) ? delete_other(ledger) : settle_too_much(ledger); break;
-    case 15: transfer();
+    case 15: transfer(); break;
+    case 16: invoice(); break;
+    case 17: receive_split();
     }
-    compare(ledger);
+    compare_both_sides();
 }
 
 // ---- goods ----
@@ -108,6 +115,43 @@ void TradeRun::deliver(Ledger& ledger) {
                    money(sale.total - sale.credited) + ");");
     ledger.trade.items.push_back(sale);
     ++count_.acts["goods delivered"];
+}
+
+void TradeRun::invoice() {
+    NaiveItem sale{"", party(), day(), NaiveItem::sale, 0, 0};
+    NaiveSettlement at_once{.party = sale.party, .date = sale.date, .account = "1"};
+    anna_.open(631);
+    anna_.click("Act_Invoice");
+    anna_.set("KH_GYS_ID", sale.party);
+    anna_.set("CK_ID", "1");
+    anna_.set("BDATE", sale.date);
+    const char* const goods[] = {"W1", "W2"};
+    const int lines = once_in(2) ? 2 : 1;
+    for (int line = 0; line < lines; ++line) {
+        const Cents pieces = amount(20), price = amount(9999);
+        sale.total += pieces * price;
+        anna_.line(line, {{"WL_ID", goods[line]},
+                          {"SL", std::to_string(pieces)},
+                          {"SJ", money(price)}});
+    }
+    if (once_in(2)) {
+        const Cents whole = once_in(2) ? sale.total : amount(sale.total);
+        at_once.discount = once_in(3) ? amount(whole) - 1 : 0;
+        at_once.paid = whole - at_once.discount;
+        anna_.set("BQMONEY", money(at_once.paid));
+        anna_.set("YHMONEY", money(at_once.discount));
+    }
+    sale.number = anna_.value("Edit1");
+    anna_.click("Act_Save");
+    anna_.close();
+    anna_.close();
+    sales_.trade.items.push_back(sale);
+    ++count_.acts["invoices"];
+    if (at_once.paid + at_once.discount == 0) return;
+    at_once.number = sale.number + "SYS";
+    at_once.shares = {{sale.number, at_once.paid + at_once.discount}};
+    sales_.trade.settlements.push_back(at_once);
+    ++count_.acts["invoices paid at once"];
 }
 
 // Set against what is owed, or paid back in money at once.
@@ -231,12 +275,49 @@ void TradeRun::settle_too_much(Ledger& ledger) {
     ++count_.acts["settlements of too much refused"];
 }
 
+// The second income category takes what is paid beyond all that is owed.
+void TradeRun::receive_split() {
+    NaiveSettlement receipt{.party = party(), .date = day(), .account = account()};
+    NaiveTrade& trade = sales_.trade;
+    const Cents owed = sum_of(trade.offered(receipt.party, false));
+    if (owed <= 0) return;
+    const Cents over = once_in(2) ? amount(5000) : 0;
+    receipt.paid = over > 0 ? owed + over : amount(owed);
+    receipt.shares = trade.spread(receipt.party, receipt.paid, false);
+    const Cents first = amount(receipt.paid);
+    receipt.split["2"] = first;
+    if (receipt.paid > first) receipt.split["3"] = receipt.paid - first;
+    anna_.open(630);
+    anna_.click("Act_Add");
+    anna_.set("KH_GYS_ID", receipt.party);
+    anna_.set("BDATE", receipt.date);
+    anna_.set("JY_ID", receipt.account);
+    const Rows accounts = anna_.rows("cd_jy");
+    for (std::size_t row = 0; row < accounts.size(); ++row)
+        if (const auto share = receipt.split.find(accounts[row].at("JY_ID"));
+            share != receipt.split.end())
+            anna_.cell(static_cast<int>(row), "MONEY", money(share->second), "cd_jy");
+    if (over > 0) anna_.cell(1, "MONEY", money(over));
+    receipt.number = anna_.value("Edit1");
+    anna_.click("Act_Save");
+    anna_.close();
+    anna_.close();
+    EXPECT_EQ(stored_shares(sales_, receipt.number), in_order(receipt.shares));
+    EXPECT_EQ(books_.value("SELECT ISNULL(SUM(MONEY),0.00) FROM D651A WHERE D631NOID='" +
+                           receipt.number + "'"),
+              money(over));
+    trade.settlements.push_back(receipt);
+    ++count_.acts[over > 0 ? "receipts of more than is owed" : "receipts split over accounts"];
+}
+
 // Of a settlement that is changed the documents are the ones it had: less money is spread over them
 // anew, no document takes more than stood open, and nothing else moves.
 void TradeRun::change_settlement(Ledger& ledger) {
     std::vector<NaiveSettlement*> found;
     for (NaiveSettlement& one : ledger.trade.settlements)
-        if (one.purpose == NaiveSettlement::settles && one.paid > 1) found.push_back(&one);
+        if (one.purpose == NaiveSettlement::settles && one.paid > 1 && one.split.empty() &&
+            !one.number.ends_with("SYS"))
+            found.push_back(&one);
     if (found.empty()) return;
     NaiveSettlement& settlement = *found[any(found.size())];
     if (!select(ledger.side->settlement_code, settlement.number)) return;
@@ -273,6 +354,7 @@ void TradeRun::delete_settlement(Ledger& ledger) {
     if (one.purpose == NaiveSettlement::advance &&
         ledger.trade.advance_at_hand(one.party) < one.paid)
         return;
+    if (one.number.ends_with("SYS")) return; // changed and deleted with its invoice
     if (!select(ledger.side->settlement_code, one.number)) return;
     anna_.answer_next(true);
     anna_.click("Act_Delete");

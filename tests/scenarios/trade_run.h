@@ -36,9 +36,12 @@ public:
     explicit TradeRun(std::uint32_t seed);
     // Carries out one act and compares; what differs is a failure of the test.
     void step();
+    // Settlement columns and open balances of both sides.
+    void compare_both_sides();
     // All reports over random ranges of days, and the audit of the books.
     void compare_reports();
     const TradeCount& count() const { return count_; }
+    Books& books() { return books_; }
 
 private:
     struct Ledger {
@@ -52,10 +55,12 @@ private:
 
     // Acts.
     void deliver(Ledger& ledger);
+    void invoice(); // goods for a customer, some of them paid at once
     void take_back(Ledger& ledger);
     void enter_other(Ledger& ledger, bool open);
     void settle(Ledger& ledger, int purpose);
     void settle_too_much(Ledger& ledger);
+    void receive_split(); // over several accounts, sometimes more than is owed
     void change_settlement(Ledger& ledger);
     void delete_settlement(Ledger& ledger);
     void delete_other(Ledger& ledger);
