@@ -63,7 +63,7 @@ std::vector<Sitting> sittings_of(const Story& story, const TradeStory& trade,
         const std::vector<TradeDocument> documents = teller.documents_of(month);
         const std::string name = month.period.to_text();
         Sitting sitting{month.period.last_day(), "正在录入" + name + "的单据和凭证",
-                        typed_documents(documents), goods_documents(story, trade, documents),
+                        typed_documents(story, trade, documents), goods_documents(documents),
                         &month};
         for (json& request : typed_month(month)) sitting.requests.push_back(std::move(request));
         sittings.push_back(std::move(sitting));

@@ -1,7 +1,6 @@
 // Statements of the trade's master data and of the documents of goods.
 #include "app/demo/trade_tables.h"
 
-#include <algorithm>
 #include <map>
 
 #include "host/values/sql_text.h"
@@ -13,9 +12,8 @@ namespace {
 using host::Amount;
 using host::quoted;
 
-constexpr const char* warehouse = "01";
 constexpr const char* piece = "01"; // unit of all goods
-constexpr int tax_percent = 13;
+constexpr const char* route = "01";
 
 // "INSERT INTO D1008 (BM_ID,BM_NAME) VALUES ('01','门市部');"
 std::string inserted(const std::string& table, const std::string& columns,
@@ -34,6 +32,7 @@ Amount opening_of(const Story& story, const std::string& account) {
 
 std::string goods_masters(const TradeStory& trade) {
     std::string batch = inserted("D1007", "CK_ID,CK_NAME", {warehouse, "总仓"}) +
+                        inserted("D1011", "SEND_ID,SEND_NAME", {route, "自备车送货"}) +
                         inserted("D1003", "DW_ID,DW_NAME", {piece, "台"});
     for (const StoryGood& good : trade.goods)
         batch += inserted("D1801", "WL_ID,WL_NAME,WL_GG", {good.code, good.name, good.model}) +
@@ -41,7 +40,7 @@ std::string goods_masters(const TradeStory& trade) {
     return batch;
 }
 
-// 202240105001: function, day, number of the day.
+// 212240105001: function, day, number of the day.
 class DayNumbers {
 public:
     std::string next(const std::string& function, host::Date day) {
@@ -56,32 +55,6 @@ private:
     std::map<std::string, int> last_;
 };
 
-// Each line with its tax; the last one takes what rounding left of the total.
-std::string sale_lines(const Story& story, const TradeStory& trade, const TradeDocument& sale,
-                       const std::string& number) {
-    std::string batch;
-    Amount left = sale.amount;
-    for (std::size_t i = 0; i < sale.goods.size(); ++i) {
-        const auto& [key, net] = sale.goods[i];
-        const auto good = std::find_if(trade.goods.begin(), trade.goods.end(),
-                                       [&](const StoryGood& one) { return one.product == key; });
-        const auto product =
-            std::find_if(story.products.begin(), story.products.end(),
-                         [&](const StoryProduct& one) { return one.key == key; });
-        const Amount taxed = net.times(100 + tax_percent, 100);
-        const Amount total = i + 1 == sale.goods.size() ? left : taxed;
-        const Amount pieces = net.times(Amount::scale, product->price.units(), 4);
-        const Amount price = total.times(Amount::scale, pieces.units(), 4);
-        left -= total;
-        batch += "INSERT INTO D8102A (ID,NOID,WL_ID,ADW,CK_ID,SL,DW_L,SJ,SMONEY) SELECT " +
-                 quoted(number + "-" + std::to_string(i + 1)) + "," + quoted(number) + "," +
-                 quoted(good->code) + ",ADW," + quoted(warehouse) + "," + pieces.to_plain_text() +
-                 "," + pieces.to_plain_text() + "," + price.to_plain_text() + "," +
-                 total.to_text() + " FROM D1801DW WHERE WL_ID=" + quoted(good->code) + ";";
-    }
-    return batch;
-}
-
 } // namespace
 
 std::string trade_masters(const Story& story, const TradeStory& trade) {
@@ -95,9 +68,9 @@ std::string trade_masters(const Story& story, const TradeStory& trade) {
         batch += inserted("D1008", "BM_ID,BM_NAME", {department.code, department.name});
     for (const StoryParty& party : trade.parties) {
         if (party.customer)
-            batch += inserted("D1102", "KH_GYS_ID,KG_NAME,FULL_NAME,FZR,TEL,KM_IDA",
+            batch += inserted("D1102", "KH_GYS_ID,KG_NAME,FULL_NAME,FZR,TEL,SEND_ID,KM_IDA",
                               {party.code, party.name, party.full_name, party.contact, party.phone,
-                               trade.staff.front().code});
+                               route, trade.staff.front().code});
         else
             batch += inserted("D1103", "KH_GYS_ID,KG_NAME,FULL_NAME",
                               {party.code, party.name, party.full_name});
@@ -105,20 +78,11 @@ std::string trade_masters(const Story& story, const TradeStory& trade) {
     return batch + goods_masters(trade);
 }
 
-std::string goods_documents(const Story& story, const TradeStory& trade,
-                            const std::vector<TradeDocument>& documents) {
+std::string goods_documents(const std::vector<TradeDocument>& documents) {
     std::string batch;
     DayNumbers numbers;
     for (const TradeDocument& document : documents) {
         const std::string day = document.date.to_text(), amount = document.amount.to_text();
-        if (document.kind == TradeKind::Sale) {
-            const std::string number = numbers.next("202", document.date);
-            batch += inserted(
-                "D8102", "NOID,T,KH_GYS_ID,CK_ID,YW_ID,USER_ID,NOTE,BDATE,TOLMONEY,YSMONEY",
-                {number, "1", document.party, warehouse, trade.staff.front().code, "admin",
-                 document.summary, day, amount, amount});
-            batch += sale_lines(story, trade, document, number);
-        }
         if (document.kind == TradeKind::SaleReturn)
             batch += inserted("D8103", "NOID,KH_GYS_ID,JY_ID,BDATE,TOLMONEY,YSMONEY",
                               {numbers.next("204", document.date), document.party, "0", day,

@@ -12,9 +12,11 @@ namespace app {
 // Money accounts with what was in them, customers, suppliers, staff, departments, goods.
 std::string trade_masters(const Story& story, const TradeStory& trade);
 
-// Sales with their lines, returns and purchases among the documents, as their own modules keep
-// them; "" when there are none. The others have forms and are typed.
-std::string goods_documents(const Story& story, const TradeStory& trade,
-                            const std::vector<TradeDocument>& documents);
+// The warehouse that goods leave from.
+inline constexpr const char* warehouse = "01";
+
+// Returns and purchases among the documents, as their own modules keep them; "" when there are
+// none. The others have forms and are typed.
+std::string goods_documents(const std::vector<TradeDocument>& documents);
 
 } // namespace app

@@ -1,6 +1,9 @@
 // Requests, a form after the other.
 #include "app/demo/typed_trade.h"
 
+#include <algorithm>
+
+#include "app/demo/trade_tables.h"
 #include "app/demo/typed_requests.h"
 
 namespace app {
@@ -50,15 +53,16 @@ public:
     FormTypist(const std::vector<TradeDocument>& documents, Requests& to)
         : documents_(documents), to_(to) {}
 
-    // Opens the list of `code` and its entry form, unless nothing is to be entered there.
+    // Opens the list of `code` and by `action` its entry form, unless nothing is entered there.
     template <typename Enters, typename Type>
-    void enter(int code, Enters enters, bool lines_are_named, Type type) {
+    void enter(int code, Enters enters, bool lines_are_named, Type type,
+               const char* action = "Act_Add") {
         bool begun = false;
         for (const TradeDocument& document : documents_) {
             if (!enters(document)) continue;
             if (!begun) {
                 to_.open(code);
-                to_.click("Act_Add");
+                to_.click(action);
                 if (lines_are_named) to_.rows(main_grid);
             }
             begun = true;
@@ -94,6 +98,29 @@ void type_settlement(const TradeDocument& document, const char* const (&kinds)[4
     if (!document.discount.is_zero()) to.set("YH", document.discount.to_text());
 }
 
+constexpr int tax_percent = 13;
+
+// A line a good, at its price with tax.
+void type_sale(const Story& story, const TradeStory& trade, const TradeDocument& sale,
+               Requests& to) {
+    to.set("KH_GYS_ID", sale.party);
+    to.set("CK_ID", warehouse);
+    to.set("BDATE", sale.date.to_text());
+    to.set("NOTE", sale.summary);
+    for (std::size_t line = 0; line < sale.goods.size(); ++line) {
+        const auto& [key, net] = sale.goods[line];
+        for (const StoryGood& good : trade.goods)
+            if (good.product == key) to.cell(main_grid, line, "WL_ID", good.code);
+        for (const StoryProduct& product : story.products) {
+            if (product.key != key) continue;
+            const Amount pieces = net.times(Amount::scale, product.price.units(), 4);
+            to.cell(main_grid, line, "SL", pieces.to_plain_text());
+            to.cell(main_grid, line, "SJ",
+                    product.price.times(100 + tax_percent, 100, 4).to_plain_text());
+        }
+    }
+}
+
 constexpr const char* receipt_kinds[] = {"应收帐款", "预收款", "预收退款", "预收冲应收"};
 constexpr const char* payment_kinds[] = {"应付帐款", "预付款", "预付退款", "预付冲应付"};
 
@@ -121,12 +148,18 @@ std::vector<json> typed_trade_start(const Story& story, const TradeStory& trade)
     return requests.take();
 }
 
-std::vector<json> typed_documents(const std::vector<TradeDocument>& documents) {
+std::vector<json> typed_documents(const Story& story, const TradeStory& trade,
+                                  const std::vector<TradeDocument>& documents) {
     Requests requests;
     FormTypist typist(documents, requests);
     const auto of_kind = [](TradeKind kind) {
         return [kind](const TradeDocument& document) { return document.kind == kind; };
     };
+    typist.enter(631, of_kind(TradeKind::Sale), false,
+                 [&](const TradeDocument& document) {
+                     type_sale(story, trade, document, requests);
+                 },
+                 "Act_Invoice");
     typist.enter(
         646,
         [](const TradeDocument& document) {

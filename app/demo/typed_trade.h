@@ -13,6 +13,7 @@ std::vector<nlohmann::json> typed_trade_start(const Story& story, const TradeSto
 
 // The documents that have forms, a form after the other, each in the order given: what is owed
 // comes before what settles it.
-std::vector<nlohmann::json> typed_documents(const std::vector<TradeDocument>& documents);
+std::vector<nlohmann::json> typed_documents(const Story& story, const TradeStory& trade,
+                                            const std::vector<TradeDocument>& documents);
 
 } // namespace app
