@@ -21,7 +21,10 @@ public:
 
 Office::Office(host::DataPort& data, PersonOptions options)
     : data_(data), options_(std::move(options)), clock_(options_.today),
-      thread_([this] { work(); }) {}
+      thread_([this] { work(); }) {
+    // The host is one for all: he who comes second furnishes it after the first, not beside him.
+    hand_off_.inside([] {});
+}
 
 Office::~Office() {
     hand_off_.finish();
