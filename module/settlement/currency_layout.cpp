@@ -67,14 +67,14 @@ LayoutNode currency_receipt_layout(TF6630_1& form) {
     return Rows(
         {ToolBar({&form.Act_Save, nullptr, &form.Act_Other, &form.Act_Clear, &form.Act_Refresh,
                   nullptr, &form.Act_Print, &form.Act_Preview, nullptr, &form.Act_Quit}),
-         head, Control(form.LockReason),
-         Columns({Control(form.BalanceLine), Spring(), Text("更改日期"), Control(form.EDATE),
-                  Text("制单人"), Control(form.USER_NAME), Space(2),
+         head, Control(form.LockReason), Control(form.AccountHint),
+         Columns({Control(form.BalanceLine), Spring(),
                   Field("单据货币显示(仅制单时生效):", form.CB2, 12)}),
          Splitter(Rest(form.Accounts), Rest(form.DBGridEh), 28),
          Columns({Text("本次收款"), Control(form.ShareTotal), Space(2), Control(form.Difference),
                   Space(2), Text("其他应收合计:"), Control(form.OverReceipts), Spring(),
-                  Control(form.AccountHint), Text("分摊后未收"), Control(form.LeftOpen)}),
+                  Text("更改日期"), Control(form.EDATE), Text("制单人"), Control(form.USER_NAME),
+                  Text("分摊后未收"), Control(form.LeftOpen)}),
          StatusLine({Text("Enter 下一格"), Text("F4 选择客户、帐户、货币"),
                      Text("在上表填各帐户的收款，按开单日期先后自动分摊"), Spring(),
                      Text("多收的款填在收入类别的行上")})});

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QLabel>
+#include <QLayout>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTableView>
@@ -11,6 +12,7 @@
 
 #include "desktop/frame/few_colours.h"
 #include "desktop/renderers/hinted_button.h"
+#include "desktop/renderers/title_label.h"
 #include "desktop/theme/amount_text.h"
 #include "desktop/theme/fonts.h"
 #include "desktop/theme/text.h"
@@ -110,6 +112,54 @@ TEST(Room, a_label_without_a_text_takes_none_but_the_line_of_conditions_waits_fo
     desk.form->Reason.Caption = "已登帐";
     desk.settle();
     EXPECT_TRUE(desk.find<QLabel>("Reason")->isVisible());
+}
+
+// A document's name beside three columns of fields, one of them a code with the name it stands for.
+class TDocumentForm : public TForm {
+public:
+    TDocumentForm() : TForm(nullptr) {
+        Caption = "销售收款";
+        Party.DisplayName = "城南电器行有限责任公司第一分公司";
+        layout = Rows({Columns({Title("销售收款"), Rows({Field("单    号", Number, 18)}),
+                                Rows({Field("客    户", Party, 10)}),
+                                Rows({Field("票    号", Slip, 18)})}),
+                       Rest(Grid)});
+    }
+    const char* ClassName() const override { return "TDocumentForm"; }
+    TEdit Number{this, "Number", "单    号"};
+    TLinkEdit Party{this, "Party", "客    户"};
+    TEdit Slip{this, "Slip", "票    号"};
+    TClientDataSet Rows_;
+    TDBGridEh Grid{this, "Grid", &Rows_};
+};
+
+TEST(Room, in_a_narrow_window_a_document_gives_up_its_title_and_cuts_names_short) {
+    Desk desk;
+    auto* form = new TDocumentForm;
+    form->Show();
+    desk.settle();
+    desktop::TitleLabel* title = nullptr;
+    for (auto* widget : desk.window().findChildren<QWidget*>())
+        if (auto* found = dynamic_cast<desktop::TitleLabel*>(widget)) title = found;
+    const auto name = [&desk]() -> QLabel* {
+        for (auto* label : desk.window().findChildren<QLabel*>())
+            if (label->property("part") == "looked-up") return label;
+        return nullptr;
+    };
+    ASSERT_NE(title, nullptr);
+    ASSERT_NE(name(), nullptr);
+    EXPECT_TRUE(title->isVisible());
+    EXPECT_EQ(name()->text(), desktop::qt(form->Party.DisplayName.get()));
+    desk.window().resize(960, 600);
+    desk.settle();
+    EXPECT_FALSE(title->isVisible());
+    EXPECT_LE(title->parentWidget()->layout()->minimumSize().width(),
+              title->parentWidget()->width());
+    EXPECT_TRUE(name()->text().endsWith(QStringLiteral("…")));
+    EXPECT_EQ(name()->toolTip(), desktop::qt(form->Party.DisplayName.get()));
+    desk.window().resize(1440, 900);
+    desk.settle();
+    EXPECT_TRUE(title->isVisible());
 }
 
 TEST(Room, labels_beside_conditions_and_at_the_bottom_are_small) {
