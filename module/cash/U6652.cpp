@@ -96,6 +96,7 @@ void TF6652::DBGridEhGetCellParams(TField& field, CellParams& params) {
 
 Sheet TF6652::MakeSheet() {
     Sheet sheet = MoneyReport::MakeSheet();
+    if (sheet.rows == 0) return sheet; // nothing asked for yet, or nothing moved
     CarriedSums carried{.label = "ZY",
                         .added = {"INMONEY", "OUTMONEY"},
                         .copied = {"JY_ID", "JY_NAME", "YE"}};

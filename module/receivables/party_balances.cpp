@@ -52,14 +52,15 @@ PartyDetail::PartyDetail(TForm* parent, const PartyReportKind& kind) : PartyRepo
     AdoQry_Main.DefineField("mytype", FieldType::Integer); // function of the document, 0 for none
 }
 
-void PartyDetail::ShowStatement(const std::string& statement, const std::string& title) {
+void PartyDetail::ShowStatement(const std::string& statement, const std::string& party,
+                                const std::string& conditions) {
     Trecord record;
     record.set_code(side().detail_function);
     Tag = side().detail_function;
-    SetTabTitle(Caption.get() + " " + GETCODE(title));
+    SetTabTitle(Caption.get() + " " + party);
     OpenQuery(record);
     SqlText = statement;
-    ConditionLabel.Caption = title;
+    ConditionLabel.Caption = conditions;
     GetData();
 }
 
@@ -103,7 +104,9 @@ void PartySummary::DBGridEhDblClick() {
     const std::string statement = side().documents_of_party + quoted(days.from) + ",@EDATE=" +
                                   quoted(days.until) + ",@KH_GYS_ID=" + quoted(party);
     open_or_release(NewDetail(), [&](PartyDetail& detail) {
-        detail.ShowStatement(statement, party + " " + name);
+        detail.ShowStatement(statement, party,
+                             std::string(" ●") + side().parties.what + ":" + party + " " + name +
+                                 "     ●日期:" + days.told);
     });
 }
 

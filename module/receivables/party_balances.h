@@ -35,8 +35,10 @@ private:
 // A row a document behind an opening row for every party; every amount column adds up.
 class PartyDetail : public PartyReport {
 public:
-    // Shows what `statement` answers without asking, under `title`: the way from a party's sum.
-    void ShowStatement(const std::string& statement, const std::string& title);
+    // Shows what `statement` answers without asking: the way from the sum of `party`, a code.
+    // `conditions` says above the rows whose documents of which days they are.
+    void ShowStatement(const std::string& statement, const std::string& party,
+                       const std::string& conditions);
 
 protected:
     PartyDetail(TForm* parent, const PartyReportKind& kind);

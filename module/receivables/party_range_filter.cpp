@@ -31,7 +31,7 @@ void PartyRangeFilter::btn_okClick() {
     CheckDates(BDATE, EDATE);
     check_parties();
     DateRangeFilter::btn_okClick();
-    days_ = {BDATE.value().to_text(), EDATE.value().plus_days(1).to_text()};
+    days_ = {BDATE.value().to_text(), EDATE.value().plus_days(1).to_text(), date_text()};
     ResultText = dialog_.call + boltos(CK1.Checked) + ",@PARAM2=" + boltos(CK2.Checked) +
                  ",@BDATE=" + quoted(days_.from) + ",@EDATE=" + quoted(days_.until) +
                  parties_asked();

@@ -17,6 +17,7 @@ struct PartyDialog {
 // The days of a call as its text has them: the last one is the day after.
 struct AskedDays {
     std::string from, until;
+    std::string told; // "(2024-03-01 至 2024-03-31)"
 };
 
 class PartyRangeFilter : public DateRangeFilter {

@@ -136,13 +136,12 @@ void TF6630_1::HB_IDButtonClick() {
     QX_LINK_HB->ShowModal();
 }
 
-// What is put aside is not written off: only what is seen gets a share.
+// A look at one currency moves no money: what was typed before stays, and what is typed now is
+// spread over the items that are seen. Only these count when the receipt is checked and saved.
 void TF6630_1::CB2CloseUp() {
     if (holding_ || !new_document()) return;
-    AdoQry_Main.SetFilter(nullptr);
-    clear_shares();
+    AdoQry_Main.LeaveRow();
     show_items_of(CB2.Text);
-    spread_over_items();
     refresh_totals();
 }
 

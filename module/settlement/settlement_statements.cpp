@@ -74,7 +74,7 @@ std::string lines_query(const SettlementKind& kind) {
            of_document(kind, document + ".BDATE", other + ".BDATE", returned + ".BDATE", "BDATE") +
            "," +
            of_document(kind, document + ".TOLMONEY", other + ".TOLMONEY",
-                       "0-" + returned + ".TOLMONEY", "TOLMONEY") +
+                       "0-" + returned + ".tolmoney", "TOLMONEY") +
            "," +
            of_document(kind, document + ".SUMMONEY" + own, other + ".SUMMONEY" + own,
                        "0-" + returned + ".SUMMONEY" + own, "SUMMONEY") +

@@ -9,7 +9,7 @@ CREATE TABLE D8102 (
     CK_ID nvarchar(10) NULL,
     SEND_ID nvarchar(10) NULL,
     YW_ID nvarchar(10) NULL,
-    USER_ID nvarchar(20) NOT NULL,
+    USER_ID nvarchar(20) NOT NULL DEFAULT 'admin',
     NOTE nvarchar(200) NULL,
     BDATE datetime NOT NULL,
     EDATE datetime NULL,                        -- last change

@@ -7,7 +7,7 @@ CREATE TABLE D8202 (
     KH_GYS_ID nvarchar(10) NOT NULL,
     CK_ID nvarchar(10) NULL,
     YW_ID nvarchar(10) NULL,
-    USER_ID nvarchar(20) NOT NULL,
+    USER_ID nvarchar(20) NOT NULL DEFAULT 'admin',
     NOTE nvarchar(200) NULL,
     BDATE datetime NOT NULL,
     EDATE datetime NULL,                        -- last change

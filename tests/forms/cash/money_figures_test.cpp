@@ -264,6 +264,17 @@ TEST_F(MoneyFigures, a_transfer_that_another_changed_meanwhile_is_not_written_ov
     EXPECT_EQ(books.value("SELECT MONEY FROM D653 WHERE NOID='648240315001'"), "1.00");
 }
 
+TEST_F(MoneyFigures, a_report_without_rows_is_not_printed_but_says_so) {
+    for (const int report : {650, 652, 653}) {
+        anna.open(report);
+        anna.click("btn_Cancel");
+        for (const char* act : {"Act_Print", "Act_Preview"}) {
+            anna.click(act);
+            anna.expect_message("没有可打印的内容，请先选择查询条件或录入数据!");
+        }
+    }
+}
+
 TEST_F(MoneyFigures, a_carried_page_of_the_daybook_goes_on_with_its_sums) {
     std::string many;
     for (int i = 0; i < 60; ++i)

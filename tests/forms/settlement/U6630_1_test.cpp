@@ -163,13 +163,16 @@ TEST_F(CurrencyReceipt, an_unknown_currency_is_refused) {
 
 TEST_F(CurrencyReceipt, items_of_one_currency_alone_can_be_shown) {
     new_document("K2");
-    on_account(0, "1500");
     anna.set("CB2", "USD");
+    EXPECT_EQ(shares(), "0.00");
+    on_account(0, "1500"); // goes to what is seen
     EXPECT_EQ(shares(), "1500.00");
     anna.set("CB2", "RMB");
-    EXPECT_EQ(shares(), "1000.00 500.00");
-    anna.set("CB2", "全部");
-    EXPECT_EQ(shares(), "0.00 0.00 1000.00 500.00 0.00");
+    EXPECT_EQ(shares(), "0.00 0.00");
+    EXPECT_EQ(anna.value("Difference"), "误差: 1500.00");
+    expect_not_saved("本单累计收款金额必须大于0");
+    anna.set("CB2", "全部"); // looking elsewhere moved nothing
+    EXPECT_EQ(shares(), "0.00 0.00 0.00 0.00 1500.00");
     save();
     anna.click("Act_Modify");
     EXPECT_FALSE(anna.enabled("CB2"));
