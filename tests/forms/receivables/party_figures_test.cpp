@@ -232,16 +232,13 @@ TEST_F(PartyFigures, a_document_deleted_meanwhile_is_told_of) {
 }
 
 TEST_F(PartyFigures, who_may_not_open_receipts_sees_their_amounts_alone) {
-    PersonOptions options = books.person();
-    options.may = [](const host::Right& right) { return right.function != "631"; };
-    Person carl(books.data(), options);
-    carl.open(632);
-    carl.set("BDATE", "2024-03-01");
-    carl.set("EDATE", "2024-03-31");
-    carl.click("btn_ok");
-    carl.double_click(4, "NOID");
-    carl.expect_message("您没有打开单据“K1”的权限，请与系统管理员联系。");
-    carl.expect_active("TF6632");
+    ask(632, "2024-03-01", "2024-03-31");
+    anna.inside([] {
+        host::the_host().may = [](const host::Right& right) { return right.function != "631"; };
+    });
+    anna.double_click(4, "NOID");
+    anna.expect_message("您没有打开单据“K1”的权限，请与系统管理员联系。");
+    anna.expect_active("TF6632");
 }
 
 TEST_F(PartyFigures, a_file_holds_what_is_shown_with_the_sums_below) {
