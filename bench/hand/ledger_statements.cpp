@@ -18,7 +18,8 @@ Y AS (SELECT ifnull(sum(J), 0) AS J, ifnull(sum(D), 0) AS D
       FROM D6602 WHERE KM_ID = ?1 AND INX = 0 AND QJ >= ?5 AND QJ < ?2),
 R AS (
     SELECT 0 AS KIND, NULL AS BDATE, NULL AS PZZ, NULL AS PZZ_H, -1 AS INX, NULL AS NOID,
-           CASE substr(?2, 6) WHEN '01' THEN '上年结转' ELSE '期初余额' END AS ZY, 0 AS J, 0 AS D,
+           CASE substr(?2, 6) WHEN '01' THEN '上年结转' ELSE '期初余额' END AS ZY, NULL AS J,
+           NULL AS D,
            ifnull((SELECT J - D FROM D6602 WHERE KM_ID = ?1 AND QJ = ?4 AND INX = 1), 0) AS CHANGE
     UNION ALL
     SELECT 1, H.BDATE, H.PZZ, H.PZZ_H, L.INX, L.NOID, L.ZY, L.J, L.D, L.J - L.D
@@ -37,17 +38,17 @@ SELECT X.BDATE, X.PZZ || '-' || X.PZZ_H, X.ZY, NULL, X.J, X.D,
 FROM X CROSS JOIN A
 ORDER BY X.KIND, X.BDATE, X.PZZ, X.PZZ_H, X.INX)";
 
-// ?1 and ?2 accounts, ?3 level, ?4 the year as "2024-", ?5 the last period of the year before. Kind
-// 0 is the opening of the year and not shown, 1 is January.
+// ?1 and ?2 accounts, ?3 level, ?4 the year as "2024-", ?5 the last period of the year before,
+// whose closing balance stands beside the year's opening and is not shown.
 constexpr const char* general = R"(
-WITH M(QJ, CLOSED, KIND) AS (
-    VALUES (?4 || '00', ?5, 0), (?4 || '01', ?4 || '01', 1), (?4 || '02', ?4 || '02', 2),
-           (?4 || '03', ?4 || '03', 2), (?4 || '04', ?4 || '04', 2), (?4 || '05', ?4 || '05', 2),
-           (?4 || '06', ?4 || '06', 2), (?4 || '07', ?4 || '07', 2), (?4 || '08', ?4 || '08', 2),
-           (?4 || '09', ?4 || '09', 2), (?4 || '10', ?4 || '10', 2), (?4 || '11', ?4 || '11', 2),
-           (?4 || '12', ?4 || '12', 2)),
+WITH M(QJ, CLOSED, SHOWN) AS (
+    VALUES (?4 || '00', ?5, 0), (?4 || '01', ?4 || '01', 1), (?4 || '02', ?4 || '02', 1),
+           (?4 || '03', ?4 || '03', 1), (?4 || '04', ?4 || '04', 1), (?4 || '05', ?4 || '05', 1),
+           (?4 || '06', ?4 || '06', 1), (?4 || '07', ?4 || '07', 1), (?4 || '08', ?4 || '08', 1),
+           (?4 || '09', ?4 || '09', 1), (?4 || '10', ?4 || '10', 1), (?4 || '11', ?4 || '11', 1),
+           (?4 || '12', ?4 || '12', 1)),
 Y AS (
-    SELECT A.KM_ID, A.KM_NAME, A.FX, M.QJ, M.KIND, P.J, P.D,
+    SELECT A.KM_ID, A.KM_NAME, A.FX, M.QJ, M.SHOWN, P.J, P.D,
            ifnull(CASE A.FX WHEN '借' THEN B.J - B.D ELSE B.D - B.J END, 0) AS CLOSING
     FROM D6801 A CROSS JOIN M
     LEFT JOIN D6602 P ON P.KM_ID = A.KM_ID AND P.QJ = M.QJ AND P.INX = 0
@@ -62,14 +63,13 @@ W AS (
     FROM Y WINDOW YEAR AS (PARTITION BY KM_ID ORDER BY QJ ROWS UNBOUNDED PRECEDING)),
 STEPS(STEP) AS (VALUES (0), (1), (2))
 SELECT KM_ID, KM_NAME, QJ,
-       CASE STEP WHEN 1 THEN '本期合计' WHEN 2 THEN '本年累计'
-                 ELSE CASE KIND WHEN 1 THEN '上年结转' ELSE '期初余额' END END,
-       CASE STEP WHEN 1 THEN J WHEN 2 THEN YEAR_J ELSE 0 END,
-       CASE STEP WHEN 1 THEN D WHEN 2 THEN YEAR_D ELSE 0 END,
+       CASE STEP WHEN 1 THEN '本期合计' WHEN 2 THEN '本年累计' ELSE '期初余额' END,
+       CASE STEP WHEN 1 THEN J WHEN 2 THEN YEAR_J END,
+       CASE STEP WHEN 1 THEN D WHEN 2 THEN YEAR_D END,
        CASE CASE STEP WHEN 0 THEN OPENING ELSE CLOSING END WHEN 0 THEN '平' ELSE FX END,
        CASE STEP WHEN 0 THEN OPENING ELSE CLOSING END, QJ
 FROM W CROSS JOIN STEPS
-WHERE KIND > 0 AND (STEP = 0 OR J IS NOT NULL)
+WHERE SHOWN = 1 AND (STEP = 0 OR J IS NOT NULL)
 ORDER BY KM_ID, QJ, STEP)";
 
 constexpr std::int64_t days_from_1900_to_1970 = 25567;
