@@ -16,7 +16,6 @@ constexpr RightsAction actions[] = {
 // What the forms of a kind offer.
 constexpr unsigned report = opens | prints | exports;
 constexpr unsigned list = report | adds | changes | deletes;
-constexpr unsigned documents = list | audits;
 constexpr unsigned period_step = opens | posts;
 constexpr unsigned statement = report | changes;
 constexpr unsigned opening_figures = report | changes | posts;
@@ -33,19 +32,19 @@ constexpr Function statements[] = {
     {671, "资产负债表", statement}, {673, "利 润 表", statement}, {672, "现金流量表", statement}};
 constexpr Function period[] = {{667, "结转损溢", opens | adds}, {668, "期末结帐", period_step}};
 constexpr Function trade[] = {
-    {630, "销售收款 · 外币", list}, {631, "销售收款", list},
-    {632, "销售收款明细表", report},     {633, "销售收款汇总表", report},
-    {641, "采购付款", list},        {642, "采购付款明细表", report},
-    {643, "采购付款汇总表", report},     {646, "其他收款单", list},
+    {630, "销售收款 · 外币", list},   {631, "销售收款", list},
+    {632, "销售收款明细表", report}, {633, "销售收款汇总表", report},
+    {641, "采购付款", list},         {642, "采购付款明细表", report},
+    {643, "采购付款汇总表", report}, {646, "其他收款单", list},
     {647, "其他付款单", list}};
 constexpr Function cash[] = {{648, "银行存取款单", list},
                              {650, "现金银行总帐", report},
                              {652, "现金银行日记帐", report},
                              {653, "收支明细表", report}};
 constexpr Function masterdata[] = {
-    {681, "会计科目", list},     {682, "凭证字", list},
-    {683, "常用摘要", list},     {687, "收支类别", list},
-    {691, "现金流量项目", list}, {699, "会计科目初始", opening_figures},
+    {681, "会计科目", list},              {682, "凭证字", list},
+    {683, "常用摘要", list},              {687, "收支类别", list},
+    {691, "现金流量项目", list},          {699, "会计科目初始", opening_figures},
     {628, "期初应收款", opening_amounts}, {629, "期初应付款", opening_amounts}};
 constexpr Function administration[] = {{0, "用户", list, "users"},
                                        {0, "角色与权限", list, "roles"},
