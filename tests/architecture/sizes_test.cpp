@@ -23,11 +23,13 @@ bool opens_a_body(const std::string& code) {
     return std::regex_match(code, body) && !std::regex_match(code, other);
 }
 
-// The line that closes what `start` opened: a brace at the same indentation.
+// The line that closes what `start` opened: a brace at the same indentation, or further out where
+// the head's last line is indented, as that of a constructor with initialisers.
 std::size_t end_of_body(const SourceFile& file, std::size_t start) {
     const std::size_t depth = indentation_of(file.lines[start]);
     for (std::size_t at = start + 1; at < file.lines.size(); ++at) {
-        if (indentation_of(file.lines[at]) == depth && file.lines[at][depth] == '}') return at;
+        const std::size_t indentation = indentation_of(file.lines[at]);
+        if (indentation <= depth && file.lines[at][indentation] == '}') return at;
     }
     return start;
 }
