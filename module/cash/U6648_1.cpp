@@ -94,17 +94,10 @@ void TF6648_1::fill_from(const TClientDataSet& row) {
     const auto text = [&](const char* field) { return row.FieldByName(field).AsText(); };
     Edit1.Text = text("NOID");
     EDIT2.Text = text("ZY");
-    const struct {
-        TLinkEdit& edit;
-        const char *code, *name;
-    } codes[] = {{JY_ID_FK, "JY_ID_FK", "JY_NAME_FK"},
-                 {JY_ID_SK, "JY_ID_SK", "JY_NAME_SK"},
-                 {YW_ID, "YW_ID", "YW_NAME"},
-                 {BM_ID, "BM_ID", "BM_NAME"}};
-    for (const auto& code : codes) {
-        code.edit.Text = text(code.code);
-        code.edit.DisplayName = text(code.name); // after the code, whose change clears it
-    }
+    show_code(JY_ID_FK, row, "JY_ID_FK", "JY_NAME_FK");
+    show_code(JY_ID_SK, row, "JY_ID_SK", "JY_NAME_SK");
+    show_code(YW_ID, row, "YW_ID", "YW_NAME");
+    show_code(BM_ID, row, "BM_ID", "BM_NAME");
     MONEY.set(row.FieldByName("MONEY").AsAmount());
     USER_NAME.Text = text("USER_NAME");
     BDATE.Text = text("BDATE").substr(0, 10);

@@ -14,6 +14,7 @@ namespace module {
 
 namespace {
 
+constexpr const char* document_row = "请更改有底色资料行，白底色资料行不可更改!";
 constexpr NumberSeries receipt_numbers{"631", "d631"};
 constexpr Color customer_background = 0xFFFF80;
 constexpr const char* imported_mark = "*";
@@ -79,7 +80,7 @@ void TF6631_2::define_fields() {
     for (const char* changed : {"BDATE", "JY_ID", "PH"})
         AdoQry_Main.FieldByName(changed).OnSetText = [this](TField& field,
                                                             const std::string& typed) {
-            if (!on_customer()) refuse("请更改有底色资料行，白底色资料行不可更改!");
+            if (!on_customer()) refuse(document_row);
             if (field.FieldName == "JY_ID") return take_account(typed);
             if (field.FieldName == "BDATE" && trimmed(typed).empty()) refuse("日期不能为空，请录入!");
             field.SetConverted(typed);
@@ -128,7 +129,7 @@ void TF6631_2::show_account_names() {
 }
 
 void TF6631_2::take_account(const std::string& typed) {
-    if (!on_customer()) refuse("请更改有底色资料行，白底色资料行不可更改!");
+    if (!on_customer()) refuse(document_row);
     TClientDataSet accounts;
     opensql(accounts, FunctionCode, select_accounts);
     if (!accounts.Locate("JY_ID", trimmed(typed)))

@@ -163,9 +163,8 @@ void TF6631_3::begin_new() {
 
 void TF6631_3::show_stored_head() {
     const auto text = [this](const char* field) { return AdoQry_Head.FieldByName(field).AsText(); };
-    const auto show = [&text](TLinkEdit& edit, const char* code, const char* name) {
-        edit.Text = text(code);
-        edit.DisplayName = text(name); // after the code, whose change clears it
+    const auto show = [this](TLinkEdit& edit, const char* code, const char* name) {
+        show_code(edit, AdoQry_Head, code, name);
     };
     Edit1.Text = text("NOID");
     show(KH_GYS_ID, "KH_GYS_ID", "KG_NAME");
@@ -218,15 +217,12 @@ void TF6631_3::read_customer(const std::string& code) {
     opensql(name, FunctionCode,
             "SELECT KH_GYS_ID,KG_NAME,FULL_NAME FROM D1102 WHERE KH_GYS_ID=" + quoted(code));
     const auto text = [&found](const char* field) { return found.FieldByName(field).AsText(); };
-    KH_GYS_ID.Text = name.FieldByName("KH_GYS_ID").AsText();
-    KH_GYS_ID.DisplayName = name.FieldByName("KG_NAME").AsText();
+    show_code(KH_GYS_ID, name, "KH_GYS_ID", "KG_NAME");
     FULL_NAME.Caption = name.FieldByName("FULL_NAME").AsText();
     TEL.Caption = text("TEL");
     ADDR.Caption = text("ADDR");
-    SEND_ID.Text = text("SEND_ID");
-    SEND_ID.DisplayName = text("SEND_NAME");
-    YW_ID.Text = text("YW_ID");
-    YW_ID.DisplayName = text("YW_NAME");
+    show_code(SEND_ID, found, "SEND_ID", "SEND_NAME");
+    show_code(YW_ID, found, "YW_ID", "YW_NAME");
     customer_read_ = KH_GYS_ID.Text;
 }
 

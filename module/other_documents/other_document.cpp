@@ -12,7 +12,6 @@ namespace module {
 
 namespace {
 
-constexpr const char* cash = "1"; // the money account that new documents begin with
 constexpr const char* party_account = "0";
 constexpr int category_column = 0;
 
@@ -155,15 +154,13 @@ void OtherDocument::begin_new() {
         field->DisplayName = "";
     }
     CB1.set_index(0);
-    JY_ID.Text = cash;
-    JY_ID.DisplayName = "现金";
+    show_cash(JY_ID);
 }
 
 void OtherDocument::show_stored_head() {
     const auto text = [this](const char* field) { return AdoQry_Head.FieldByName(field).AsText(); };
-    const auto show = [&text](TLinkEdit& edit, const char* code, const char* name) {
-        edit.Text = text(code);
-        edit.DisplayName = text(name); // after the code, whose change clears it
+    const auto show = [this](TLinkEdit& edit, const char* code, const char* name) {
+        show_code(edit, AdoQry_Head, code, name);
     };
     Edit1.Text = text("NOID");
     show(KH_GYS_ID, "KH_GYS_ID", "KG_NAME");
@@ -207,8 +204,7 @@ void OtherDocument::JY_IDExit() {
 void OtherDocument::CB1Change() {
     OpenHint.Visible = stays_open();
     if (stays_open() || JY_ID.Text.get() != party_account) return;
-    JY_ID.Text = cash;
-    JY_ID.DisplayName = "现金";
+    show_cash(JY_ID);
 }
 
 // ---- lines ----

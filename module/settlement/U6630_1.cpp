@@ -98,8 +98,7 @@ void TF6630_1::show_amounts() {
         return AdoQry_Head.FieldByName(field).AsAmount();
     };
     currency_ = AdoQry_Head.FieldByName("HB_ID").AsText();
-    HB_ID.Text = currency_;
-    HB_ID.DisplayName = AdoQry_Head.FieldByName("HB_NAME").AsText();
+    show_code(HB_ID, AdoQry_Head, "HB_ID", "HB_NAME");
     HL.Text = amount("HL").to_plain_text();
     WBMONEY.set(amount("WBMONEY"));
     MONEY.set(amount("MONEY_SS"));

@@ -14,8 +14,6 @@ namespace {
 
 constexpr int longest_number = 20;
 constexpr int longest_slip = 50;
-constexpr const char* cash_account = "1";
-constexpr const char* cash_name = "现金";
 
 } // namespace
 
@@ -121,8 +119,7 @@ void SettlementForm::begin_document() {
     USER_NAME.Caption = G_UserName;
     PH.Text = "";
     CB1.set_index(static_cast<int>(Purpose::settles));
-    JY_ID.Text = cash_account;
-    JY_ID.DisplayName = cash_name;
+    show_cash(JY_ID);
     begin_amounts();
     KH_GYS_ID.Text = party;
     KH_GYS_ID.DisplayName = "";
@@ -143,8 +140,7 @@ void SettlementForm::show_document() {
     USER_NAME.Caption = text("USER_NAME");
     PH.Text = text("PH");
     CB1.set_index(static_cast<int>(AdoQry_Head.FieldByName("JY_KM").AsInteger()));
-    JY_ID.Text = text("JY_ID");
-    JY_ID.DisplayName = text("JY_NAME");
+    show_code(JY_ID, AdoQry_Head, "JY_ID", "JY_NAME");
     show_amounts();
     KH_GYS_ID.Text = text("KH_GYS_ID");
     read_party();

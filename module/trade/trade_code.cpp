@@ -27,7 +27,20 @@ std::string select_code(const TradeCode& kind, const std::string& code) {
            (condition.empty() ? "" : " AND " + condition);
 }
 
+void show(TLinkEdit& edit, const std::string& code, const std::string& name) {
+    edit.Text = code;
+    edit.DisplayName = name; // after the code, whose change clears it
+}
+
 } // namespace
+
+void show_code(TLinkEdit& edit, const TClientDataSet& row, const char* code, const char* name) {
+    show(edit, row.FieldByName(code).AsText(), row.FieldByName(name).AsText());
+}
+
+void show_cash(TLinkEdit& edit) {
+    show(edit, "1", "现金");
+}
 
 void offer_trade_codes(TLinkEdit& edit, const TradeCode& kind) {
     edit.MaxLength = kind.length;
@@ -51,8 +64,7 @@ void require_trade_code(TFrm_Base_Common& form, TLinkEdit& edit, const TradeCode
         edit.SetFocus();
         refuse(std::string(kind.what) + "“" + code + "”不存在!请按 F4 选择" + kind.what + "。");
     }
-    edit.Text = found.FieldByName(kind.code).AsText();
-    edit.DisplayName = found.FieldByName(kind.name).AsText();
+    show_code(edit, found, kind.code, kind.name);
 }
 
 void bind_trade_code(TFrm_Base_Common& form, TLinkEdit& edit, const TradeCode& kind) {

@@ -22,6 +22,11 @@ extern const TradeCode customers, suppliers, staff, departments;
 extern const TradeCode money_accounts; // without '0', the receivable or payable account itself
 extern const TradeCode warehouses, delivery_routes;
 
+// Shows the code that a row holds, and its name beside it.
+void show_code(TLinkEdit& edit, const TClientDataSet& row, const char* code, const char* name);
+// Shows cash, the money account that new documents begin with.
+void show_cash(TLinkEdit& edit);
+
 // F4 opens the picker, typing offers what fits; a changed code loses the name shown beside it.
 void offer_trade_codes(TLinkEdit& edit, const TradeCode& kind);
 
