@@ -33,6 +33,17 @@ void TFrm_Base_Qry::InitForm(const Trecord& record) {
     if (filter_) Act_Locate.Execute();
 }
 
+void TFrm_Base_Qry::ShowStatement(std::int32_t function, const std::string& statement,
+                                  const std::string& conditions) {
+    Trecord record;
+    record.set_code(function);
+    Tag = function;
+    OpenQuery(record);
+    SqlText = statement;
+    ConditionLabel.Caption = conditions;
+    GetData();
+}
+
 void TFrm_Base_Qry::GetData() {
     const std::string key = current_key(AdoQry_Main, KeyField);
     opensql(AdoQry_Main, FunctionCode, SqlText + OrderText);

@@ -30,18 +30,23 @@ public:
     std::string NothingChosen = "您还没选择任何查询参数,请按【F3】呼出查询选项!";
     TLabel ConditionLabel{this, "ConditionLabel"};
 
+    // Opens the form as this function over a statement that another form made, the way from a sum
+    // to what it is made of; nothing is asked. `conditions` stands above the rows.
+    void ShowStatement(std::int32_t function, const std::string& statement,
+                       const std::string& conditions);
+
 protected:
     void Act_RefreshExecute() override; // NothingChosen, or the rows anew
     // Shows the condition dialog; on OK takes its statement, clears the order, runs it.
     void Act_LocateExecute() override;
-    // The first half of InitForm: rights, sums, the condition dialog made ready; nothing is asked.
-    void OpenQuery(const Trecord& record);
     // The form's condition dialog with the form as its parent; null for a form without one.
     virtual std::unique_ptr<TFrm_Sys_Filter> CreateFilter();
     virtual TFrm_Sys_Filter* Filter() { return filter_.get(); }
     void FormKeyDown(Key& key) override; // the space key asks for conditions, as F3
 
 private:
+    // Rights, sums, the condition dialog made ready; nothing is asked.
+    void OpenQuery(const Trecord& record);
     std::unique_ptr<TFrm_Sys_Filter> filter_;
 };
 

@@ -10,10 +10,10 @@ TF6650* F6650 = nullptr;
 
 namespace {
 
-constexpr MoneyReportKind kind{
+constexpr TradeReportKind kind{
     .caption = "现金银行总帐",
     .open_caption = "打开日记帐",
-    .nothing_chosen = "您还没选择任何汇总参数,请按【F3】呼出汇总选项!",
+    .nothing_chosen = no_sums_asked_for,
     .tip = "操作提示：【双击/回车】打开该帐户的日记帐，【空格/F3】重新筛选",
 };
 
@@ -28,12 +28,8 @@ TF6650::TF6650(TForm* parent) : MoneyReport(parent, kind) {
     AddAmountColumn("INMONEY", "收入", 18);
     AddAmountColumn("OUTMONEY", "支出", 18);
     AddAmountColumn("YE", "期末余额", 18);
-}
-
-void TF6650::InitForm(const Trecord& record) {
     SumFields = "QC,INMONEY,OUTMONEY,YE";
     KeyField = "JY_ID";
-    MoneyReport::InitForm(record);
 }
 
 std::unique_ptr<TFrm_Sys_Filter> TF6650::CreateFilter() {

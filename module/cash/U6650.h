@@ -11,7 +11,6 @@ class TF6650 : public MoneyReport {
 public:
     explicit TF6650(TForm* parent);
     const char* ClassName() const override { return "TF6650"; }
-    void InitForm(const Trecord& record) override;
 
 protected:
     std::unique_ptr<TFrm_Sys_Filter> CreateFilter() override;

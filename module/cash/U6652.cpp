@@ -15,10 +15,10 @@ namespace {
 
 constexpr std::int32_t code = 652;
 
-constexpr MoneyReportKind kind{
+constexpr TradeReportKind kind{
     .caption = "现金银行日记帐",
     .open_caption = "打开单据",
-    .nothing_chosen = "您还没选择任何查询参数,请按【F3 或 空格】呼出查询选项!",
+    .nothing_chosen = no_rows_asked_for,
     .tip = "操作提示：【双击/回车】打开单据，【空格/F3】重新筛选",
 };
 
@@ -41,26 +41,11 @@ TF6652::TF6652(TForm* parent) : MoneyReport(parent, kind) {
     // The balance runs from row to row: in another order it would say nothing.
     DBGridEh.OnTitleClick = [](int) {};
     SumFields = "INMONEY,OUTMONEY";
-}
-
-void TF6652::InitForm(const Trecord& record) {
     KeyField = "NOID";
-    MoneyReport::InitForm(record);
 }
 
 std::unique_ptr<TFrm_Sys_Filter> TF6652::CreateFilter() {
     return std::make_unique<TF6652F>(this);
-}
-
-void TF6652::ShowStatement(const std::string& statement, const std::string& title) {
-    Trecord record;
-    record.set_code(code);
-    Tag = code;
-    KeyField = "NOID";
-    OpenQuery(record);
-    SqlText = statement;
-    ConditionLabel.Caption = title;
-    GetData();
 }
 
 // The end goes into the call as it is, although the call leaves its end out: what moved on the last
@@ -71,9 +56,10 @@ void open_daybook_of(const MoneyAccount& account, const DaysAsked& days, TForm* 
                                   ",@JY_ID=" + quoted(account.code);
     open_or_release(new TF6652(opener), [&](TF6652& daybook) {
         daybook.SetTabTitle(daybook.Caption.get() + " " + account.code);
-        daybook.ShowStatement(statement, " ●帐户:" + account.code + " " + account.name +
-                                             "     ●日期:" + days.first + " 至 " + days.last +
-                                             " 之前（不含 " + days.last + " 当日）");
+        daybook.ShowStatement(code, statement,
+                              " ●帐户:" + account.code + " " + account.name + "     ●日期:" +
+                                  days.first + " 至 " + days.last + " 之前（不含 " + days.last +
+                                  " 当日）");
     });
 }
 

@@ -11,10 +11,6 @@ class TF6652 : public MoneyReport {
 public:
     explicit TF6652(TForm* parent);
     const char* ClassName() const override { return "TF6652"; }
-    void InitForm(const Trecord& record) override;
-    // Shows what `statement` answers; nothing is asked. `title` stands above the rows.
-    void ShowStatement(const std::string& statement, const std::string& title);
-
     Sheet MakeSheet() override; // pages carry their sums over
 
 protected:

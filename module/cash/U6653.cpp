@@ -9,10 +9,10 @@ TF6653* F6653 = nullptr;
 
 namespace {
 
-constexpr MoneyReportKind kind{
+constexpr TradeReportKind kind{
     .caption = "收支明细表",
     .open_caption = "打开单据",
-    .nothing_chosen = "您还没选择任何查询参数,请按【F3 或 空格】呼出查询选项!",
+    .nothing_chosen = no_rows_asked_for,
     .tip = "操作提示：【双击/回车】打开单据，【空格/F3】重新筛选",
 };
 
@@ -31,13 +31,9 @@ TF6653::TF6653(TForm* parent) : MoneyReport(parent, kind) {
     AddColumn("BM_NAME", "部门", 10);
     AddColumn("YW_NAME", "业务员", 10);
     show_days_as_dates();
-}
-
-void TF6653::InitForm(const Trecord& record) {
     SumFields = "INMONEY,OUTMONEY";
     OrderFields = "BDATE,C,NOID";
     KeyField = "NOID";
-    MoneyReport::InitForm(record);
 }
 
 std::unique_ptr<TFrm_Sys_Filter> TF6653::CreateFilter() {

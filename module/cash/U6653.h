@@ -9,7 +9,6 @@ class TF6653 : public MoneyReport {
 public:
     explicit TF6653(TForm* parent);
     const char* ClassName() const override { return "TF6653"; }
-    void InitForm(const Trecord& record) override;
 
 protected:
     std::unique_ptr<TFrm_Sys_Filter> CreateFilter() override;

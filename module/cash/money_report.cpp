@@ -1,21 +1,9 @@
-// What the reports on money accounts share: the buttons, the words, the way to a row's document.
+// What the reports on money accounts share: dates without a time, the way to a row's document.
 #include "module/cash/money_report.h"
 
 #include "module/cash/money_document.h"
 
 namespace module {
-
-MoneyReport::MoneyReport(TForm* parent, const MoneyReportKind& kind) : TFrm_Base_Qry(parent) {
-    Caption = kind.caption;
-    NothingChosen = kind.nothing_chosen;
-    Act_Open.Caption = kind.open_caption;
-    Act_Open.OnExecute = [this] { DBGridEhDblClick(); };
-    TipLabel.Caption = kind.tip;
-    DBGridEh.EmptyText = "没有数据，请按 F3 选择查询条件";
-    layout = Rows({ToolBar({&Act_Locate, &Act_Refresh, nullptr, &Act_Open, nullptr, &Act_Print,
-                            &Act_Preview, &Act_Export, nullptr, &Act_Quit}),
-                   Control(ConditionLabel), Rest(DBGridEh), StatusLine({Control(TipLabel)})});
-}
 
 void MoneyReport::open_document_of_row() {
     if (AdoQry_Main.IsEmpty()) return;

@@ -44,14 +44,8 @@ LedgerFilter* TF6685::Conditions() {
 
 void TF6685::open686(const std::string& statement, const std::string& title) {
     arrange(false);
-    Trecord record;
-    record.set_code(code);
-    Tag = code;
     SetTabTitle(Caption.get() + " " + GETCODE(title));
-    OpenQuery(record);
-    SqlText = statement;
-    ConditionLabel.Caption = title;
-    GetData();
+    ShowStatement(code, statement, title);
 }
 
 void open_detailed_ledger(TForm* opener, const LedgerCall& call, const std::string& title) {

@@ -10,17 +10,16 @@ TF6633* F6633 = nullptr;
 
 namespace {
 
-constexpr PartyReportKind kind = {
-    .side = receivables,
+constexpr TradeReportKind kind = {
     .caption = "销售收款汇总表",
     .open_caption = "打开明细表",
-    .nothing_asked = "您还没选择任何汇总参数,请按【F3】呼出汇总选项!",
+    .nothing_chosen = no_sums_asked_for,
     .tip = "操作提示：【双击/回车】打开明细表，【空格/F3】重新筛选",
 };
 
 } // namespace
 
-TF6633::TF6633(TForm* parent) : PartySummary(parent, kind) {}
+TF6633::TF6633(TForm* parent) : PartySummary(parent, receivables, kind) {}
 
 std::unique_ptr<TFrm_Sys_Filter> TF6633::CreateFilter() {
     auto dialog = std::make_unique<TF6633F>(this);

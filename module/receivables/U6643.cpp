@@ -10,17 +10,16 @@ TF6643* F6643 = nullptr;
 
 namespace {
 
-constexpr PartyReportKind kind = {
-    .side = payables,
+constexpr TradeReportKind kind = {
     .caption = "采购付款汇总表",
     .open_caption = "打开明细表",
-    .nothing_asked = "您还没选择任何汇总参数,请按【F3】呼出汇总选项!",
+    .nothing_chosen = no_sums_asked_for,
     .tip = "操作提示：【双击/回车】打开明细表，【空格/F3】重新筛选",
 };
 
 } // namespace
 
-TF6643::TF6643(TForm* parent) : PartySummary(parent, kind) {}
+TF6643::TF6643(TForm* parent) : PartySummary(parent, payables, kind) {}
 
 std::unique_ptr<TFrm_Sys_Filter> TF6643::CreateFilter() {
     auto dialog = std::make_unique<TF6643F>(this);

@@ -10,73 +10,51 @@
 
 namespace module {
 
-namespace {
-
-const char* const nothing_asked_to_print = "您还没选择任何汇总参数,请按【F3】呼出汇总选项!";
-
-} // namespace
-
 // ---- opening ----
 
-PartyReport::PartyReport(TForm* parent, const PartyReportKind& kind)
-    : TFrm_Base_Qry(parent), kind_(kind) {
-    Caption = kind.caption;
+PartyReport::PartyReport(TForm* parent, const TradeSide& side, const TradeReportKind& kind)
+    : TradeReport(parent, kind), side_(side) {
     KeyField = "KH_GYS_ID";
-    NothingChosen = kind.nothing_asked;
-    Act_Open.Caption = kind.open_caption;
-    Act_Open.OnExecute = [this] {
-        DBGridEhDblClick();
-    };
-    TipLabel.Caption = kind.tip;
-    DBGridEh.EmptyText = "没有数据，请按 F3 选择查询条件";
-    const TradeCode& party = kind.side.parties;
+    const TradeCode& party = side.parties;
     AddColumn("KH_GYS_ID", party.code_title, 10);
     AddColumn("KG_NAME", std::string(party.what) + "简称", -1);
-    layout = Rows({ToolBar({&Act_Locate, &Act_Refresh, nullptr, &Act_Open, nullptr, &Act_Print,
-                            &Act_Preview, &Act_Export, nullptr, &Act_Quit}),
-                   Control(ConditionLabel), Rest(DBGridEh), StatusLine({Control(TipLabel)})});
 }
 
-PartyDetail::PartyDetail(TForm* parent, const PartyReportKind& kind) : PartyReport(parent, kind) {
+PartyDetail::PartyDetail(TForm* parent, const TradeSide& side, const TradeReportKind& kind)
+    : PartyReport(parent, side, kind) {
     SumFields = "A,B,C,F,D";
     DBGridEh.Columns.front().Tag = group_tag;
     AddColumn("BDATE", "日期", 10);
     AddColumn("NOID", "单号", 14);
     AddColumn("MNAME", "单据类型", 10);
-    AddAmountColumn("A", kind.side.opening, 12);
-    AddAmountColumn("B", kind.side.added, 12);
-    AddAmountColumn("C", kind.side.settled, 12);
-    AddAmountColumn("F", kind.side.discount, 10);
-    AddAmountColumn("D", kind.side.closing, 12);
+    AddAmountColumn("A", side.opening, 12);
+    AddAmountColumn("B", side.added, 12);
+    AddAmountColumn("C", side.settled, 12);
+    AddAmountColumn("F", side.discount, 10);
+    AddAmountColumn("D", side.closing, 12);
     AdoQry_Main.DefineField("BDATE", FieldType::DateTime).DisplayFormat = "yyyy-mm-dd";
     AdoQry_Main.DefineField("mytype", FieldType::Integer); // function of the document, 0 for none
 }
 
-void PartyDetail::ShowStatement(const std::string& statement, const std::string& party,
+void PartyDetail::ShowDocuments(const std::string& statement, const std::string& party,
                                 const std::string& conditions) {
-    Trecord record;
-    record.set_code(side().detail_function);
-    Tag = side().detail_function;
     SetTabTitle(Caption.get() + " " + party);
-    OpenQuery(record);
-    SqlText = statement;
-    ConditionLabel.Caption = conditions;
-    GetData();
+    ShowStatement(side().detail_function, statement, conditions);
 }
 
-PartySummary::PartySummary(TForm* parent, const PartyReportKind& kind)
-    : PartyReport(parent, kind) {
+PartySummary::PartySummary(TForm* parent, const TradeSide& side, const TradeReportKind& kind)
+    : PartyReport(parent, side, kind) {
     SumFields = "A,B,C,D";
-    AddAmountColumn("A", kind.side.opening, 18);
-    AddAmountColumn("B", kind.side.added, 18);
-    AddAmountColumn("C", kind.side.settled_in_all, 18);
-    AddAmountColumn("D", kind.side.closing, 18);
+    AddAmountColumn("A", side.opening, 18);
+    AddAmountColumn("B", side.added, 18);
+    AddAmountColumn("C", side.settled_in_all, 18);
+    AddAmountColumn("D", side.closing, 18);
 }
 
 // ---- rows ----
 
 std::unique_ptr<PaperDocument> PartyReport::MakeDocument() {
-    if (SqlText.empty()) refuse(nothing_asked_to_print);
+    if (SqlText.empty()) refuse(no_sums_asked_for);
     return TFrm_Base_Qry::MakeDocument();
 }
 
@@ -104,7 +82,7 @@ void PartySummary::DBGridEhDblClick() {
     const std::string statement = side().documents_of_party + quoted(days.from) + ",@EDATE=" +
                                   quoted(days.until) + ",@KH_GYS_ID=" + quoted(party);
     open_or_release(NewDetail(), [&](PartyDetail& detail) {
-        detail.ShowStatement(statement, party,
+        detail.ShowDocuments(statement, party,
                              std::string(" ●") + side().parties.what + ":" + party + " " + name +
                                  "     ●日期:" + days.told);
     });
